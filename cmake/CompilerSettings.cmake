@@ -1,0 +1,24 @@
+# One place for what every target of ours is compiled with.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+
+option(QUACKDASH_WERROR "Treat warnings as errors (the test command switches this on)" OFF)
+option(QUACKDASH_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# Linked by every library, program, test and benchmark of ours; third-party code never sees it.
+add_library(quackdash_settings INTERFACE)
+target_compile_options(quackdash_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    $<$<BOOL:${QUACKDASH_WERROR}>:-Werror>)
+# GLM: silence its own deprecation guard for the extensions in use.
+target_compile_definitions(quackdash_settings INTERFACE GLM_ENABLE_EXPERIMENTAL)
+if(QUACKDASH_SANITIZE)
+    target_compile_options(quackdash_settings INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize=vptr)
+    target_link_options(quackdash_settings INTERFACE -fsanitize=address,undefined)
+endif()

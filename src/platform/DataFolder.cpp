@@ -1,0 +1,41 @@
+#include "platform/DataFolder.h"
+
+#include "app/base/Logger.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool holdsData(const fs::path& folder)
+{
+    std::error_code error;
+    return fs::is_directory(folder / "Shader", error) && fs::is_directory(folder / "Textures", error);
+}
+
+/// Where data lies seen from the folder of the running program: the installed layout first, then a build's.
+std::vector<fs::path> candidates()
+{
+    std::error_code error;
+    const fs::path program = fs::read_symlink("/proc/self/exe", error);
+    if (error) return {};
+    const fs::path folder = program.parent_path();
+    return {folder / "../share/games/quackdash", folder / "../share/quackdash", folder / "data", folder / "../../data"};
+}
+
+} // namespace
+
+bool enterDataFolder()
+{
+    if (holdsData(".")) return true;
+    for (const fs::path& folder : candidates()) {
+        std::error_code error;
+        if (!holdsData(folder)) continue;
+        fs::current_path(folder, error);
+        if (!error) return true;
+    }
+    logLine(0) << "no data folder found: neither the working directory nor a folder beside the program holds Shader and Textures" << std::endl;
+    return false;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A decoded picture: 8-bit components, rows from the bottom up, tightly packed.
+struct Image {
+    int width = 0;    ///< pixels
+    int height = 0;   ///< pixels
+    int channels = 0; ///< components a pixel, 1 to 4
+    std::vector<unsigned char> pixels; ///< width x height x channels bytes
+
+    const unsigned char* at(int x, int y) const
+    {
+        return pixels.data() + (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)) * static_cast<std::size_t>(channels);
+    }
+};
+
+/// Reads a TGA file, uncompressed or run-length encoded. Nothing when the file is missing, is no TGA or is cut short; then `error`
+/// says which of these, in a few words.
+std::optional<Image> readTga(const std::string& path, std::string& error);
+
+/// Raises each side to the smallest power of two not below it, bilinearly; a picture that has such sides comes back as it is.
+Image resampledToPowersOfTwo(Image image);

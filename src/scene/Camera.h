@@ -1,0 +1,38 @@
+#pragma once
+
+#include "scene/Attachable.h"
+
+#include <glm/glm.hpp>
+
+#include <array>
+
+/// Turns the pose of the node it hangs on into a view matrix, carries a perspective projection, and answers whether a point lies
+/// roughly inside the view. Owned by an actor or a game state; drawn through a Viewport.
+class Camera : public Attachable {
+public:
+    /// fov in degrees, near and far in world units. They shape the culling planes only: the projection is the same for every camera
+    /// (45 degrees, 1.3333334, 0.1, 1000). position is the initial view's translation, until the first update().
+    Camera(float fov, float aspect, float near, float far, const glm::vec3& position);
+
+    void update() override; ///< view from the node's world transform
+    void accept(INodeVisitor* visitor) override { visitor->visitCamera(this); }
+    void acceptRelease(INodeVisitor* visitor) override { visitor->releaseCamera(this); }
+
+    glm::mat4 getView() const { return view; }
+    glm::mat4 getProjection() const { return projection; }
+    glm::mat3 getNormalMatrix() const; ///< inverse transpose of the view's upper-left 3 x 3
+
+    /// Culling plane 0 to 5 (near, far, sides, top and bottom), in view space: a x + b y + c z + d >= 0 inside.
+    glm::vec4 getPlane(int i) const { return planes.at(static_cast<std::size_t>(i)); }
+
+    glm::vec3 getPosition() const; ///< the node's world position
+
+    /// False when the world point lies more than 5 units outside one of the planes.
+    bool isVisible(const glm::vec3& point) const;
+
+private:
+    glm::mat4 projection{1.0f};
+    glm::mat4 view{1.0f};
+    glm::mat4 eyeOffset{1.0f};
+    std::array<glm::vec4, 6> planes{};
+};

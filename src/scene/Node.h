@@ -1,0 +1,66 @@
+#pragma once
+
+#include <glm/glm.hpp>
+
+#include <string>
+#include <vector>
+
+class Attachable;
+class INodeVisitor;
+
+/// A frame of reference in the scene tree: world = parent's world x local, column vectors.
+///
+/// Nodes are created detached or by createChild, live until the process ends, and are never freed: destroy() only takes them out of
+/// the tree. World transforms are as fresh as the last SceneGraph::update.
+class Node {
+public:
+    Node() = default;
+    explicit Node(std::string nodeName);
+
+    /// Creates a node of that name as the last child and logs it at level 2.
+    Node* createChild(const std::string& childName);
+
+    void addChild(Node* child);    ///< ignored when it is among the children already
+    void removeChild(Node* child); ///< does nothing when it is no child
+    void setParent(Node* newParent); ///< leaves the old parent and becomes the new one's last child
+
+    Node* getParent() const { return parent; }
+    const std::vector<Node*>& getChildren() const { return children; }
+    std::string getName() const { return name; }
+    void setName(const std::string& newName) { name = newName; }
+
+    /// Hangs an attachment (borrowed) on this node. No check for duplicates.
+    void attach(Attachable* attachable);
+
+    void setTransform(const glm::mat4& matrix) { local = matrix; }
+
+    /// post true: local x matrix (the node's own frame); post false: matrix x local (the parent's frame).
+    void transform(const glm::mat4& matrix, bool post);
+
+    glm::mat4 getWorldTransform() const { return world; }
+    glm::vec3 getWorldPosition() const { return glm::vec3(world[3]); }
+
+    /// This node or the first descendant of that name, depth first; null when there is none.
+    Node* find(const std::string& wanted);
+
+    /// Recomputes world (identity without a parent), then updates the attachments in order.
+    virtual void updateTransform();
+
+    /// Takes the whole subtree out of the tree, children first. Nothing is freed.
+    virtual void destroy();
+
+    void update();                          ///< updateTransform and update of every child; not of this node itself
+    void accept(INodeVisitor* visitor);        ///< this node, its attachments, its children
+    void acceptRelease(INodeVisitor* visitor); ///< likewise, with the release operations
+
+protected:
+    ~Node() = default;
+
+private:
+    glm::mat4 local{1.0f};
+    glm::mat4 world{1.0f};
+    std::string name;
+    std::vector<Attachable*> attachments;
+    std::vector<Node*> children;
+    Node* parent = nullptr;
+};

@@ -1,0 +1,1 @@
+extern crate physx_sys;
