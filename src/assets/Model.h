@@ -15,6 +15,9 @@ class Shaderprogram;
 class VertexAttributeList;
 class VertexBuffer;
 
+/// How near the eye a model tends to be. Nearer layers are drawn first, so that what they hide is never shaded.
+enum class ModelLayer { Things, Ground, Sky };
+
 /// The drawable attachment of a scene node: a program, buffers with a vertex array, and a table of uniform sources. Plain data for the
 /// passes, filled by the concrete kind or by whoever builds the model. It releases none of the GL objects that it points at.
 ///
@@ -62,4 +65,7 @@ public:
     bool blended = false;
     bool castsShadow = true;
     std::uint32_t renderOrder = 0; ///< ascending
+    ModelLayer layer = ModelLayer::Things; ///< among models of equal renderOrder
+    bool isStatic = false;         ///< its node never moves: its shadow is drawn once and kept
+    float boundingRadius = 0;      ///< around the node's origin, in the model's own units; 0 when unknown
 };
