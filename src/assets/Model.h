@@ -44,7 +44,7 @@ public:
     void applyUniforms() const; ///< every entry of the table, in name order, into the program, which is current
 
     void createVAO(const VertexAttributeList* layout); ///< for the program and the vertex buffer
-    void setGeometry(const MeshGeometry& geometry);    ///< both buffers, and a vertex array for the program
+    void setGeometry(MeshGeometry& geometry);          ///< both buffers, and a vertex array for the program
 
     /// Copies the renderer's sources under the names that shaders use: "view", "projection", "normalMatrix" (the last on demand).
     void bindCameraUniforms(bool withNormalMatrix);

@@ -75,7 +75,7 @@ public:
     void setSampler(const std::string& name, GLuint textureName, int unit) const;
 
     /// Fetches the source's current value and sets it. A variant that holds a null source sets nothing. Not reentrant.
-    void setUniform(const std::string& name, const UniformVariant& source) const;
+    void setUniform(const std::string& name, const UniformVariant& uniform) const;
 
     // The visits of a UniformVariant, for setUniform() only.
     void operator()(IUniform<glm::mat4>* uniform) const;
