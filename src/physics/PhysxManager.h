@@ -67,13 +67,12 @@ public:
 private:
     explicit PhysxManager(physx::PxSimulationEventCallback* game);
 
-    void createFoundation();
-    void createPhysics();
-    void createCooking();
+    void createSdk();
     void createScene(physx::PxSimulationEventCallback* game);
     void createMaterials();
     void cookVehicleMeshes();
     void connectVisualDebugger();
+    physx::PxMaterial& getBallMaterial();
 
     static PhysxManager* theInstance;
 
@@ -82,6 +81,7 @@ private:
 
     std::array<physx::PxU32, 4> surfaceTypes{};      // drivable surface type of each standard material
     std::array<physx::PxMaterial*, 4> materials{};   // the standard materials, index = surface type
+    physx::PxMaterial* ballMaterial = nullptr;       // made with the first ball, shared by all
     std::array<physx::PxVec3, 4> wheelCentreOffsets; // relative to the chassis origin
     physx::PxConvexMesh* chassisConvexMesh = nullptr;
     std::array<physx::PxConvexMesh*, 4> wheelConvexMeshes{};
@@ -94,6 +94,8 @@ private:
     physx::PxScene* scene = nullptr;
     physx::PxDefaultCpuDispatcher* cpuDispatcher = nullptr;
 
-    float accumulator = 0; // seconds of game time not yet simulated
-    float stepSize;        // seconds
+    physx::PxU32 numThreads = 1; // the dispatcher's workers
+
+    float accumulator = 0;         // seconds of game time not yet simulated
+    float stepSize = 1.0f / 60.0f; // seconds
 };

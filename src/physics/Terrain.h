@@ -7,6 +7,7 @@
 #include <vector>
 
 namespace physx {
+class PxCooking;
 class PxMaterial;
 class PxPhysics;
 class PxRigidStatic;
@@ -23,7 +24,7 @@ public:
     Terrain();
 
     /// Puts the field into the scene with the given records on its shape and returns the node "Map" that follows it.
-    PhysicNode* createPhysics(physx::PxPhysics& physics, physx::PxScene& scene, physx::PxMaterial& material,
+    PhysicNode* createPhysics(physx::PxPhysics& physics, physx::PxCooking& cooking, physx::PxScene& scene, physx::PxMaterial& material,
         physx::PxFilterData simulationFilterData, physx::PxFilterData queryFilterData);
 
     /// Grid points in the node's frame, index row x 64 + column.
