@@ -14,6 +14,7 @@ endif()
 
 # Linked by every library, program, test and benchmark of ours; third-party code never sees it.
 add_library(quackdash_settings INTERFACE)
+target_include_directories(quackdash_settings INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(quackdash_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     $<$<BOOL:${QUACKDASH_WERROR}>:-Werror>)
 # GLM: silence its own deprecation guard for the extensions in use.
