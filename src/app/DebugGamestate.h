@@ -3,16 +3,15 @@
 #include "app/FreeFlight.h"
 #include "app/StateView.h"
 #include "app/base/IGameState.h"
-#include "scene/Node.h"
 
-class Core;
+class AppWindow;
 class QKD_Game;
 
-/// A free flight through the running world by keyboard and mouse: cars roll on, but nobody drives and no hit counts. Entered from the
-/// match and left back to it. Owned by the game.
+/// A free flight through the running world by keyboard and mouse: the cars roll on, but nobody drives and no hit counts. Entered from
+/// the match and left back to it. Owned by the game.
 class DebugGamestate : public IGameState {
 public:
-    /// The scene graph must be in the renderer's hands by now. Adds the node "CameraNode" to it.
+    /// The renderer must have the scene graph by now: the node "CameraNode" joins it.
     DebugGamestate(const std::string& name, QKD_Game& game);
 
     void enter() override;
@@ -21,9 +20,9 @@ public:
     void renderCamera(Camera*) override {}
 
 private:
-    Core& core;
     QKD_Game& game;
-    Node cameraNode;
+    AppWindow& window;
+    Node* cameraNode;
     StateView view;
     FreeFlight flight;
 };

@@ -6,7 +6,6 @@
 #include <memory>
 #include <vector>
 
-class Core;
 class QKD_Game;
 
 /// The match on the split screen: one viewport for each human player and, where that leaves a cell free, the overview in it. Runs until
@@ -25,8 +24,7 @@ private:
     void collectPlayerViewports();
     void fillFreeCell();
 
-    Core& core;
     QKD_Game& game;
     std::vector<Viewport*> viewports;
-    std::vector<std::unique_ptr<StateView>> overviews; // one more for each entry that leaves a cell free: their node holds on to them
+    std::vector<std::unique_ptr<StateView>> overviews; // one more for each entry that leaves a cell free: their node keeps its cameras
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/match/Ranking.h"
 #include "players/IMatch.h"
 #include "scene/Viewport.h"
 
@@ -40,6 +41,7 @@ public:
 
     std::vector<Player*> getPlayers() const { return players; }       ///< the human players, in order of joining
     const std::vector<Actor*>& getActors() const { return actors; }   ///< every participant, in order of joining
+    const Ranking& getRanking() const { return ranking; }
 
     int getActorCount() const override { return static_cast<int>(actors.size()); }
     int getHumanPlayerCount() const override { return static_cast<int>(players.size()); }
@@ -58,4 +60,5 @@ private:
     IStage* stage = nullptr;
     std::vector<Actor*> actors;
     std::vector<Player*> players;
+    Ranking ranking;
 };
