@@ -5,6 +5,8 @@
 #include "assets/MeshGeometry.h"
 #include "assets/Uniform_AttachableTransformation.h"
 #include "gpu/Uniform_Color.h"
+#include "gpu/Uniform_Texture.h"
+#include "render/ParticleSystem.h"
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
 #include "scene/Mesh.h"
@@ -34,36 +36,65 @@ private:
 
 } // namespace
 
-class CarStage::Dress {
+class CarStage::Dress : public ICarDress {
 public:
     Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, const MeshGeometry& tireGeometry)
-        : driver(game, colour), driverTransformation(&driver), driverColour(colour)
+        : driver(game, colour),
+          driverTransformation(&driver),
+          driverColour(colour),
+          smoke(Library::getInstance()->getShaderprogram("ParticleMovement")),
+          smokeTransformation(&smoke),
+          smokeTexture(Library::getInstance()->getTexture("Smoke"), 0)
+    {
+        dressDriver(*nodes.driver);
+        dressWheels(nodes.wheels, tireGeometry);
+        dressExhaust(*nodes.exhaust);
+    }
+
+    void setEmitterPosition(const glm::vec3& position) override { smoke.setEmitterPosition(position); }
+
+private:
+    void dressDriver(Node& node)
     {
         driver.bindCameraUniforms(true);
         driver.uniforms["model"] = &driverTransformation;
         driver.uniforms["color"] = &driverColour;
-        nodes.driver->attach(&driver);
+        node.attach(&driver);
+    }
 
-        for (Node* wheel : nodes.wheels) {
+    void dressWheels(const std::array<Node*, 4>& wheels, const MeshGeometry& tireGeometry)
+    {
+        for (Node* wheel : wheels) {
             tires.push_back(std::make_unique<TireModel>(tireGeometry));
             wheel->attach(tires.back().get());
         }
     }
 
-private:
+    void dressExhaust(Node& node)
+    {
+        smoke.bindCameraUniforms(false);
+        smoke.uniforms["model"] = &smokeTransformation;
+        smoke.uniforms["smoke"] = &smokeTexture;
+        node.attach(&smoke);
+    }
+
     DriverModel driver;
     Uniform_AttachableTransformation driverTransformation;
     Uniform_Color driverColour;
     std::vector<std::unique_ptr<TireModel>> tires;
+    ParticleSystem smoke;
+    Uniform_AttachableTransformation smokeTransformation;
+    Uniform_Texture smokeTexture;
 };
 
 CarStage::CarStage(QKD_Game* ownGame, Renderer& ownRenderer) : game(ownGame), renderer(ownRenderer) {}
 
 CarStage::~CarStage() = default;
 
-void CarStage::dressCar(const CarNodes& nodes, const glm::vec4& colour)
+ICarDress& CarStage::dressCar(const CarNodes& nodes, const glm::vec4& colour)
 {
     dresses.push_back(std::make_unique<Dress>(game, nodes, colour, getTireGeometry()));
+    return *dresses.back();
 }
 
 void CarStage::addText(const std::string& text, double x, double y)

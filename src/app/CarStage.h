@@ -9,14 +9,14 @@ class MeshGeometry;
 class QKD_Game;
 class Renderer;
 
-/// Shows participants with real models: ducks, tyres and text. Owned by the game; needs the window and the loaded assets from the first
+/// Shows participants with real models: ducks, tyres, smoke and text. Owned by the game; needs the window and the loaded assets from the first
 /// car on.
 class CarStage : public IStage {
 public:
     CarStage(QKD_Game* game, Renderer& renderer);
     ~CarStage();
 
-    void dressCar(const CarNodes& nodes, const glm::vec4& colour) override;
+    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour) override;
     void addText(const std::string& text, double x, double y) override;
     glm::ivec2 getWindowSize() const override;
 

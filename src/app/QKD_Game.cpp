@@ -10,11 +10,13 @@
 #include "app/base/FrameTimer.h"
 #include "app/base/Logger.h"
 #include "assets/Library.h"
+#include "gpu/Uniform_Texture.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
 #include "physics/Terrain.h"
 #include "players/Player.h"
 #include "render/Renderer.h"
+#include "render/Skybox.h"
 #include "render/TextRenderer.h"
 #include "scene/SceneGraph.h"
 
@@ -23,6 +25,18 @@
 namespace {
 constexpr double kRankingLogInterval = 3000; // milliseconds
 }
+
+/// The sky box with the source of its picture.
+struct QKD_Game::Sky {
+    Sky() : texture(Library::getInstance()->getTexture("Skybox"), 0)
+    {
+        box.bindCameraUniforms(false);
+        box.uniforms["tex"] = &texture;
+    }
+
+    Skybox box;
+    Uniform_Texture texture;
+};
 
 QKD_Game::QKD_Game() : renderer(*getCore()->getRenderer()), stage(this, renderer) {}
 
@@ -53,6 +67,7 @@ void QKD_Game::init()
 {
     setUpText();
     createScene();
+    createSkybox();
     createStates();
     createLightNode();
     createTerrain();
@@ -72,6 +87,12 @@ void QKD_Game::createScene()
     SceneGraph* graph = new SceneGraph();
     renderer.setSceneGraph(graph);
     setWorld(graph, &stage);
+}
+
+void QKD_Game::createSkybox()
+{
+    sky = std::make_unique<Sky>();
+    getSceneGraph()->getRoot()->createChild("Skybox")->attach(&sky->box);
 }
 
 void QKD_Game::createStates()

@@ -11,7 +11,6 @@ class DebugGamestate;
 class PlayGamestate;
 class RegisterPlayersGamestate;
 class Renderer;
-class Skybox;
 class TerrainModel;
 
 /// The game itself: builds the world, owns the states and does what every frame needs besides the current state's work: physics,
@@ -30,6 +29,8 @@ protected:
     void cleanup() override {}
 
 private:
+    struct Sky;
+
     // The steps of init(), in order.
     void setUpText();
     void createScene();
@@ -47,7 +48,7 @@ private:
     Renderer& renderer;
     CarStage stage;
     FunctionKeys functionKeys;
-    std::unique_ptr<Skybox> skybox;
+    std::unique_ptr<Sky> sky;
     std::unique_ptr<TerrainModel> terrainModel;
     std::unique_ptr<RegisterPlayersGamestate> registerState;
     std::unique_ptr<PlayGamestate> playState;

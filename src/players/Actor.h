@@ -35,10 +35,10 @@ protected:
     ~Actor() = default;
 
     IMatch& match;
+    InputDevice& device;
     Node* const node;
 
 private:
-    InputDevice& device;
     const int number;
     Camera camera;
     Viewport viewport;

@@ -7,6 +7,7 @@
 #include "physics/VehicleHandle.h"
 #include "players/IMatch.h"
 #include "players/IStage.h"
+#include "scene/SceneGraph.h"
 
 #include <glm/gtc/matrix_transform.hpp>
 #include <vehicle/PxVehicleComponents.h>
@@ -69,9 +70,9 @@ void Player::setUp()
     nodes.driver = createDriverNode();
     createLaunchNode();
     createCameraNode();
+    nodes.exhaust = createExhaustNode();
     for (unsigned wheel = 0; wheel < nodes.wheels.size(); ++wheel) nodes.wheels[wheel] = createWheel(wheel);
-    stage.dressCar(nodes, getColor());
-
+    dress = &stage.dressCar(nodes, getColor());
     vehicle->forceGear(physx::PxVehicleGearsData::eFIRST);
     respawn();
 }
@@ -83,7 +84,7 @@ void Player::createCar()
     node->addChild(chassisNode);
 }
 
-Node* Player::createDriverNode()
+Node* Player::createDriverNode() const
 {
     Node* driver = chassisNode->createChild("Entchen");
     driver->setTransform(rotation(-90, glm::vec3(0, 1, 0)) * glm::scale(glm::mat4(1.0f), glm::vec3(kDriverScale)));
@@ -105,7 +106,12 @@ void Player::createCameraNode()
     cameraNode->attach(getCamera());
 }
 
-Node* Player::createWheel(unsigned wheel)
+Node* Player::createExhaustNode() const
+{
+    return match.getSceneGraph()->getRoot()->createChild("Auspuff");
+}
+
+Node* Player::createWheel(unsigned wheel) const
 {
     PhysicNode* wheelNode = vehicle->createWheelNode(wheel);
     wheelNode->setName("Tire");
@@ -124,15 +130,21 @@ glm::vec4 Player::getColor() const
 
 std::string Player::getName() const
 {
-    return "(" + std::to_string(score) + ") Player " + std::to_string(playerNumber) + ", " + getDevice().getName();
+    return "(" + std::to_string(score) + ") Player " + std::to_string(playerNumber) + ", " + device.getName();
 }
 
 void Player::update()
 {
-    InputDevice& device = getDevice();
-    if (!device.isConnected()) return; // the car keeps the last controls
+    // Without its device the car keeps the last controls.
+    if (device.isConnected()) {
+        device.update();
+        drive();
+    }
+    dress->setEmitterPosition(getPosition());
+}
 
-    device.update();
+void Player::drive()
+{
     const DriverInput input{device.getAxis(InputDevice::kThrottleAxis), device.getAxis(InputDevice::kBrakeAxis),
         device.getAxis(InputDevice::kSteeringAxis), device.isPressed(InputDevice::kHandBrake)};
     controls.apply(input, *vehicle);
@@ -146,7 +158,7 @@ glm::vec3 Player::getPosition() const
 void Player::takeDamage(int amount)
 {
     health = std::max(health - amount, 0);
-    rumble(getDevice(), kHitRumble);
+    rumble(device, kHitRumble);
 }
 
 void Player::die()
@@ -161,7 +173,7 @@ void Player::respawn()
     const float z = randomPlace(); // drawn first: places repeat from run to run
     const float x = randomPlace();
     vehicle->placeAt(glm::vec3(x, kRespawnHeight, z));
-    rumble(getDevice(), kRespawnRumble);
+    rumble(device, kRespawnRumble);
 }
 
 void Player::drawLabel() const
@@ -175,7 +187,7 @@ void Player::drawLabel() const
     const double x = 2 * rect.x / window.x - 1 + kMargin;
     const double y = std::min(1 - (2 * rect.y / window.y - 1), kHighest);
     stage.addText("Pl. " + std::to_string(match.getRank(*this)) + " (" + std::to_string(score) + ")", x, y);
-    stage.addText(getDevice().getName(), x, y - kLineSpacing);
+    stage.addText(device.getName(), x, y - kLineSpacing);
 }
 
 glm::vec3 Player::getLaunchPosition() const

@@ -3,6 +3,7 @@
 #include "physics/DrivingControls.h"
 #include "players/Actor.h"
 
+class ICarDress;
 class IStage;
 class PhysicNode;
 class VehicleHandle;
@@ -22,7 +23,7 @@ public:
     virtual bool hasSound() const { return true; }
 
     std::string getName() const override; ///< "(3) Player 1, XBOX 2": score, player number, device
-    void update() override;               ///< reads the device and writes the car's controls
+    void update() override;               ///< reads the device, writes the car's controls, moves the smoke
     bool isPlayer() const override { return true; }
     glm::vec3 getPosition() const override; ///< of the chassis
 
@@ -45,16 +46,19 @@ public:
 
 private:
     void createCar();
+    void drive();
     void createLaunchNode();
     void createCameraNode();
-    Node* createDriverNode();
-    Node* createWheel(unsigned wheel);
+    Node* createDriverNode() const;
+    Node* createExhaustNode() const;
+    Node* createWheel(unsigned wheel) const;
 
     IStage& stage;
     PhysicNode* chassisNode = nullptr;
     VehicleHandle* vehicle = nullptr;
     DrivingControls controls;
     Node* launchNode = nullptr;
+    ICarDress* dress = nullptr;
     int health;
     int score = 0;
     int deaths = 0;

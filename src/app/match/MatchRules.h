@@ -4,7 +4,7 @@
 #include "players/IMatch.h"
 #include "scene/Viewport.h"
 
-#include <PxPhysicsAPI.h>
+#include <PxSimulationEventCallback.h>
 
 #include <optional>
 #include <vector>
