@@ -6,35 +6,47 @@ that the game wants and writes the one mesh of the file.
 import math
 import re
 
-import bmesh
 import bpy
 from mathutils import Matrix, Vector
 
+UPRIGHT = Matrix.Identity(3)
 
-def startEmpty():
-    bpy.ops.wm.read_factory_settings(use_empty=True)
+
+def oval(x, y, z, halfWidth, halfHeight, points=12, power=2.0):
+    """A ring across the x axis, from the left upwards; `power` above 2 squares it off."""
+    ring = []
+    for i in range(points):
+        c, s = math.cos(2 * math.pi * i / points), math.sin(2 * math.pi * i / points)
+        ring.append(Vector((x, y + halfWidth * math.copysign(abs(c) ** (2 / power), c),
+                            z + halfHeight * math.copysign(abs(s) ** (2 / power), s))))
+    return ring
+
+
+def circle(points):
+    """Cosines and sines of equal steps around."""
+    return [(math.cos(2 * math.pi * i / points), math.sin(2 * math.pi * i / points)) for i in range(points)]
 
 
 class Builder:
-    """Collects closed shells into one mesh. Each shell's faces wind counter-clockwise seen from outside."""
+    """Collects closed shells into one mesh. Faces wind counter-clockwise seen from outside.
+
+    An ink shell is turned inside out when exported, with its normals left pointing outwards: the game draws what faces away from
+    the eye in its outline colour, so such a shell shows as a dark mark, in a model that has but one colour.
+    """
 
     def __init__(self):
-        self.vertices, self.faces = [], []
+        self.vertices, self.faces, self.ink = [], [], []
 
-    def shell(self, vertices, faces):
+    def shell(self, vertices, faces, ink=False):
         base = len(self.vertices)
         self.vertices += [Vector(v) for v in vertices]
         self.faces += [tuple(base + i for i in face) for face in faces]
+        self.ink += [ink] * len(faces)
 
-    def mirrored(self, build):
-        """Runs build(side) for the left (+1) and the right (-1)."""
-        for side in (1, -1):
-            build(side)
+    def tube(self, rings, capStart=True, capEnd=True, ink=False):
+        """A skin over closed rings of equally many points; a ring of one point is a tip.
 
-    def rings(self, rings, capStart=True, capEnd=True):
-        """A tube through closed rings of equally many points; a ring of one point closes to a tip.
-
-        Ring points run counter-clockwise as seen from the far end of the tube, looking back to its start.
+        Ring points run counter-clockwise for one who looks from the last ring back to the first.
         """
         vertices, faces, starts = [], [], []
         for ring in rings:
@@ -45,83 +57,110 @@ class Builder:
             for i in range(n):
                 j = (i + 1) % n
                 if len(ringA) == 1:
-                    faces.append((a, b + i, b + j)[::-1] if False else (a, b + j, b + i)[::-1])
+                    faces.append((a, b + j, b + i))
                 elif len(ringB) == 1:
                     faces.append((a + i, a + j, b))
                 else:
                     faces.append((a + i, a + j, b + j, b + i))
         if capStart and len(rings[0]) > 1:
-            faces.append(tuple(range(starts[0], starts[0] + len(rings[0])))[::-1])
+            faces.append(tuple(range(len(rings[0])))[::-1])
         if capEnd and len(rings[-1]) > 1:
             faces.append(tuple(range(starts[-1], starts[-1] + len(rings[-1]))))
-        self.shell(vertices, faces)
+        self.shell(vertices, faces, ink)
 
-    def ellipsoid(self, centre, radii, segments, rings, turn=Matrix.Identity(3)):
+    def ellipsoid(self, centre, radii, segments, rings, turn=UPRIGHT, upTo=1.0, ink=False):
+        """Around the z axis before `turn`; `upTo` below 1 leaves the lower part of it away."""
         centre = Vector(centre)
         result = []
-        for k in range(rings + 1):
+        first = rings - round(rings * upTo)
+        for k in range(first, rings + 1):
             polar = math.pi * k / rings
-            circle = []
+            ring = []
             for i in range(segments if 0 < k < rings else 1):
                 around = 2 * math.pi * i / segments
-                p = Vector((math.sin(polar) * math.cos(around) * radii[0], math.sin(polar) * math.sin(around) * radii[1],
-                            -math.cos(polar) * radii[2]))
-                circle.append(centre + turn @ p)
-            result.append(circle)
-        self.rings(result)
+                ring.append(centre + turn @ Vector((math.sin(polar) * math.cos(around) * radii[0],
+                                                    math.sin(polar) * math.sin(around) * radii[1], -math.cos(polar) * radii[2])))
+            result.append(ring)
+        self.tube(result, capStart=False, ink=ink)
 
-    def torus(self, centre, radius, thickness, segments, sides, turn=Matrix.Identity(3), stretch=(1, 1)):
-        """A ring around the z axis before `turn`; `stretch` scales it along x and y."""
+    def torus(self, centre, radii, thickness, segments, sides, turn=UPRIGHT):
+        """A ring around the z axis before `turn`, `radii` along x and y."""
         centre = Vector(centre)
         vertices, faces = [], []
         for i in range(segments):
-            around = 2 * math.pi * i / segments
-            outward = Vector((math.cos(around) * stretch[0], math.sin(around) * stretch[1], 0))
-            normal = Vector((math.cos(around) / stretch[0], math.sin(around) / stretch[1], 0)).normalized()
+            c, s = math.cos(2 * math.pi * i / segments), math.sin(2 * math.pi * i / segments)
+            outward = Vector((c / radii[0], s / radii[1], 0)).normalized()
             for k in range(sides):
                 tube = 2 * math.pi * k / sides
-                p = outward * radius + normal * (thickness * math.cos(tube)) + Vector((0, 0, thickness * math.sin(tube)))
-                vertices.append(centre + turn @ p)
-        for i in range(segments):
+                vertices.append(centre + turn @ (Vector((c * radii[0], s * radii[1], thickness * math.sin(tube)))
+                                                 + outward * (thickness * math.cos(tube))))
             for k in range(sides):
-                a, b = i * sides, (i + 1) % segments * sides
-                m = (k + 1) % sides
+                a, b, m = i * sides, (i + 1) % segments * sides, (k + 1) % sides
                 faces.append((a + k, b + k, b + m, a + m))
         self.shell(vertices, faces)
 
-    def rod(self, start, end, radius, sides, radiusEnd=None):
-        """A closed cylinder (or cone, with another radius at its end) between two points."""
+    def box(self, low, high):
+        self.tube([[Vector((x, y, z)) for y, z in ((low[1], low[2]), (high[1], low[2]), (high[1], high[2]), (low[1], high[2]))]
+                   for x in (low[0], high[0])])
+
+    def rod(self, start, end, radius, sides, radiusEnd=None, ink=False):
+        """A closed cylinder, or a frustum with another radius at its end, between two points."""
         start, end = Vector(start), Vector(end)
         turn = (end - start).to_track_quat("Z", "Y").to_matrix()
-        rings = []
-        for point, r in ((start, radius), (end, radius if radiusEnd is None else radiusEnd)):
-            rings.append([point + turn @ Vector((r * math.cos(2 * math.pi * i / sides), r * math.sin(2 * math.pi * i / sides), 0))
-                          for i in range(sides)])
-        self.rings(rings)
+        self.tube([[point + turn @ Vector((r * math.cos(2 * math.pi * i / sides), r * math.sin(2 * math.pi * i / sides), 0))
+                    for i in range(sides)]
+                   for point, r in ((start, radius), (end, radius if radiusEnd is None else radiusEnd))], ink=ink)
+
+
+def shadedNormals(mesh, smoothAngle):
+    """The normal of every corner, with edges sharper than `smoothAngle` degrees left hard."""
+    for polygon in mesh.polygons:
+        polygon.use_smooth = True
+    mesh.use_auto_smooth = True
+    mesh.auto_smooth_angle = math.radians(smoothAngle)
+    mesh.calc_normals_split()
+    return [[tuple(mesh.loops[i].normal) for i in polygon.loop_indices] for polygon in mesh.polygons]
+
+
+def triangles(builder):
+    """The builder's faces as fans, with their ink flags."""
+    for face, ink in zip(builder.faces, builder.ink):
+        for i in range(1, len(face) - 1):
+            yield (face[0], face[i], face[i + 1]), ink
+
+
+def settled(text):
+    """The exported text without what keeps it from being the same on every run, and from being small."""
+    text = re.sub(r"<(created|modified)>[^<]*</", r"<\1>2024-01-01T00:00:00</", text)
+    # Set normals come back with a jitter in the fourth place, which would keep the importer from joining equal corners.
+    return re.sub(r'(<float_array id="[^"]*-normals-array"[^>]*>)([^<]*)',
+                  lambda found: found[1] + " ".join("%g" % (round(float(n), 2) + 0.0) for n in found[2].split()), text)
 
 
 def export(path, builder, axes, smoothAngle):
-    """Writes the shells as one Collada mesh. `axes` is a 3 x 3 rotation from the building axes to the file's; edges sharper
-    than `smoothAngle` degrees stay hard. Prints what was written."""
+    """Writes the shells as one Collada mesh. `axes` (3 x 3, a rotation times a scale) leads from the building axes to the file's.
+    Edges sharper than `smoothAngle` degrees stay hard."""
+    faces, ink = zip(*triangles(builder))
+    vertices = [axes @ v for v in builder.vertices]
+
+    bpy.ops.wm.read_factory_settings(use_empty=True)
+    draft = bpy.data.meshes.new("draft")
+    draft.from_pydata(vertices, [], faces)
+    if draft.validate(verbose=True):
+        raise SystemExit(path + ": degenerate or doubled faces")
+    normals = shadedNormals(draft, smoothAngle)
+
     mesh = bpy.data.meshes.new("mesh")
-    mesh.from_pydata([axes @ v for v in builder.vertices], [], builder.faces)
-    work = bmesh.new()
-    work.from_mesh(mesh)
-    bmesh.ops.triangulate(work, faces=work.faces)
-    work.to_mesh(mesh)
-    work.free()
-    assert not mesh.validate(), "broken faces"
-    for polygon in mesh.polygons:
-        polygon.use_smooth = True
+    mesh.from_pydata(vertices, [], [face[::-1] if inside else face for face, inside in zip(faces, ink)])
+    mesh.use_auto_smooth = True
+    mesh.normals_split_custom_set([n for corners, inside in zip(normals, ink) for n in (corners[::-1] if inside else corners)])
     thing = bpy.data.objects.new("mesh", mesh)
     bpy.context.collection.objects.link(thing)
-    bpy.context.view_layer.objects.active = thing
     thing.select_set(True)
-    split = thing.modifiers.new("hard edges", "EDGE_SPLIT")
-    split.split_angle = math.radians(smoothAngle)
-    bpy.ops.wm.collada_export(filepath=path, apply_modifiers=True, selected=True, triangulate=True)
-    text = open(path).read()
-    # The time of export would make every run another file.
-    text = re.sub(r"<(created|modified)>[^<]*</", r"<\1>2024-01-01T00:00:00</", text)
-    open(path, "w").write(text)
-    print("%s: %d triangles" % (path, len(mesh.polygons)))
+    bpy.ops.wm.collada_export(filepath=path, selected=True, triangulate=False)
+
+    with open(path) as file:
+        text = file.read()
+    with open(path, "w") as file:
+        file.write(settled(text))
+    print("%s: %d triangles" % (path, len(faces)))
