@@ -5,6 +5,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -55,7 +56,8 @@ bool isTgaHeader(const std::vector<unsigned char>& bytes)
 std::optional<Image> readTga(const std::string& path, std::string& error)
 {
     std::ifstream file(path, std::ios::binary);
-    if (!file) {
+    std::error_code status;
+    if (!file || !std::filesystem::is_regular_file(path, status)) { // a folder opens, and throws when read
         error = "couldn't open file";
         return std::nullopt;
     }

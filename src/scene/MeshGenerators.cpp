@@ -50,13 +50,9 @@ void createBox(Mesh& mesh, const glm::vec3& min, const glm::vec3& max)
     }
     for (int face = 0; face < 6; ++face) {
         const int b = 4 * face;
-        if (face == kBottomFace) {
-            appendTriangle(mesh, b, b + 1, b + 2);
-            appendTriangle(mesh, b + 2, b + 3, b);
-        } else {
-            appendTriangle(mesh, b, b + 2, b + 1);
-            appendTriangle(mesh, b + 2, b, b + 3);
-        }
+        if (face == kBottomFace) appendTriangle(mesh, b, b + 1, b + 2);
+        else appendTriangle(mesh, b, b + 2, b + 1);
+        appendTriangle(mesh, b + 2, b, b + 3);
     }
 }
 

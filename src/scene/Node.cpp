@@ -28,7 +28,7 @@ void Node::removeChild(Node* child)
 {
     const auto found = std::find(children.begin(), children.end(), child);
     if (found == children.end()) return;
-    child->parent = nullptr;
+    if (child->parent == this) child->parent = nullptr; // it may have been added elsewhere since
     children.erase(found);
 }
 
@@ -66,8 +66,9 @@ void Node::updateTransform()
 
 void Node::destroy()
 {
-    // Each child leaves the sequence by its own destroy(), which may be a physics node's.
-    while (!children.empty()) children.front()->destroy();
+    // Each child goes by its own destroy(), which may be a physics node's, and takes itself out of the sequence.
+    for (Node* child : std::vector<Node*>(children)) child->destroy();
+    children.clear();
     if (parent) parent->removeChild(this);
 }
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "SteppedClock.h"
+#include "WanderingDevice.h"
+#include "app/QKD_Game.h"
+
+#include <memory>
+#include <vector>
+
+class IGameState;
+
+/// The whole game, window included, with a hand on its loop: players that drive by themselves, a clock that the benchmark steps, and a
+/// pass that can be taken apart.
+class BenchGame : public QKD_Game {
+public:
+    /// Opens the window, loads everything and builds the world. False when there is no display.
+    [[nodiscard]] bool start();
+
+    /// Has players join until there are that many, and starts (or starts anew) the match with the screen split for them.
+    void showPlayers(int count);
+
+    void pass(); ///< one pass of the main loop, without its sleep
+    void updateOnly();
+    void drawOnly();
+
+    Renderer& getRenderer();
+
+private:
+    SteppedClock clock;
+    std::vector<std::unique_ptr<WanderingDevice>> devices;
+};

@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/BasicShader.vert
+FRAGMENT_SHADER Shader/BasicShader.frag

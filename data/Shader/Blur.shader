@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/Blur.vert
+FRAGMENT_SHADER Shader/Blur.frag

@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/Cel.vert
+FRAGMENT_SHADER Shader/Cel.frag

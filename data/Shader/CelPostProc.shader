@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/CelPostProc.vert
+FRAGMENT_SHADER Shader/CelPostProc.frag

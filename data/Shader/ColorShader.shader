@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/ColorShader.vert
+FRAGMENT_SHADER Shader/ColorShader.frag

@@ -1,0 +1,1 @@
+VERTEX_SHADER Shader/ParticleMovement.vert

@@ -1,0 +1,3 @@
+VERTEX_SHADER Shader/ParticleRender.vert
+GEOMETRY_SHADER Shader/ParticleRender.geom
+FRAGMENT_SHADER Shader/ParticleRender.frag

@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/PlayerShader.vert
+FRAGMENT_SHADER Shader/PlayerShader.frag

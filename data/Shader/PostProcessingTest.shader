@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/PostProcessingTest.vert
+FRAGMENT_SHADER Shader/PostProcessingTest.frag

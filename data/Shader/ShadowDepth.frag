@@ -1,0 +1,5 @@
+#version 430 core
+
+void main()
+{
+}

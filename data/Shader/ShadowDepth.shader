@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/ShadowDepth.vert
+FRAGMENT_SHADER Shader/ShadowDepth.frag

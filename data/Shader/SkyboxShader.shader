@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/SkyboxShader.vert
+FRAGMENT_SHADER Shader/SkyboxShader.frag

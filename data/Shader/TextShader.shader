@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/TextShader.vert
+FRAGMENT_SHADER Shader/TextShader.frag

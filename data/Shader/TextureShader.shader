@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/TextureShader.vert
+FRAGMENT_SHADER Shader/TextureShader.frag

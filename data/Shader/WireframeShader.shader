@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/WireframeShader.vert
+FRAGMENT_SHADER Shader/WireframeShader.frag

@@ -1,0 +1,118 @@
+#include "app/CarStage.h"
+
+#include "assets/DriverModel.h"
+#include "assets/Library.h"
+#include "assets/MeshGeometry.h"
+#include "assets/Uniform_AttachableTransformation.h"
+#include "gpu/Uniform_Color.h"
+#include "gpu/Uniform_Texture.h"
+#include "render/ParticleSystem.h"
+#include "render/Renderer.h"
+#include "render/TextRenderer.h"
+#include "scene/Mesh.h"
+#include "scene/MeshGenerators.h"
+#include "scene/Node.h"
+
+namespace {
+
+constexpr float kTireRadius = 0.45f; // world units
+constexpr float kTireWidth = 0.35f;  // world units
+constexpr int kTireSegments = 8;
+
+class TireModel : public Model {
+public:
+    explicit TireModel(const MeshGeometry& geometry) : transformation(this)
+    {
+        shader = Library::getInstance()->getShaderprogram("WireframeShader");
+        setGeometry(geometry);
+        setName("Tire");
+        bindCameraUniforms(false);
+        uniforms["model"] = &transformation;
+    }
+
+private:
+    Uniform_AttachableTransformation transformation;
+};
+
+} // namespace
+
+class CarStage::Dress : public ICarDress {
+public:
+    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, const MeshGeometry& tireGeometry)
+        : driver(game, colour),
+          driverTransformation(&driver),
+          driverColour(colour),
+          smoke(Library::getInstance()->getShaderprogram("ParticleMovement")),
+          smokeTransformation(&smoke),
+          smokeTexture(Library::getInstance()->getTexture("Smoke"), 0)
+    {
+        dressDriver(*nodes.driver);
+        dressWheels(nodes.wheels, tireGeometry);
+        dressExhaust(*nodes.exhaust);
+    }
+
+    void setEmitterPosition(const glm::vec3& position) override { smoke.setEmitterPosition(position); }
+
+private:
+    void dressDriver(Node& node)
+    {
+        driver.bindCameraUniforms(true);
+        driver.uniforms["model"] = &driverTransformation;
+        driver.uniforms["color"] = &driverColour;
+        node.attach(&driver);
+    }
+
+    void dressWheels(const std::array<Node*, 4>& wheels, const MeshGeometry& tireGeometry)
+    {
+        for (Node* wheel : wheels) {
+            tires.push_back(std::make_unique<TireModel>(tireGeometry));
+            wheel->attach(tires.back().get());
+        }
+    }
+
+    void dressExhaust(Node& node)
+    {
+        smoke.bindCameraUniforms(false);
+        smoke.uniforms["model"] = &smokeTransformation;
+        smoke.uniforms["smoke"] = &smokeTexture;
+        node.attach(&smoke);
+    }
+
+    DriverModel driver;
+    Uniform_AttachableTransformation driverTransformation;
+    Uniform_Color driverColour;
+    std::vector<std::unique_ptr<TireModel>> tires;
+    ParticleSystem smoke;
+    Uniform_AttachableTransformation smokeTransformation;
+    Uniform_Texture smokeTexture;
+};
+
+CarStage::CarStage(QKD_Game* ownGame, Renderer& ownRenderer) : game(ownGame), renderer(ownRenderer) {}
+
+CarStage::~CarStage() = default;
+
+ICarDress& CarStage::dressCar(const CarNodes& nodes, const glm::vec4& colour)
+{
+    dresses.push_back(std::make_unique<Dress>(game, nodes, colour, getTireGeometry()));
+    return *dresses.back();
+}
+
+void CarStage::addText(const std::string& text, double x, double y)
+{
+    renderer.getTextRenderer()->addText(text, x, y);
+}
+
+glm::ivec2 CarStage::getWindowSize() const
+{
+    return {renderer.getWidth(), renderer.getHeight()};
+}
+
+const MeshGeometry& CarStage::getTireGeometry()
+{
+    if (!tireGeometry) {
+        Mesh mesh;
+        createCylinder(mesh, kTireRadius, kTireWidth, kTireSegments);
+        tireGeometry = std::make_unique<MeshGeometry>(mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position});
+    }
+    return *tireGeometry;
+}

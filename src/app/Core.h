@@ -1,0 +1,22 @@
+#pragma once
+
+class GameStateManager;
+class Renderer;
+
+/// Holds the renderer and the state manager. One for the process: created on first use, never destroyed.
+class Core {
+public:
+    static Core* getInstance();
+
+    /// Imports the game's meshes, then opens the window. False when no picture can be had; the log says why.
+    [[nodiscard]] bool init();
+
+    Renderer* getRenderer() const { return renderer; }
+    GameStateManager* getStateManager() const { return stateManager; }
+
+private:
+    Core();
+
+    GameStateManager* stateManager;
+    Renderer* renderer;
+};

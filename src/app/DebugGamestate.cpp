@@ -1,0 +1,69 @@
+#include "app/DebugGamestate.h"
+
+#include "app/Core.h"
+#include "app/GameStateManager.h"
+#include "app/QKD_Game.h"
+#include "app/base/FrameTimer.h"
+#include "app/base/Logger.h"
+#include "assets/Library.h"
+#include "platform/AppWindow.h"
+#include "render/Renderer.h"
+#include "scene/Node.h"
+#include "scene/SceneGraph.h"
+
+#include <GLFW/glfw3.h>
+#include <glm/gtc/matrix_transform.hpp>
+
+namespace {
+
+Node* createCameraNode(const QKD_Game& game)
+{
+    const glm::mat4 identity(1.0f);
+    Node* node = new Node("CameraNode");
+    game.getSceneGraph()->getRoot()->addChild(node);
+    node->transform(glm::rotate(identity, glm::radians(180.0f), glm::vec3(0, 1, 0)), true);
+    node->transform(glm::rotate(identity, glm::radians(-15.0f), glm::vec3(1, 0, 0)), true);
+    node->transform(glm::translate(identity, glm::vec3(0, 5, -15)), false);
+    return node;
+}
+
+FreeFlight::Mouse mouseIn(const AppWindow& window)
+{
+    const AppWindow::Position position = window.mousePosition();
+    return {position.x, position.y};
+}
+
+} // namespace
+
+DebugGamestate::DebugGamestate(const std::string& name, QKD_Game& ownGame)
+    : IGameState(name),
+      game(ownGame),
+      window(ownGame.getCore()->getRenderer()->getWindow()),
+      cameraNode(createCameraNode(ownGame)),
+      view(ownGame.getWindowRect(), cameraNode),
+      flight(*cameraNode)
+{
+}
+
+void DebugGamestate::enter()
+{
+    logLine(2) << "Enter TestState1" << std::endl;
+    game.getCore()->getRenderer()->setViewports({view.getViewport()});
+    window.captureCursor(true);
+    flight.start(mouseIn(window)); // a mouse that moved since the last visit does not make the view jump
+}
+
+void DebugGamestate::leave()
+{
+    logLine(2) << "Leave TestState1" << std::endl;
+    window.captureCursor(false);
+}
+
+void DebugGamestate::update()
+{
+    if (isKeyDown(GLFW_KEY_F5)) Library::getInstance()->loadShader("WireframeShader", "Shader/WireframeShader.shader");
+    if (isKeyDown(GLFW_KEY_F3)) logLine(2) << "FPS: " << 1 / FrameTimer::getInstance()->getDelta() << std::endl;
+    flight.update(mouseIn(window), gameDelta());
+    if (isKeyDown(GLFW_KEY_F11)) game.getCore()->getStateManager()->changeState("PlayGamestate");
+    if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
+}

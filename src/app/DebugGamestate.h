@@ -1,0 +1,28 @@
+#pragma once
+
+#include "app/FreeFlight.h"
+#include "app/StateView.h"
+#include "app/base/IGameState.h"
+
+class AppWindow;
+class QKD_Game;
+
+/// A free flight through the running world by keyboard and mouse: the cars roll on, but nobody drives and no hit counts. Entered from
+/// the match and left back to it. Owned by the game.
+class DebugGamestate : public IGameState {
+public:
+    /// The renderer must have the scene graph by now: the node "CameraNode" joins it.
+    DebugGamestate(const std::string& name, QKD_Game& game);
+
+    void enter() override;
+    void leave() override;
+    void update() override;
+    void renderCamera(Camera*) override {}
+
+private:
+    QKD_Game& game;
+    AppWindow& window;
+    Node* cameraNode;
+    StateView view;
+    FreeFlight flight;
+};

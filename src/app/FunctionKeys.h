@@ -1,0 +1,33 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <vector>
+
+/// The game's debug switches on F1 to F12: which key does what, once a press or as long as it is held. bind() at the start, then
+/// update() once a drawn frame. Actions run in the order in which they were bound.
+class FunctionKeys {
+public:
+    enum class When {
+        kPressed, ///< down now and not in the previous frame
+        kHeld,    ///< in every frame in which it is down
+    };
+
+    /// number: 1 to 12.
+    void bind(int number, When when, std::function<void()> action);
+
+    /// Reads the twelve keys, runs what is due, and remembers the keys for the next frame.
+    void update();
+
+private:
+    static constexpr int kKeyCount = 12;
+
+    struct Binding {
+        int number;
+        When when;
+        std::function<void()> action;
+    };
+
+    std::vector<Binding> bindings;
+    std::array<bool, kKeyCount> keyWasDown{}; // F1 first
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/StateView.h"
+#include "app/base/IGameState.h"
+
+#include <memory>
+#include <vector>
+
+class QKD_Game;
+
+/// The match on the split screen: one viewport for each human player and, where that leaves a cell free, the overview in it. Runs until
+/// somebody quits. Owned by the game.
+class PlayGamestate : public IGameState {
+public:
+    PlayGamestate(const std::string& name, QKD_Game& game);
+
+    void enter() override;
+    void leave() override;
+    void update() override;
+    void renderCamera(Camera*) override {}
+    void drawText(TextRenderer* text) override;
+
+private:
+    void collectPlayerViewports();
+    void fillFreeCell();
+
+    QKD_Game& game;
+    std::vector<Viewport*> viewports;
+    std::vector<std::unique_ptr<StateView>> overviews; // one more for each entry that leaves a cell free: their node keeps its cameras
+};

@@ -1,0 +1,163 @@
+#include "app/QKD_Game.h"
+
+#include "app/AssetManifest.h"
+#include "app/Core.h"
+#include "app/DebugGamestate.h"
+#include "app/GameStateManager.h"
+#include "app/PlayGamestate.h"
+#include "app/RegisterPlayersGamestate.h"
+#include "app/TerrainModel.h"
+#include "app/base/FrameTimer.h"
+#include "app/base/Logger.h"
+#include "assets/Library.h"
+#include "gpu/Uniform_Texture.h"
+#include "physics/PhysicNode.h"
+#include "physics/PhysxManager.h"
+#include "physics/Terrain.h"
+#include "players/Player.h"
+#include "render/Renderer.h"
+#include "render/Skybox.h"
+#include "render/TextRenderer.h"
+#include "scene/SceneGraph.h"
+
+#include <glm/gtc/matrix_transform.hpp>
+
+namespace {
+constexpr double kRankingLogInterval = 3000; // milliseconds
+}
+
+/// The sky box with the source of its picture.
+struct QKD_Game::Sky {
+    Sky() : texture(Library::getInstance()->getTexture("Skybox"), 0)
+    {
+        box.bindCameraUniforms(false);
+        box.uniforms["tex"] = &texture;
+    }
+
+    Skybox box;
+    Uniform_Texture texture;
+};
+
+QKD_Game::QKD_Game() : renderer(*getCore()->getRenderer()), stage(this, renderer) {}
+
+QKD_Game::~QKD_Game() = default;
+
+Viewport::Rect QKD_Game::getWindowRect() const
+{
+    return {0, 0, renderer.getWidth(), renderer.getHeight()};
+}
+
+void QKD_Game::loadResources()
+{
+    loadShaders();
+    loadTextures();
+}
+
+void QKD_Game::loadShaders()
+{
+    for (const Asset& shader : shaderAssets()) Library::getInstance()->loadShader(shader.name, shader.file);
+}
+
+void QKD_Game::loadTextures()
+{
+    for (const Asset& texture : textureAssets()) Library::getInstance()->loadTexture(texture.name, texture.file);
+}
+
+void QKD_Game::init()
+{
+    setUpText();
+    createScene();
+    createSkybox();
+    createStates();
+    createLightNode();
+    createTerrain();
+    bindFunctionKeys();
+    lastRankingLog = FrameTimer::getInstance()->getTimeMs();
+}
+
+void QKD_Game::setUpText()
+{
+    TextRenderer* text = renderer.getTextRenderer();
+    text->setShader(Library::getInstance()->getShaderprogram("TextShader"));
+    text->setFont(Library::getInstance()->getTexture("Font"));
+}
+
+void QKD_Game::createScene()
+{
+    SceneGraph* graph = new SceneGraph();
+    renderer.setSceneGraph(graph);
+    setWorld(graph, &stage);
+}
+
+void QKD_Game::createSkybox()
+{
+    sky = std::make_unique<Sky>();
+    getSceneGraph()->getRoot()->createChild("Skybox")->attach(&sky->box);
+}
+
+void QKD_Game::createStates()
+{
+    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this);
+    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this);
+    debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
+
+    GameStateManager* states = getCore()->getStateManager();
+    states->addState(registerState.get());
+    states->addState(playState.get());
+    states->addState(debugState.get());
+    states->changeState("RegisterPlayersGamestate");
+}
+
+void QKD_Game::createLightNode()
+{
+    Node* lightNode = getSceneGraph()->getRoot()->createChild("lightNode");
+    lightNode->transform(glm::translate(glm::mat4(1.0f), glm::vec3(3, 10, 0)), true);
+}
+
+void QKD_Game::createTerrain()
+{
+    Terrain* terrain = PhysxManager::instance()->createTerrain();
+    getSceneGraph()->getRoot()->addChild(terrain->getNode());
+    terrainModel = std::make_unique<TerrainModel>(*terrain);
+    terrain->getNode()->attach(terrainModel.get());
+}
+
+void QKD_Game::bindFunctionKeys()
+{
+    using When = FunctionKeys::When;
+    functionKeys.bind(7, When::kHeld, [this] { loadTextures(); loadShaders(); });
+    functionKeys.bind(3, When::kPressed, [this] { renderer.toggleWireframe(); });
+    functionKeys.bind(9, When::kPressed, [this] { renderer.toggleBlending(); });
+    functionKeys.bind(4, When::kPressed, [this] { renderer.toggleMagFilter(); });
+    functionKeys.bind(5, When::kPressed, [this] { renderer.cycleMinFilter(); });
+    functionKeys.bind(2, When::kPressed, [this] { renderer.toggleFpsDisplay(); });
+    functionKeys.bind(1, When::kHeld, [this] { showHelp(); });
+}
+
+void QKD_Game::showHelp()
+{
+    TextRenderer* text = renderer.getTextRenderer();
+    text->clear();
+    getCore()->getStateManager()->getCurrentState()->drawText(text);
+}
+
+void QKD_Game::update()
+{
+    stepPhysics();
+    functionKeys.update();
+    logRanking();
+}
+
+void QKD_Game::logRanking()
+{
+    constexpr const char* kPlaceNames[Ranking::kPlaces] = {"First:  ", "Second: ", "Third:  "};
+
+    const double now = FrameTimer::getInstance()->getTimeMs();
+    if (now <= lastRankingLog + kRankingLogInterval) return;
+
+    for (int place = 0; place < Ranking::kPlaces; ++place) {
+        if (const Player* leader = getRanking().getLeader(place)) logLine(2) << kPlaceNames[place] << leader->getName() << std::endl;
+    }
+    if (getRanking().getLeader(0)) logLine(2) << "" << std::endl;
+    lastRankingLog = now;
+}

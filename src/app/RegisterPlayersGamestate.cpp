@@ -1,0 +1,72 @@
+#include "app/RegisterPlayersGamestate.h"
+
+#include "app/Core.h"
+#include "app/GameStateManager.h"
+#include "app/HelpText.h"
+#include "app/QKD_Game.h"
+#include "app/base/Logger.h"
+#include "platform/Keyboard.h"
+#include "render/Renderer.h"
+#include "scene/Node.h"
+#include "scene/SceneGraph.h"
+
+#include <GLFW/glfw3.h>
+#include <glm/gtc/matrix_transform.hpp>
+
+namespace {
+
+constexpr HelpLine kHelp[] = {
+    {0, "Quackdash!"},
+    {2, "  Schiesse deine Gegner ab ohne"},
+    {3, "  selbst abgeschossen zu werden"},
+    {4, "  und werde der Punkte-Champion"},
+    {6, "Bitte registriere deine Spieler"},
+    {8, "Steuerung:"},
+    {9, "  Pfeiltasten > K"},
+    {10, "  WASD        > 1"},
+    {11, "  XBOX        > A"},
+    {13, "Um das Spiel zu starten:"},
+    {14, "  Enter oder Start"},
+};
+
+/// High above the field's edge, looking down onto it.
+Node* createPanoramaNode(const QKD_Game& game)
+{
+    const glm::mat4 identity(1.0f);
+    Node* node = new Node("PanoramaCamera");
+    game.getSceneGraph()->getRoot()->addChild(node);
+    node->transform(glm::translate(identity, glm::vec3(0, 150, -50)), true);
+    node->transform(glm::rotate(identity, glm::radians(180.0f), glm::vec3(0, 1, 0)), true);
+    node->transform(glm::rotate(identity, glm::radians(-70.0f), glm::vec3(1, 0, 0)), true);
+    return node;
+}
+
+} // namespace
+
+RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& name, QKD_Game& ownGame)
+    : IGameState(name), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)), registration(ownGame)
+{
+}
+
+void RegisterPlayersGamestate::enter()
+{
+    logLine(2) << "Enter RegisterPlayersGamestate" << std::endl;
+    game.getCore()->getRenderer()->setViewports({view.getViewport()});
+}
+
+void RegisterPlayersGamestate::leave()
+{
+    logLine(2) << "Leave RegisterPlayersGamestate" << std::endl;
+}
+
+void RegisterPlayersGamestate::update()
+{
+    registration.update();
+    if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
+    if (registration.shouldStart()) game.getCore()->getStateManager()->changeState("PlayGamestate");
+}
+
+void RegisterPlayersGamestate::drawText(TextRenderer* text)
+{
+    writeHelp(*text, kHelp);
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/StateView.h"
+#include "app/base/IGameState.h"
+#include "app/match/PlayerRegistration.h"
+
+class QKD_Game;
+
+/// The first screen: people join with their devices, seen from high above the field, until the match starts. Owned by the game.
+class RegisterPlayersGamestate : public IGameState {
+public:
+    /// The renderer must have the scene graph by now: the node "PanoramaCamera" joins it.
+    RegisterPlayersGamestate(const std::string& name, QKD_Game& game);
+
+    void enter() override;
+    void leave() override;
+    void update() override;
+    void renderCamera(Camera*) override {}
+    void drawText(TextRenderer* text) override;
+
+private:
+    QKD_Game& game;
+    StateView view;
+    PlayerRegistration registration;
+};

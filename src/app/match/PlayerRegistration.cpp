@@ -1,0 +1,38 @@
+#include "app/match/PlayerRegistration.h"
+
+#include "app/base/Logger.h"
+#include "app/match/MatchRules.h"
+#include "input/AbsentController.h"
+#include "input/KeyboardController.h"
+
+#include <algorithm>
+
+PlayerRegistration::PlayerRegistration(MatchRules& ownMatch) : match(ownMatch)
+{
+    constexpr int kPadCount = 4;
+    constexpr int kKeyboardLayouts = 2;
+    std::size_t next = 0;
+    for (int pad = 1; pad <= kPadCount; ++pad) slots[next++].device = std::make_unique<AbsentController>(pad);
+    for (int layout = 1; layout <= kKeyboardLayouts; ++layout) slots[next++].device = std::make_unique<KeyboardController>(layout);
+}
+
+void PlayerRegistration::update()
+{
+    for (Slot& slot : slots) {
+        slot.device->update();
+        if (slot.registered || !slot.device->isPressed(InputDevice::kShoot)) continue;
+        slot.registered = true;
+        match.addPlayer(slot.device.get());
+        logLine(2) << "Player registered" << std::endl;
+    }
+}
+
+bool PlayerRegistration::shouldStart() const
+{
+    constexpr int kMinParticipants = 2;
+    const int participants = match.getActorCount();
+    if (participants == kMaxParticipants) return true;
+    return participants >= kMinParticipants && std::any_of(slots.begin(), slots.end(), [](const Slot& slot) {
+        return slot.registered && slot.device->isPressed(InputDevice::kStart);
+    });
+}

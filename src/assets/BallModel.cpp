@@ -1,0 +1,37 @@
+#include "assets/BallModel.h"
+
+#include "assets/Icosphere.h"
+#include "assets/MeshGeometry.h"
+#include "gpu/DrawCalls.h"
+#include "scene/Mesh.h"
+
+namespace {
+
+constexpr float kRadius = 1.0f; // world units, as the ball of the physics world
+
+/// Shared by every ball, until the process ends.
+MeshGeometry& sphere()
+{
+    static MeshGeometry* geometry = [] {
+        Mesh mesh;
+        createIcosphere(mesh, kRadius);
+        return new MeshGeometry(mesh, {MeshAttribute::Position, MeshAttribute::Normal});
+    }();
+    return *geometry;
+}
+
+} // namespace
+
+BallModel::BallModel(QKD_Game* game, const glm::vec4& color) : owner(game), transformation(this), colour(color)
+{
+    setName("Ball");
+    setGeometry(sphere());
+    bindCameraUniforms(true);
+    uniforms["model"] = &transformation;
+    uniforms["color"] = &colour;
+}
+
+BallModel::~BallModel()
+{
+    deleteVertexArray(vao);
+}

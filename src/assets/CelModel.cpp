@@ -1,0 +1,24 @@
+#include "assets/CelModel.h"
+
+#include "assets/IRenderServices.h"
+#include "assets/Library.h"
+#include "gpu/Shaderprogram.h"
+
+CelModel::CelModel()
+{
+    shader = Library::getInstance()->getShaderprogram("Cel");
+}
+
+void CelModel::draw()
+{
+    IRenderServices* renderer = IRenderServices::current();
+    if (!renderer || !isDrawable()) return;
+
+    renderer->cullBackFaces();
+    shader->setUniform("backface", 1.0f);
+    Model::draw();
+
+    renderer->cullFrontFaces();
+    shader->setUniform("backface", 0.0f);
+    Model::draw();
+}

@@ -1,0 +1,54 @@
+#include "assets/Model.h"
+
+#include "assets/IRenderServices.h"
+#include "assets/MeshGeometry.h"
+#include "gpu/DrawCalls.h"
+#include "gpu/Shaderprogram.h"
+
+void Model::draw()
+{
+    if (isDrawable()) drawVertexArray(vao, drawMode, vertexBuffer, indexBuffer);
+}
+
+bool Model::isDrawable() const
+{
+    return shader && shader->isUsable() && hasGeometry();
+}
+
+bool Model::hasGeometry() const
+{
+    return vao != 0 && vertexBuffer && vertexBuffer->getVertexCount() > 0 && (!indexBuffer || indexBuffer->getCount() > 0);
+}
+
+void Model::bindShader() const
+{
+    if (shader) shader->use();
+    else Shaderprogram::unuse();
+}
+
+void Model::applyUniforms() const
+{
+    if (!shader) return;
+    for (const auto& [uniformName, source] : uniforms) shader->setUniform(uniformName, source);
+}
+
+void Model::createVAO(const VertexAttributeList* layout)
+{
+    vao = layout->createVAO(shader, vertexBuffer);
+}
+
+void Model::setGeometry(MeshGeometry& geometry)
+{
+    vertexBuffer = &geometry.vertices;
+    indexBuffer = &geometry.indices;
+    createVAO(&geometry.layout);
+}
+
+void Model::bindCameraUniforms(bool withNormalMatrix)
+{
+    IRenderServices* renderer = IRenderServices::current();
+    if (!renderer) return;
+    uniforms["view"] = renderer->getGlobalUniform("viewMatrix");
+    uniforms["projection"] = renderer->getGlobalUniform("projectionMatrix");
+    if (withNormalMatrix) uniforms["normalMatrix"] = renderer->getGlobalUniform("normalMatrix");
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <GL/glew.h>
+
+class IndexBuffer;
+class VertexBuffer;
+
+// What modules below the renderer need of GL to draw. Nothing here needs more than a current context.
+
+/// Whether a draw in this mode would be valid now: a usable program is current and takes the mode. For callers that issue their own draw.
+bool isReadyToDraw(GLenum mode);
+
+/// Draws with the current program: binds the vertex array, draws the whole index buffer (glDrawElements) or, when that is null, every
+/// vertex of the vertex buffer (glDrawArrays), and binds no vertex array.
+/// Draws nothing unless isReadyToDraw(mode), when vao is 0 or when both buffers are null.
+void drawVertexArray(GLuint vao, GLenum mode, const VertexBuffer* vertices, const IndexBuffer* indices);
+
+/// Deletes a vertex array object; 0 is ignored.
+void deleteVertexArray(GLuint vao);

@@ -1,0 +1,95 @@
+#include "gpu/Texture.h"
+
+#include "app/base/Logger.h"
+#include "platform/Image.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Repeats the grey component of pictures that have only that, so that every picture has three or four components.
+Image withColour(const Image& image)
+{
+    if (image.channels >= 3) return image;
+    Image result{image.width, image.height, image.channels + 2, {}};
+    for (std::size_t i = 0; i < image.pixels.size(); i += static_cast<std::size_t>(image.channels)) {
+        result.pixels.insert(result.pixels.end(), 3, image.pixels[i]);
+        if (image.channels == 2) result.pixels.push_back(image.pixels[i + 1]);
+    }
+    return result;
+}
+
+int largestSide()
+{
+    GLint side = 0;
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &side);
+    return side;
+}
+
+/// The picture as it is uploaded; nothing, with one log line, when the file does not yield one.
+std::optional<Image> readImage(const std::string& path)
+{
+    std::string error;
+    std::optional<Image> image = readTga(path, error);
+    if (image && std::max(image->width, image->height) > largestSide()) {
+        image.reset();
+        error = "picture is larger than the graphics card takes";
+    }
+    if (!image) {
+        logLine(0) << error << ": " << path << std::endl;
+        return std::nullopt;
+    }
+    return resampledToPowersOfTwo(withColour(*image));
+}
+
+} // namespace
+
+Texture::~Texture()
+{
+    glDeleteTextures(1, &handle);
+}
+
+void Texture::generate()
+{
+    glDeleteTextures(1, &handle);
+    glGenTextures(1, &handle);
+}
+
+void Texture::bind() const
+{
+    glBindTexture(GL_TEXTURE_2D, handle);
+}
+
+void Texture::unbind() const
+{
+    glBindTexture(GL_TEXTURE_2D, 0);
+}
+
+void Texture::setFilter(GLint magFilter, GLint minFilter)
+{
+    bind();
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, magFilter);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, minFilter);
+    unbind();
+}
+
+void Texture::load(const std::string& path)
+{
+    const std::optional<Image> image = readImage(path);
+    generate();
+    bind();
+    if (image) uploadImage(*image);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_REPEAT);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_REPEAT);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
+    if (image) glGenerateMipmap(GL_TEXTURE_2D);
+    unbind();
+}
+
+void Texture::uploadImage(const Image& image)
+{
+    const GLenum format = image.channels == 4 ? GL_RGBA : GL_RGB;
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(format), image.width, image.height, 0, format, GL_UNSIGNED_BYTE, image.pixels.data());
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/base/ILibraryObject.h"
+
+#include <GL/glew.h>
+
+#include <string>
+
+struct Image;
+
+/// A two-dimensional GL texture, read from a TGA file. Owned by the asset library; everybody else borrows it.
+class Texture : public ILibraryObject {
+public:
+    Texture() = default; ///< without a texture object
+    virtual ~Texture();
+    Texture(const Texture&) = delete;
+    Texture& operator=(const Texture&) = delete;
+
+    /// Puts a fresh texture object in place of the old one, which is deleted.
+    void generate();
+
+    void bind() const;   ///< on the active unit
+    void unbind() const;
+    GLuint getHandle() const { return handle; } ///< 0 before the first generate()
+
+    void setFilter(GLint magFilter, GLint minFilter);
+
+    /// Reads a file into a fresh texture object: sides raised to powers of two, repeating, trilinear, with mipmaps. A file that is
+    /// missing or broken gives one log line at level 0 and leaves the object without an image, which samples as black.
+    void load(const std::string& path);
+
+private:
+    void uploadImage(const Image& image);
+
+    GLuint handle = 0;
+};

@@ -1,0 +1,54 @@
+#include "input/KeyboardController.h"
+
+#include "platform/Keyboard.h"
+
+#include <GLFW/glfw3.h>
+
+namespace {
+
+constexpr int kButtonCount = 7;
+
+// By key set, then by button.
+constexpr int kKeys[2][kButtonCount] = {
+    {GLFW_KEY_UP, GLFW_KEY_DOWN, GLFW_KEY_LEFT, GLFW_KEY_RIGHT, GLFW_KEY_K, GLFW_KEY_L, GLFW_KEY_ENTER},
+    {GLFW_KEY_W, GLFW_KEY_S, GLFW_KEY_A, GLFW_KEY_D, GLFW_KEY_1, GLFW_KEY_2, GLFW_KEY_TAB},
+};
+
+constexpr const char* kNames[2] = {"Pfeil", "WASD"};
+
+} // namespace
+
+bool KeyboardController::isPressed(int button)
+{
+    return button >= 0 && button < kButtonCount && isKeyDown(kKeys[keySet][button]);
+}
+
+float KeyboardController::getAxis(int axis)
+{
+    switch (axis) {
+    case kThrottleAxis: return amount(kAccelerate);
+    case kBrakeAxis: return -amount(kBrake);
+    case kSteeringAxis: return amount(kSteerRight) - amount(kSteerLeft);
+    default: return 0.0f;
+    }
+}
+
+void KeyboardController::update()
+{
+    keyboard().poll();
+}
+
+std::string KeyboardController::getName() const
+{
+    return kNames[keySet];
+}
+
+bool KeyboardController::isStartPressed()
+{
+    return isKeyDown(GLFW_KEY_ENTER);
+}
+
+bool KeyboardController::isBackPressed()
+{
+    return isKeyDown(GLFW_KEY_ESCAPE);
+}

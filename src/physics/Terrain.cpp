@@ -1,0 +1,108 @@
+#include "physics/Terrain.h"
+
+#include "app/base/Logger.h"
+#include "physics/PhysicNode.h"
+#include "platform/Image.h"
+
+#include <PxPhysicsAPI.h>
+
+#include <optional>
+#include <string>
+
+using namespace physx;
+
+namespace {
+
+constexpr const char* kHeightImage = "Textures/map.tga";
+constexpr int kImageSide = 512; // pixels that the field is sampled from, and its edge length in world units
+constexpr PxI16 kFlatHeight = 204; // height 40: cars enter at 50, and a longer fall turns some of them over
+
+} // namespace
+
+Terrain::Terrain()
+    : rowScale(static_cast<float>(kImageSide) / static_cast<float>(size)), columnScale(rowScale),
+      samples(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns))
+{
+    std::string error;
+    const std::optional<Image> image = readTga(kHeightImage, error);
+    if (image && (image->width < kImageSide || image->height < kImageSide)) {
+        error = "height picture is smaller than " + std::to_string(kImageSide) + " x " + std::to_string(kImageSide);
+    }
+    if (error.empty()) {
+        sample(*image);
+    } else {
+        logLine(0) << error << ": " << kHeightImage << std::endl;
+        flatten();
+    }
+}
+
+void Terrain::sample(const Image& image)
+{
+    const int rowPixels = static_cast<int>(rowScale), columnPixels = static_cast<int>(columnScale); // one pixel a world unit
+    auto* next = samples.data();
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) (next++)->height = *image.at(column * columnPixels, row * rowPixels);
+    }
+}
+
+void Terrain::flatten()
+{
+    for (PxHeightFieldSample& point : samples) point.height = kFlatHeight;
+}
+
+PhysicNode* Terrain::createPhysics(PxPhysics& physics, PxCooking& cooking, PxScene& scene, PxMaterial& material,
+    PxFilterData simulationFilterData, PxFilterData queryFilterData)
+{
+    PxHeightFieldDesc description;
+    description.nbRows = static_cast<PxU32>(rows);
+    description.nbColumns = static_cast<PxU32>(columns);
+    description.format = PxHeightFieldFormat::eS16_TM;
+    description.samples.stride = sizeof(PxHeightFieldSample);
+    description.samples.data = samples.data();
+    PxHeightField* heightField = cooking.createHeightField(description, physics.getPhysicsInsertionCallback());
+    const PxHeightFieldGeometry geometry(heightField, PxMeshGeometryFlags(), heightScale, rowScale, columnScale);
+
+    const PxVec3 corner(-static_cast<float>(columns / 2) * columnScale, 0, -static_cast<float>(rows / 2) * rowScale);
+    actor = physics.createRigidStatic(PxTransform(corner));
+    PxShape* shape = PxRigidActorExt::createExclusiveShape(*actor, geometry, material);
+    scene.addActor(*actor);
+    shape->setSimulationFilterData(simulationFilterData);
+    shape->setQueryFilterData(queryFilterData);
+    shape->setFlag(PxShapeFlag::eVISUALIZATION, false);
+
+    node = new PhysicNode("Map");
+    node->actor = actor;
+    return node;
+}
+
+std::vector<glm::vec3> Terrain::getVertices() const
+{
+    std::vector<glm::vec3> vertices;
+    vertices.reserve(samples.size());
+    const PxHeightFieldSample* next = samples.data();
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            const float height = static_cast<float>((next++)->height) * heightScale;
+            vertices.emplace_back(static_cast<float>(row) * columnScale, height, static_cast<float>(column) * rowScale);
+        }
+    }
+    return vertices;
+}
+
+std::vector<unsigned short> Terrain::getIndices() const
+{
+    std::vector<unsigned short> indices;
+    for (int row = 0; row + 1 < rows; ++row) {
+        for (int column = 0; column + 1 < columns; ++column) {
+            const int b = row * columns + column;
+            // The diagonal is the one along which the physics library splits a cell whose tessellation flag is clear.
+            for (int corner : {b, b + columns, b + 1, b + columns, b + columns + 1, b + 1}) indices.push_back(static_cast<unsigned short>(corner));
+        }
+    }
+    return indices;
+}
+
+int Terrain::getSize() const
+{
+    return static_cast<int>(static_cast<float>(size) * columnScale);
+}

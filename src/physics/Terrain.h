@@ -1,0 +1,53 @@
+#pragma once
+
+#include <PxFiltering.h>
+#include <geometry/PxHeightFieldSample.h>
+#include <glm/glm.hpp>
+
+#include <vector>
+
+namespace physx {
+class PxCooking;
+class PxMaterial;
+class PxPhysics;
+class PxRigidStatic;
+class PxScene;
+}
+class PhysicNode;
+struct Image;
+
+/// The playing field: a grid of heights sampled from "Textures/map.tga", as a static height-field actor and as vertices to draw.
+/// Made and owned by PhysxManager; construct, then createPhysics() once. Rows run along x, columns along z.
+class Terrain {
+public:
+    /// Samples the picture's lower left 512 x 512 pixels. A missing, undecodable or smaller picture is logged; the field is flat then.
+    Terrain();
+
+    /// Puts the field into the scene with the given records on its shape and returns the node "Map" that follows it.
+    PhysicNode* createPhysics(physx::PxPhysics& physics, physx::PxCooking& cooking, physx::PxScene& scene, physx::PxMaterial& material,
+        physx::PxFilterData simulationFilterData, physx::PxFilterData queryFilterData);
+
+    /// Grid points in the node's frame, index row x 64 + column.
+    std::vector<glm::vec3> getVertices() const;
+
+    /// Two triangles a grid cell, clockwise seen from above.
+    std::vector<unsigned short> getIndices() const;
+
+    int getSize() const; ///< edge length of the field in world units, for rules that ask how large the arena is
+    PhysicNode* getNode() const { return node; }
+    physx::PxRigidStatic* getActor() const { return actor; }
+
+private:
+    void sample(const Image& image);
+    void flatten();
+
+    int size = 64; // grid points a side
+    int rows = size;
+    int columns = size;
+    float heightScale = 50.0f / 255.0f; // world units a height unit
+    float rowScale;                     // world units between rows
+    float columnScale;
+    std::vector<physx::PxHeightFieldSample> samples; // index = row x columns + column
+    PhysicNode* node = nullptr;
+    physx::PxRigidStatic* actor = nullptr;
+};

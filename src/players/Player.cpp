@@ -1,0 +1,201 @@
+#include "players/Player.h"
+
+#include "app/base/Logger.h"
+#include "input/InputDevice.h"
+#include "physics/PhysicNode.h"
+#include "physics/PhysxManager.h"
+#include "physics/VehicleHandle.h"
+#include "players/IMatch.h"
+#include "players/IStage.h"
+#include "scene/SceneGraph.h"
+
+#include <glm/gtc/matrix_transform.hpp>
+#include <vehicle/PxVehicleComponents.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+constexpr int kFullHealth = 100;
+constexpr unsigned kChassisShape = 4; // a car's shapes: four wheels, then the chassis
+constexpr float kDriverScale = 0.015f; // the duck's mesh is about 130 units long
+constexpr float kRespawnHeight = 50.0f; // world units
+constexpr int kRespawnRange = 200; // world units, the edge of the square around the origin
+
+struct Rumble {
+    int milliseconds;
+    std::uint16_t motorSpeed; // of both motors
+};
+constexpr Rumble kHitRumble{300, 60000};
+constexpr Rumble kRespawnRumble{600, 30000};
+
+const glm::vec4 kColours[] = {
+    {0.9f, 0.2f, 0.1f, 1}, {0.2f, 0.9f, 0.1f, 1}, {0.1f, 0.2f, 0.9f, 1},
+    {0.9f, 0.9f, 0.2f, 1}, {0.2f, 0.9f, 0.9f, 1}, {0.9f, 0.2f, 0.9f, 1},
+};
+
+glm::mat4 rotation(float degrees, const glm::vec3& axis)
+{
+    return glm::rotate(glm::mat4(1.0f), glm::radians(degrees), axis);
+}
+
+glm::mat4 translation(const glm::vec3& offset)
+{
+    return glm::translate(glm::mat4(1.0f), offset);
+}
+
+void rumble(InputDevice& device, const Rumble& request)
+{
+    device.vibrate(request.milliseconds, request.motorSpeed, request.motorSpeed);
+}
+
+float randomPlace()
+{
+    return static_cast<float>(std::rand() % kRespawnRange - kRespawnRange / 2);
+}
+
+} // namespace
+
+Player::Player(IMatch& ownMatch, IStage& ownStage, InputDevice& ownDevice) : Actor(ownMatch, ownDevice), stage(ownStage), health(kFullHealth) {}
+
+void Player::setUp()
+{
+    playerNumber = match.getActorCount();
+    colourIndex = match.getHumanPlayerCount();
+    logLine(2) << "Registering " << getName() << std::endl;
+
+    createCar();
+    CarNodes nodes;
+    nodes.driver = createDriverNode();
+    createLaunchNode();
+    createCameraNode();
+    nodes.exhaust = createExhaustNode();
+    for (unsigned wheel = 0; wheel < nodes.wheels.size(); ++wheel) nodes.wheels[wheel] = createWheel(wheel);
+    dress = &stage.dressCar(nodes, getColor());
+    vehicle->forceGear(physx::PxVehicleGearsData::eFIRST);
+    respawn();
+}
+
+void Player::createCar()
+{
+    vehicle = PhysxManager::instance()->createVehicle();
+    chassisNode = vehicle->createWheelNode(kChassisShape);
+    node->addChild(chassisNode);
+}
+
+Node* Player::createDriverNode() const
+{
+    Node* driver = chassisNode->createChild("Entchen");
+    driver->setTransform(rotation(-90, glm::vec3(0, 1, 0)) * glm::scale(glm::mat4(1.0f), glm::vec3(kDriverScale)));
+    return driver;
+}
+
+void Player::createLaunchNode()
+{
+    launchNode = chassisNode->createChild("Abschusspunkt");
+    launchNode->setTransform(translation(glm::vec3(0, 2, 3)));
+}
+
+void Player::createCameraNode()
+{
+    Node* cameraNode = chassisNode->createChild("PlayerCamera" + std::to_string(playerNumber));
+    cameraNode->transform(rotation(180, glm::vec3(0, 1, 0)), true);
+    cameraNode->transform(rotation(-10, glm::vec3(1, 0, 0)), true);
+    cameraNode->transform(translation(glm::vec3(0, 1, 12)), true);
+    cameraNode->attach(getCamera());
+}
+
+Node* Player::createExhaustNode() const
+{
+    return match.getSceneGraph()->getRoot()->createChild("Auspuff");
+}
+
+Node* Player::createWheel(unsigned wheel) const
+{
+    PhysicNode* wheelNode = vehicle->createWheelNode(wheel);
+    wheelNode->setName("Tire");
+    node->addChild(wheelNode);
+
+    // The shape's axis is x, a cylinder's is y.
+    Node* tire = wheelNode->createChild("Tire");
+    tire->setTransform(rotation(90, glm::vec3(0, 0, 1)));
+    return tire;
+}
+
+glm::vec4 Player::getColor() const
+{
+    return kColours[colourIndex];
+}
+
+std::string Player::getName() const
+{
+    return "(" + std::to_string(score) + ") Player " + std::to_string(playerNumber) + ", " + device.getName();
+}
+
+void Player::update()
+{
+    // Without its device the car keeps the last controls.
+    if (device.isConnected()) {
+        device.update();
+        drive();
+    }
+    dress->setEmitterPosition(getPosition());
+}
+
+void Player::drive()
+{
+    const DriverInput input{device.getAxis(InputDevice::kThrottleAxis), device.getAxis(InputDevice::kBrakeAxis),
+        device.getAxis(InputDevice::kSteeringAxis), device.isPressed(InputDevice::kHandBrake)};
+    controls.apply(input, *vehicle);
+}
+
+glm::vec3 Player::getPosition() const
+{
+    return chassisNode->getWorldPosition();
+}
+
+void Player::takeDamage(int amount)
+{
+    health = std::max(health - amount, 0);
+    rumble(device, kHitRumble);
+}
+
+void Player::die()
+{
+    ++deaths;
+    health = kFullHealth;
+    respawn();
+}
+
+void Player::respawn()
+{
+    const float z = randomPlace(); // drawn first: places repeat from run to run
+    const float x = randomPlace();
+    vehicle->placeAt(glm::vec3(x, kRespawnHeight, z));
+    rumble(device, kRespawnRumble);
+}
+
+void Player::drawLabel() const
+{
+    constexpr double kMargin = 0.05;
+    constexpr double kHighest = 0.9;
+    constexpr double kLineSpacing = 0.1;
+
+    const Viewport::Rect& rect = getViewport()->getRect();
+    const glm::dvec2 window(stage.getWindowSize());
+    const double x = 2 * rect.x / window.x - 1 + kMargin;
+    const double y = std::min(1 - (2 * rect.y / window.y - 1), kHighest);
+    stage.addText("Pl. " + std::to_string(match.getRank(*this)) + " (" + std::to_string(score) + ")", x, y);
+    stage.addText(device.getName(), x, y - kLineSpacing);
+}
+
+glm::vec3 Player::getLaunchPosition() const
+{
+    return launchNode->getWorldPosition();
+}
+
+float Player::getHeight() const
+{
+    return getPosition().y;
+}

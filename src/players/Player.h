@@ -1,0 +1,67 @@
+#pragma once
+
+#include "physics/DrivingControls.h"
+#include "players/Actor.h"
+
+class ICarDress;
+class IStage;
+class PhysicNode;
+class VehicleHandle;
+
+/// A driver with a car, steered by an input device. The match creates it, calls setUp() once, puts it into its lists, and from then on
+/// update() once a frame; it decides hits and points and calls takeDamage(), addScore() and die().
+class Player : public Actor {
+public:
+    Player(IMatch& match, IStage& stage, InputDevice& device);
+
+    /// Builds the car and its nodes and drops it into the field. To be called before the match counts this player in.
+    virtual void setUp();
+
+    virtual glm::vec4 getColor() const; ///< red, green, blue, alpha
+
+    /// True for those who hear themselves: engine sound, effects at full volume, a label on the screen.
+    virtual bool hasSound() const { return true; }
+
+    std::string getName() const override; ///< "(3) Player 1, XBOX 2": score, player number, device
+    void update() override;               ///< reads the device, writes the car's controls, moves the smoke
+    bool isPlayer() const override { return true; }
+    glm::vec3 getPosition() const override; ///< of the chassis
+
+    void takeDamage(int amount); ///< lowers the health, not below 0, and rumbles
+    void die();                  ///< counts a death, restores the health, respawns
+    void respawn();              ///< stops the car and drops it anywhere from height 50, upright
+    void addScore(int points) { score += points; }
+
+    /// Writes rank, score and device name into the upper-left corner of the player's viewport.
+    void drawLabel() const;
+
+    int getHealth() const { return health; } ///< 0 to 100
+    int getScore() const { return score; }
+    int getDeaths() const { return deaths; }
+    VehicleHandle* getVehicle() const { return vehicle; }
+    PhysicNode* getChassisNode() const { return chassisNode; }
+    Node* getLaunchNode() const { return launchNode; } ///< where shots leave the car
+    glm::vec3 getLaunchPosition() const;               ///< world space
+    float getHeight() const;                           ///< world y of the chassis
+
+private:
+    void createCar();
+    void drive();
+    void createLaunchNode();
+    void createCameraNode();
+    Node* createDriverNode() const;
+    Node* createExhaustNode() const;
+    Node* createWheel(unsigned wheel) const;
+
+    IStage& stage;
+    PhysicNode* chassisNode = nullptr;
+    VehicleHandle* vehicle = nullptr;
+    DrivingControls controls;
+    Node* launchNode = nullptr;
+    ICarDress* dress = nullptr;
+    int health;
+    int score = 0;
+    int deaths = 0;
+    int playerNumber = 0;
+    int colourIndex = 0;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "gpu/GlobalUniform.h"
+
+#include <glm/glm.hpp>
+
+// The matrices of the camera that the renderer is drawing at the moment. One source of each serves every viewport. Owned by the renderer.
+
+class Uniform_ViewMatrix : public GlobalUniform<glm::mat4> {
+public:
+    using GlobalUniform::GlobalUniform;
+    glm::mat4 get() override;
+};
+
+class Uniform_ProjectionMatrix : public GlobalUniform<glm::mat4> {
+public:
+    using GlobalUniform::GlobalUniform;
+    glm::mat4 get() override;
+};
+
+class Uniform_NormalMatrix : public GlobalUniform<glm::mat3> {
+public:
+    using GlobalUniform::GlobalUniform;
+    glm::mat3 get() override;
+};

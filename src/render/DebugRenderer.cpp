@@ -1,0 +1,96 @@
+#include "render/DebugRenderer.h"
+
+#include "assets/Library.h"
+#include "assets/MeshGeometry.h"
+#include "gpu/DrawCalls.h"
+#include "gpu/Shaderprogram.h"
+#include "scene/Camera.h"
+#include "scene/Mesh.h"
+#include "scene/MeshGenerators.h"
+#include "scene/Node.h"
+
+#include <glm/gtc/matrix_transform.hpp>
+
+#include <algorithm>
+
+namespace {
+
+constexpr float kMarkerHalfEdge = 0.15f; // world units
+
+template <class T>
+void removeFirst(std::vector<T>& sequence, const T& value)
+{
+    const auto found = std::find(sequence.begin(), sequence.end(), value);
+    if (found != sequence.end()) sequence.erase(found);
+}
+
+} // namespace
+
+DebugRenderer::DebugRenderer() : program(Library::getInstance()->getShaderprogram("WireframeShader"))
+{
+    Mesh box;
+    createBox(box, glm::vec3(-kMarkerHalfEdge), glm::vec3(kMarkerHalfEdge));
+    marker = makeShape(&box);
+    cameraModel = makeShape(Library::getInstance()->getMesh("Camera"));
+}
+
+DebugRenderer::~DebugRenderer() = default;
+
+DebugRenderer::Shape DebugRenderer::makeShape(const Mesh* mesh) const
+{
+    Shape shape;
+    if (!mesh) return shape;
+    shape.geometry = std::make_unique<MeshGeometry>(*mesh, std::initializer_list{MeshAttribute::Position});
+    shape.vertexArray = shape.geometry->layout.createVAO(program, &shape.geometry->vertices);
+    return shape;
+}
+
+void DebugRenderer::visitCamera(Camera* camera)
+{
+    cameraPoses.push_back(camera->getNode()->getWorldTransform());
+}
+
+void DebugRenderer::visitNode(Node* node)
+{
+    nodePositions.push_back(node->getWorldPosition());
+}
+
+void DebugRenderer::releaseCamera(Camera* camera)
+{
+    removeFirst(cameraPoses, camera->getNode()->getWorldTransform());
+}
+
+void DebugRenderer::releaseNode(Node* node)
+{
+    removeFirst(nodePositions, node->getWorldPosition());
+}
+
+void DebugRenderer::render(Camera* camera)
+{
+    glDisable(GL_DEPTH_TEST);
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+
+    std::vector<glm::mat4> markerPoses;
+    for (const glm::vec3& position : nodePositions) markerPoses.push_back(glm::translate(glm::mat4(1.0f), position));
+    drawAll(marker, markerPoses, *camera);
+    drawAll(cameraModel, cameraPoses, *camera);
+
+    Shaderprogram::unuse();
+    glDisable(GL_BLEND);
+    glEnable(GL_DEPTH_TEST);
+    nodePositions.clear();
+    cameraPoses.clear();
+}
+
+void DebugRenderer::drawAll(const Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const
+{
+    if (!program || !shape.geometry) return;
+    program->use();
+    program->setUniform("view", camera.getView());
+    program->setUniform("projection", camera.getProjection());
+    for (const glm::mat4& pose : poses) {
+        program->setUniform("model", pose);
+        drawVertexArray(shape.vertexArray, GL_TRIANGLES, &shape.geometry->vertices, &shape.geometry->indices);
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "scene/INodeVisitor.h"
+
+#include <GL/glew.h>
+#include <glm/glm.hpp>
+
+#include <memory>
+#include <vector>
+
+class MeshGeometry;
+class Shaderprogram;
+
+/// Overlays the scene's structure: a marker box at the origin of every node and the camera model at the pose of every camera, without
+/// depth testing. Created by the application once meshes and shaders are loaded; the renderer walks the scene with it before each render().
+class DebugRenderer final : public INodeVisitor {
+public:
+    DebugRenderer();
+    ~DebugRenderer();
+
+    void visitModel(Model*) override {}
+    void visitCamera(Camera* camera) override;
+    void visitAttachable(Attachable*) override {}
+    void visitNode(Node* node) override;
+    void releaseModel(Model*) override {}
+    void releaseCamera(Camera* camera) override;
+    void releaseAttachable(Attachable*) override {}
+    void releaseNode(Node* node) override;
+
+    /// Draws what the walk collected and forgets it. Leaves blending off and depth testing on.
+    void render(Camera* camera);
+
+private:
+    /// One of the two shapes; empty when its mesh failed to load.
+    struct Shape {
+        std::unique_ptr<MeshGeometry> geometry;
+        GLuint vertexArray = 0;
+    };
+
+    Shape makeShape(const class Mesh* mesh) const;
+    void drawAll(const Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const;
+
+    std::vector<glm::vec3> nodePositions;
+    std::vector<glm::mat4> cameraPoses;
+    Shaderprogram* program;
+    Shape marker;
+    Shape cameraModel;
+};

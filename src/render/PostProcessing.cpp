@@ -1,0 +1,47 @@
+#include "render/PostProcessing.h"
+
+#include "assets/Library.h"
+#include "gpu/Shaderprogram.h"
+
+namespace {
+
+constexpr double kOffsetPeriod = 500.0; // milliseconds in which the blur's offset grows by one
+
+void clearTarget()
+{
+    glClearColor(0.2f, 0.3f, 0.5f, 1.0f);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+}
+
+} // namespace
+
+PostProcessing::PostProcessing(glm::ivec2 windowSize)
+    : blurColour(GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, windowSize), blurFramebuffer(&blurColour, nullptr)
+{
+}
+
+void PostProcessing::blur(const TargetTexture& sceneColour, const TargetTexture& sceneDepth, const TargetTexture& lightDepth, double milliseconds) const
+{
+    blurFramebuffer.bind();
+    clearTarget();
+    Shaderprogram* program = Library::getInstance()->getShaderprogram("Blur", false);
+    if (!program) return;
+    program->use();
+    program->setSampler("fbo_texture", sceneColour.getHandle(), 0);
+    program->setSampler("depth_texture", sceneDepth.getHandle(), 1);
+    program->setSampler("light_depth_texture", lightDepth.getHandle(), 2);
+    program->setUniform("offset", static_cast<float>(milliseconds / kOffsetPeriod));
+    quad.draw(*program);
+}
+
+void PostProcessing::celPostProc() const
+{
+    glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    clearTarget();
+    Shaderprogram* program = Library::getInstance()->getShaderprogram("CelPostProc", false);
+    if (!program) return;
+    program->use();
+    program->setUniform("window", glm::vec3(blurColour.getSize(), 0));
+    program->setSampler("fbo_texture", blurColour.getHandle(), 0);
+    quad.draw(*program);
+}

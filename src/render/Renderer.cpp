@@ -1,0 +1,229 @@
+#include "render/Renderer.h"
+
+#include "app/base/FrameTimer.h"
+#include "app/base/IGameState.h"
+#include "app/base/Logger.h"
+#include "render/DebugRenderer.h"
+#include "render/FrameProbe.h"
+#include "render/GlDebug.h"
+#include "render/RenderTargets.h"
+#include "render/TextRenderer.h"
+#include "scene/SceneGraph.h"
+#include "scene/Viewport.h"
+
+#include <GL/glew.h>
+#include <GLFW/glfw3.h>
+
+#include <sstream>
+
+namespace {
+
+constexpr const char* kTitle = "Quackdash";
+constexpr int kWindowX = 300, kWindowY = 30;  // pixels from the screen's upper-left corner
+constexpr int kFpsInterval = 1000;            // milliseconds between two texts
+constexpr double kFpsX = -0.8, kFpsY = -0.8;  // normalised device coordinates
+
+void setArea(int x, int y, int width, int height)
+{
+    glViewport(x, y, width, height);
+    glScissor(x, y, width, height);
+}
+
+/// Clears the viewport's rectangle and confines drawing to it.
+void apply(const Viewport& viewport)
+{
+    const glm::vec4& colour = viewport.clearColour;
+    const Viewport::Rect& rect = viewport.getRect();
+    glClearColor(colour.r, colour.g, colour.b, colour.a);
+    glEnable(GL_DEPTH_TEST);
+    glDepthMask(GL_TRUE);
+    glEnable(GL_SCISSOR_TEST);
+    setArea(rect.x, rect.y, rect.width, rect.height);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+}
+
+} // namespace
+
+Renderer::Renderer()
+    : modelRenderer(this), viewMatrix(this), projectionMatrix(this), normalMatrix(this),
+      globalUniforms{{"viewMatrix", &viewMatrix}, {"projectionMatrix", &projectionMatrix}, {"normalMatrix", &normalMatrix}}
+{
+    IRenderServices::setCurrent(this);
+}
+
+Renderer::~Renderer()
+{
+    if (IRenderServices::current() == this) IRenderServices::setCurrent(nullptr);
+}
+
+bool Renderer::initialize()
+{
+    logLine(2) << "Initialize Renderer" << std::endl;
+    if (!openWindow() || !loadEntryPoints()) {
+        window.terminate();
+        return false;
+    }
+    setFixedState();
+    textRenderer = std::make_unique<TextRenderer>();
+    targets = std::make_unique<RenderTargets>(glm::ivec2(width, height));
+    return true;
+}
+
+bool Renderer::openWindow()
+{
+    if (!window.initialize()) {
+        logLine(0) << "Glfw initialization failed" << std::endl;
+        return false;
+    }
+    logLine(2) << "Glfw initialized" << std::endl;
+    if (!window.open(width, height, kTitle)) {
+        logLine(0) << "Opengl 4.3 not available" << std::endl;
+        return false;
+    }
+    logLine(2) << "Create Window" << std::endl;
+    window.place(kWindowX, kWindowY);
+    return true;
+}
+
+bool Renderer::loadEntryPoints()
+{
+    glewExperimental = GL_TRUE;
+    if (const GLenum result = glewInit(); result != GLEW_OK) {
+        logLine(0) << "Error" << reinterpret_cast<const char*>(glewGetErrorString(result)) << std::endl;
+        return false;
+    }
+    logLine(2) << "Glew initialized" << std::endl;
+    return true;
+}
+
+void Renderer::setFixedState()
+{
+    glClearColor(0.2f, 0.3f, 0.5f, 1.0f);
+    glEnable(GL_DEPTH_TEST);
+    glDepthMask(GL_TRUE);
+    glEnable(GL_SCISSOR_TEST);
+    glEnable(GL_CULL_FACE);
+    cullFrontFaces();
+    glPatchParameteri(GL_PATCH_VERTICES, 3); // the landscape is drawn as triangle patches
+    enableGlDebugOutput();
+}
+
+void Renderer::render(IGameState* state)
+{
+    renderLightDepth();
+    if (!wireframe) targets->scene.bind();
+    for (const Viewport* viewport : viewports) renderViewport(*viewport, state);
+    stepDone("model passes");
+
+    setArea(0, 0, width, height);
+    updateFpsText();
+    renderText();
+    if (!wireframe) postProcess();
+    window.swapBuffers();
+    stepDone("swap");
+}
+
+void Renderer::renderLightDepth()
+{
+    if (sceneGraph) sceneGraph->update();
+    stepDone("scene update");
+
+    const glm::ivec2 size = targets->lightDepth.getSize();
+    if (sceneGraph) sceneGraph->accept(&shadowRenderer);
+    if (sceneGraph && !wireframe) {
+        targets->shadowCache.draw(shadowRenderer);
+    } else {
+        if (!wireframe) targets->light.bind();
+        setArea(0, 0, size.x, size.y);
+        glClear(GL_DEPTH_BUFFER_BIT);
+        if (sceneGraph) shadowRenderer.render();
+        if (!wireframe) targets->shadowCache.invalidate();
+    }
+    stepDone("shadow pass");
+}
+
+void Renderer::renderViewport(const Viewport& viewport, IGameState* state)
+{
+    apply(viewport);
+    currentCamera = viewport.camera;
+    if (sceneGraph) {
+        sceneGraph->accept(&modelRenderer);
+        modelRenderer.render(currentCamera);
+    }
+    if (state) state->renderCamera(currentCamera);
+    if (isKeyDown(GLFW_KEY_F6)) renderDebugOverlay();
+}
+
+void Renderer::renderDebugOverlay()
+{
+    if (!debugRenderer || !sceneGraph) return;
+    sceneGraph->accept(debugRenderer);
+    debugRenderer->render(currentCamera);
+}
+
+void Renderer::updateFpsText()
+{
+    const double now = FrameTimer::getInstance()->getTimeMs();
+    if (lastFpsTime + kFpsInterval >= now) return;
+    std::ostringstream text;
+    text << "FPS: " << 1 / FrameTimer::getInstance()->getDelta();
+    fpsText = text.str();
+    lastFpsTime = static_cast<int>(now);
+}
+
+void Renderer::renderText()
+{
+    if (showFps) textRenderer->addText(fpsText, kFpsX, kFpsY);
+    textRenderer->render();
+    stepDone("text");
+}
+
+void Renderer::postProcess()
+{
+    targets->post.blur(targets->sceneColour, targets->sceneDepth, targets->lightDepth, FrameTimer::getInstance()->getTimeMs());
+    stepDone("Blur");
+    targets->post.celPostProc();
+    stepDone("CelPostProc");
+}
+
+void Renderer::stepDone(const char* step)
+{
+    if (probe) probe->stepDone(step);
+}
+
+bool Renderer::shouldClose() const
+{
+    return !window.isOpen();
+}
+
+void Renderer::terminate()
+{
+    window.terminate();
+}
+
+unsigned Renderer::getLightDepthTexture() const
+{
+    return targets->lightDepth.getHandle();
+}
+
+void Renderer::setBlending(bool on)
+{
+    if (on && blendingAllowed) glEnable(GL_BLEND);
+    else glDisable(GL_BLEND);
+}
+
+void Renderer::cullFrontFaces()
+{
+    glCullFace(GL_FRONT);
+}
+
+void Renderer::cullBackFaces()
+{
+    glCullFace(GL_BACK);
+}
+
+void Renderer::toggleWireframe()
+{
+    wireframe = !wireframe;
+    glPolygonMode(GL_FRONT_AND_BACK, wireframe ? GL_LINE : GL_FILL);
+}

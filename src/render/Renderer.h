@@ -1,0 +1,111 @@
+#pragma once
+
+#include "assets/IRenderServices.h"
+#include "platform/AppWindow.h"
+#include "render/CameraUniforms.h"
+#include "render/ModelRenderer.h"
+#include "render/ShadowMappingRender.h"
+#include "render/TextureFilters.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+class DebugRenderer;
+class IFrameProbe;
+class IGameState;
+class SceneGraph;
+class TextRenderer;
+class Viewport;
+struct RenderTargets;
+
+/// Owns the window, its OpenGL context, the off-screen targets and the passes, and draws one frame at a time.
+///
+/// Owned by the application's core. initialize() once, before any shader or texture is loaded; then render() once per drawn frame until
+/// shouldClose(); then terminate(). Viewports, scene graph and debug renderer are borrowed and may be replaced between frames. Its GL
+/// objects live until the process ends.
+class Renderer final : public IRenderServices {
+public:
+    Renderer();
+    ~Renderer();
+
+    /// Opens the window and creates everything that frames need. False, with a log line at level 0, when there is no display, no
+    /// OpenGL 4.3 or no entry points; then nothing else may be called but terminate().
+    [[nodiscard]] bool initialize();
+
+    /// Draws and presents one frame. The state (or null) gets its per-camera call after each viewport's models.
+    void render(IGameState* state);
+
+    bool shouldClose() const;
+    void terminate();
+
+    int getWidth() const { return width; }   ///< pixels
+    int getHeight() const { return height; } ///< pixels
+    AppWindow& getWindow() { return window; }
+
+    void setSceneGraph(SceneGraph* graph) { sceneGraph = graph; }
+    SceneGraph* getSceneGraph() const { return sceneGraph; }
+    void addViewport(Viewport* viewport) { viewports.push_back(viewport); }
+    void setViewports(const std::vector<Viewport*>& list) { viewports = list; }
+    void setDebugRenderer(DebugRenderer* renderer) { debugRenderer = renderer; }
+    void setFrameProbe(IFrameProbe* newProbe) { probe = newProbe; } ///< null for none
+
+    ModelRenderer* getModelRenderer() { return &modelRenderer; }
+    ShadowMappingRender* getShadowRenderer() { return &shadowRenderer; }
+    TextRenderer* getTextRenderer() { return textRenderer.get(); } ///< null before initialize()
+    Camera* getCurrentCamera() const { return currentCamera; }     ///< of the viewport being drawn
+    unsigned getLightDepthTexture() const;                         ///< GL name
+
+    /// "viewMatrix", "projectionMatrix" or "normalMatrix"; any other name yields an empty entry.
+    UniformVariant& getGlobalUniform(const std::string& name) override { return globalUniforms[name]; }
+
+    void setBlending(bool on); ///< stays off while blending is not allowed
+    void cullFrontFaces() override;
+    void cullBackFaces() override;
+
+    // Debug switches, each a flip.
+    void toggleWireframe(); ///< polygons as lines, straight into the window
+    void toggleBlending() { blendingAllowed = !blendingAllowed; }
+    void toggleFpsDisplay() { showFps = !showFps; }
+    void toggleMagFilter() { filters.toggleMagnification(); }
+    void cycleMinFilter() { filters.cycleMinification(); }
+
+private:
+    bool openWindow();
+    bool loadEntryPoints();
+    void setFixedState();
+
+    void renderLightDepth();
+    void renderViewport(const Viewport& viewport, IGameState* state);
+    void renderDebugOverlay();
+    void renderText();
+    void updateFpsText();
+    void postProcess();
+    void stepDone(const char* step);
+
+    int width = 1024;
+    int height = 768;
+    bool wireframe = false;
+    bool blendingAllowed = true;
+    bool showFps = false;
+    int lastFpsTime = 0; // milliseconds
+    std::string fpsText;
+    TextureFilters filters;
+
+    AppWindow window;
+    Camera* currentCamera = nullptr;
+    ModelRenderer modelRenderer;
+    ShadowMappingRender shadowRenderer;
+    DebugRenderer* debugRenderer = nullptr;
+    std::unique_ptr<TextRenderer> textRenderer;
+    std::unique_ptr<RenderTargets> targets;
+    std::vector<Viewport*> viewports;
+    SceneGraph* sceneGraph = nullptr;
+    IFrameProbe* probe = nullptr;
+
+    Uniform_ViewMatrix viewMatrix;
+    Uniform_ProjectionMatrix projectionMatrix;
+    Uniform_NormalMatrix normalMatrix;
+    std::map<std::string, UniformVariant> globalUniforms;
+};

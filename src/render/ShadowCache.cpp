@@ -1,0 +1,105 @@
+#include "render/ShadowCache.h"
+
+#include "assets/Library.h"
+#include "assets/Model.h"
+#include "gpu/Shaderprogram.h"
+#include "render/Light.h"
+#include "render/ShadowMappingRender.h"
+#include "scene/Node.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int kMarginTexels = 2; // around what a caster covers, for rounding
+
+float largestScale(const glm::mat4& transform)
+{
+    return std::max({glm::length(glm::vec3(transform[0])), glm::length(glm::vec3(transform[1])), glm::length(glm::vec3(transform[2]))});
+}
+
+unsigned depthProgram()
+{
+    const Shaderprogram* program = Library::getInstance()->getShaderprogram("ShadowDepth", false);
+    return program && program->isUsable() ? program->getHandle() : 0;
+}
+
+} // namespace
+
+ShadowCache::ShadowCache(const TargetTexture& lightDepthTexture, const Framebuffer& lightFramebuffer)
+    : lightTexture(lightDepthTexture), light(lightFramebuffer),
+      staticTexture(GL_DEPTH_COMPONENT24, GL_DEPTH_COMPONENT, GL_FLOAT, lightDepthTexture.getSize()),
+      staticFramebuffer(nullptr, &staticTexture)
+{
+}
+
+void ShadowCache::draw(const ShadowMappingRender& shadows)
+{
+    std::vector<Model*> still = shadows.casters();
+    const auto firstMoving = std::stable_partition(still.begin(), still.end(), [](const Model* model) { return model->isStatic; });
+    const std::vector<Model*> moving(firstMoving, still.end());
+    still.erase(firstMoving, still.end());
+
+    drawStatic(still);
+    if (!valid) touched = {wholeTexture()};
+    for (const Rect& rect : touched) restore(rect);
+    valid = true;
+
+    touched.clear();
+    for (const Model* model : moving) touched.push_back(coveredBy(*model));
+    target(light);
+    ShadowMappingRender::draw(moving);
+}
+
+void ShadowCache::drawStatic(const std::vector<Model*>& casters)
+{
+    std::vector<Snapshot> now;
+    for (const Model* model : casters) now.push_back({model, model->vao, model->getNode()->getWorldTransform()});
+    const unsigned program = depthProgram();
+    if (valid && now == drawnStatic && program == drawnWith) return;
+
+    target(staticFramebuffer);
+    glClear(GL_DEPTH_BUFFER_BIT);
+    ShadowMappingRender::draw(casters);
+    drawnStatic = std::move(now);
+    drawnWith = program;
+    valid = false;
+}
+
+void ShadowCache::restore(const Rect& rect) const
+{
+    if (rect.width <= 0 || rect.height <= 0) return;
+    glCopyImageSubData(staticTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x, rect.y, 0,
+        lightTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x, rect.y, 0, rect.width, rect.height, 1);
+}
+
+ShadowCache::Rect ShadowCache::wholeTexture() const
+{
+    return {0, 0, lightTexture.getSize().x, lightTexture.getSize().y};
+}
+
+ShadowCache::Rect ShadowCache::coveredBy(const Model& model) const
+{
+    const Rect whole = wholeTexture();
+    if (model.boundingRadius <= 0) return whole;
+
+    // The light's projection is orthographic: a sphere covers an upright ellipse.
+    static const glm::mat4 toTexture = biasedLightViewProjection();
+    const glm::mat4 world = model.getNode()->getWorldTransform();
+    const glm::vec2 size(lightTexture.getSize());
+    const glm::vec2 centre = glm::vec2(toTexture * world[3]) * size;
+    const float radius = model.boundingRadius * largestScale(world);
+    const glm::vec2 texelsPerUnit(glm::length(glm::vec3(toTexture[0][0], toTexture[1][0], toTexture[2][0])) * size.x,
+        glm::length(glm::vec3(toTexture[0][1], toTexture[1][1], toTexture[2][1])) * size.y);
+    const glm::vec2 low = glm::clamp(glm::floor(centre - radius * texelsPerUnit) - float(kMarginTexels), glm::vec2(0), size);
+    const glm::vec2 high = glm::clamp(glm::ceil(centre + radius * texelsPerUnit) + float(kMarginTexels), glm::vec2(0), size);
+    return {static_cast<int>(low.x), static_cast<int>(low.y), static_cast<int>(high.x - low.x), static_cast<int>(high.y - low.y)};
+}
+
+void ShadowCache::target(const Framebuffer& framebuffer) const
+{
+    framebuffer.bind();
+    glViewport(0, 0, lightTexture.getSize().x, lightTexture.getSize().y);
+    glScissor(0, 0, lightTexture.getSize().x, lightTexture.getSize().y);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "assets/Model.h"
+
+#include <memory>
+
+/// A large textured box around the play area, drawn without writing depth: everything else stays in front of it. Built by the game,
+/// which binds its uniforms "view", "projection" and "tex".
+class Skybox final : public Model {
+public:
+    Skybox();
+    ~Skybox();
+
+    void draw() override;
+
+private:
+    std::unique_ptr<MeshGeometry> geometry;
+};

@@ -1,0 +1,72 @@
+#include "render/TextRenderer.h"
+
+#include "gpu/DrawCalls.h"
+#include "gpu/Shaderprogram.h"
+#include "gpu/Texture.h"
+
+#include <cstddef>
+
+namespace {
+
+constexpr float kGlyph = 0.0625f; // a sixteenth: a glyph's size on the screen and its cell's in the font
+constexpr int kCellsPerRow = 16;
+
+struct Cell {
+    float u, v;
+};
+
+Cell cellOf(char character)
+{
+    if (character == ' ') return {0.0f, 6 * kGlyph};
+    const int index = static_cast<signed char>(character) - '!';
+    return {static_cast<float>(index % kCellsPerRow) * kGlyph, static_cast<float>(index / kCellsPerRow) * kGlyph};
+}
+
+} // namespace
+
+TextRenderer::TextRenderer()
+{
+    glGenVertexArrays(1, &vertexArray);
+    glGenBuffers(1, &vertexBuffer);
+    glBindVertexArray(vertexArray);
+    glBindBuffer(GL_ARRAY_BUFFER, vertexBuffer);
+    glEnableVertexAttribArray(0);
+    glVertexAttribPointer(0, 2, GL_FLOAT, GL_FALSE, sizeof(vertex), nullptr);
+    glEnableVertexAttribArray(1);
+    glVertexAttribPointer(1, 2, GL_FLOAT, GL_FALSE, sizeof(vertex), reinterpret_cast<const void*>(offsetof(vertex, u)));
+    glBindVertexArray(0);
+    glBindBuffer(GL_ARRAY_BUFFER, 0);
+}
+
+void TextRenderer::addText(const std::string& text, double x, double y)
+{
+    const auto bottom = static_cast<float>(y);
+    const float top = bottom + kGlyph;
+    for (std::size_t k = 0; k < text.size(); ++k) {
+        const float left = static_cast<float>(x) + static_cast<float>(k) * kGlyph, right = left + kGlyph;
+        const auto [u, v] = cellOf(text[k]);
+        const float u1 = u + kGlyph, v1 = v + kGlyph;
+        queue.insert(queue.end(), {{left, top, u, v}, {right, bottom, u1, v1}, {left, bottom, u, v1},
+                                      {left, top, u, v}, {right, top, u1, v}, {right, bottom, u1, v1}});
+    }
+    if (queue.empty()) return;
+    glBindBuffer(GL_ARRAY_BUFFER, vertexBuffer);
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(queue.size() * sizeof(vertex)), queue.data(), GL_STATIC_DRAW);
+    glBindBuffer(GL_ARRAY_BUFFER, 0);
+}
+
+void TextRenderer::render()
+{
+    if (!shader || !font) return;
+    glBindVertexArray(vertexArray);
+    shader->use();
+    shader->setUniform("tex", font, 0);
+    if (isReadyToDraw(GL_TRIANGLES)) glDrawArrays(GL_TRIANGLES, 0, static_cast<GLsizei>(queue.size()));
+    Shaderprogram::unuse();
+    glBindVertexArray(0);
+}
+
+void TextRenderer::clear()
+{
+    queue.clear();
+}

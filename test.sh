@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Installs what game and tests need (Debian, once), builds both with warnings as errors, and runs the tests on a virtual display.
+# The exit status is CTest's.
+#
+# usage: ./test.sh [--sanitize] [CTEST-ARGUMENT...]
+#   --sanitize  builds and tests with AddressSanitizer and UndefinedBehaviorSanitizer
+#   ./test.sh -L unit runs the tests of one label: unit, gl or e2e
+set -euo pipefail
+# shellcheck source=scripts/setup.sh
+source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
+
+preset=release
+if [[ ${1:-} == --sanitize ]]; then
+    preset=asan
+    shift
+fi
+
+require_packages "${play_packages[@]}" "${test_packages[@]}"
+configure "$preset" -DQUACKDASH_WERROR=ON
+build "$preset"
+
+cd "$project_root"
+unset WAYLAND_DISPLAY # the tests' windows belong on the virtual display
+exec xvfb-run -a -s "-screen 0 1400x900x24" ctest --preset "$preset" --parallel "$(nproc)" "$@"

@@ -1,0 +1,11 @@
+#include "platform/DataFolder.h"
+
+#include <filesystem>
+#include <iostream>
+
+/// Prints the folder that the search ends in; exit status 1 when it finds none.
+int main()
+{
+    if (!enterDataFolder()) return 1;
+    std::cout << std::filesystem::current_path().string() << std::endl;
+}

@@ -1,0 +1,60 @@
+#include "scene/Mesh.h"
+#include "support/Near.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+TEST(MeshTest, NormalsAreTheUnweightedSumOfTheFacesOnTheirBackSide)
+{
+    // A small floor triangle, counter-clockwise from above, and a wall ten times as large that shares its edge along x.
+    Mesh mesh;
+    mesh.positions = {{0, 0, 0}, {1, 0, 0}, {0, 0, -1}, {0, 10, 0}};
+    mesh.indices = {0, 1, 2, 0, 1, 3};
+    mesh.normals = {{9, 9, 9}};
+    mesh.calculateNormals();
+
+    const float half = std::sqrt(0.5f);
+    ASSERT_EQ(mesh.normals.size(), 4u) << "old normals go";
+    EXPECT_TRUE(isNear(mesh.normals[2], {0, -1, 0}));
+    EXPECT_TRUE(isNear(mesh.normals[3], {0, 0, -1}));
+    for (int shared : {0, 1}) EXPECT_TRUE(isNear(mesh.normals.at(static_cast<std::size_t>(shared)), {0, -half, -half}));
+}
+
+TEST(MeshTest, BoundsOnlyGrow)
+{
+    Mesh mesh;
+    mesh.positions = {{1, 2, 3}, {-1, 5, 0}};
+    glm::vec3 min(0, 3, -9), max(0, 3, -9);
+    mesh.getBounds(min, max);
+    EXPECT_EQ(min, glm::vec3(-1, 2, -9));
+    EXPECT_EQ(max, glm::vec3(1, 5, 3));
+}
+
+struct Axes {
+    bool x, y, z;
+    glm::vec3 swapped, inverted; ///< what becomes of the normal (1, 2, 3)
+};
+
+class MeshNormalAxes : public testing::TestWithParam<Axes> {};
+
+TEST_P(MeshNormalAxes, OneSwapAndOneInversionACall)
+{
+    const auto [x, y, z, swapped, inverted] = GetParam();
+    Mesh mesh;
+    mesh.normals = {{1, 2, 3}};
+    mesh.swapNormalAxes(x, y, z);
+    EXPECT_EQ(mesh.normals[0], swapped);
+    mesh.normals = {{1, 2, 3}};
+    mesh.invertNormalAxes(x, y, z);
+    EXPECT_EQ(mesh.normals[0], inverted);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, MeshNormalAxes, testing::Values(
+    Axes{false, false, false, {1, 2, 3}, {1, 2, 3}}, Axes{false, true, false, {1, 2, 3}, {1, -2, 3}}, Axes{false, false, true, {1, 2, 3}, {1, 2, -3}},
+    Axes{true, true, false, {2, 1, 3}, {-1, 2, 3}}, Axes{true, false, true, {3, 2, 1}, {-1, 2, 3}}, Axes{false, true, true, {1, 3, 2}, {1, -2, 3}},
+    Axes{true, true, true, {2, 1, 3}, {-1, 2, 3}}));
+
+} // namespace

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "app/match/MatchRules.h"
+#include "physics/PhysicNode.h"
+#include "physics/PhysxManager.h"
+#include "physics/Terrain.h"
+#include "platform/DataFolder.h"
+#include "players/IStage.h"
+#include "players/Player.h"
+#include "scene/SceneGraph.h"
+#include "support/ScriptedKeyboard.h"
+#include "support/SteppedClock.h"
+
+#include <string>
+#include <vector>
+
+/// A stage without a window: shows nothing, but remembers what it was asked for.
+class SilentStage : public IStage, public ICarDress {
+public:
+    struct Line {
+        std::string text;
+        double x, y;
+    };
+
+    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour) override
+    {
+        cars.push_back(nodes);
+        colours.push_back(colour);
+        return *this;
+    }
+    void setEmitterPosition(const glm::vec3& position) override { emitterPosition = position; }
+    void addText(const std::string& text, double x, double y) override { lines.push_back({text, x, y}); }
+    glm::ivec2 getWindowSize() const override { return {1024, 768}; }
+
+    std::vector<CarNodes> cars;
+    std::vector<glm::vec4> colours;
+    std::vector<Line> lines;        ///< of the last pass
+    glm::vec3 emitterPosition{0.0f}; ///< of whoever smoked last
+};
+
+/// A whole match without a window: the real rules, physics, ground and scene, a keyboard to hold keys on and a clock that runs only when
+/// passes are made. The physics world goes with it.
+class HeadlessMatch {
+public:
+    HeadlessMatch()
+    {
+        enterDataFolder();
+        rules.setWorld(&graph, &stage);
+        graph.getRoot()->addChild(PhysxManager::instance()->createTerrain()->getNode());
+        FrameTimer::getInstance()->tick();
+        graph.update();
+    }
+    ~HeadlessMatch() { delete PhysxManager::instance(); }
+    HeadlessMatch(const HeadlessMatch&) = delete;
+    HeadlessMatch& operator=(const HeadlessMatch&) = delete;
+
+    Player& addPlayer(InputDevice& device)
+    {
+        rules.addPlayer(&device);
+        graph.update();
+        return *rules.getPlayers().back();
+    }
+
+    /// One pass of the match as the main loop makes it, of 1/120 s.
+    void pass()
+    {
+        stage.lines.clear();
+        FrameTimer::getInstance()->tick();
+        rules.updateMatch();
+        rules.stepPhysics();
+        graph.update();
+    }
+
+    void passes(int count)
+    {
+        for (int i = 0; i < count; ++i) pass();
+    }
+
+    ScriptedKeyboard keys;
+    SteppedClock clock;
+    SilentStage stage;
+    SceneGraph graph;
+    MatchRules rules;
+};
