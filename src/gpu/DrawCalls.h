@@ -2,6 +2,8 @@
 
 #include <GL/glew.h>
 
+#include <vector>
+
 class IndexBuffer;
 class VertexBuffer;
 
@@ -14,6 +16,9 @@ bool isReadyToDraw(GLenum mode);
 /// vertex of the vertex buffer (glDrawArrays), and binds no vertex array.
 /// Draws nothing unless isReadyToDraw(mode), when vao is 0 or when both buffers are null.
 void drawVertexArray(GLuint vao, GLenum mode, const VertexBuffer* vertices, const IndexBuffer* indices);
+
+/// Draws stretches of the index buffer only, in one call (glMultiDrawElements): firsts and counts in indices. Otherwise the same.
+void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, const std::vector<GLsizei>& counts, const std::vector<unsigned>& firsts);
 
 /// Deletes a vertex array object; 0 is ignored.
 void deleteVertexArray(GLuint vao);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <glm/glm.hpp>
+
+#include <vector>
+
+class Mesh;
+
+/// A stretch of an index list.
+struct IndexRange {
+    unsigned first = 0; ///< number of the first index
+    unsigned count = 0; ///< indices
+
+    bool operator==(const IndexRange&) const = default;
+};
+
+/// Finds the stretches of a large static mesh that a view may show, so that the rest never reaches the GPU. Keeps the bounds of runs of
+/// consecutive triangles; the order of the indices stays as it is. Built once per mesh, which is not needed afterwards.
+class RangeCuller {
+public:
+    /// indicesPerRun: a multiple of 3, at least 3. Runs do best when they are compact: some cells of one row of a grid.
+    RangeCuller(const Mesh& mesh, unsigned indicesPerRun);
+
+    /// The stretches whose bounds touch the view, in order, neighbours joined. toClip: the mesh's coordinates to clip space.
+    std::vector<IndexRange> visible(const glm::mat4& toClip) const;
+
+private:
+    struct Run {
+        IndexRange range;
+        glm::vec3 min, max;
+    };
+
+    std::vector<Run> runs;
+};
