@@ -41,10 +41,20 @@ void ShadowCache::draw(const ShadowMappingRender& shadows)
     for (const Rect& rect : touched) restore(rect);
     valid = true;
 
-    touched.clear();
-    for (const Model* model : moving) touched.push_back(coveredBy(*model));
+    touched = coveredBy(moving);
     target(light);
     ShadowMappingRender::draw(moving);
+}
+
+/// One rectangle a model; a single one once a model covers nobody knows what.
+std::vector<ShadowCache::Rect> ShadowCache::coveredBy(const std::vector<Model*>& models) const
+{
+    std::vector<Rect> rects;
+    for (const Model* model : models) {
+        if (model->boundingRadius <= 0) return {wholeTexture()};
+        rects.push_back(coveredBy(*model));
+    }
+    return rects;
 }
 
 void ShadowCache::drawStatic(const std::vector<Model*>& casters)
@@ -76,9 +86,6 @@ ShadowCache::Rect ShadowCache::wholeTexture() const
 
 ShadowCache::Rect ShadowCache::coveredBy(const Model& model) const
 {
-    const Rect whole = wholeTexture();
-    if (model.boundingRadius <= 0) return whole;
-
     // The light's projection is orthographic: the sphere becomes an ellipsoid, which reaches as far along a texture axis as the row of
     // that axis is long, however the node's transform scales and shears.
     const glm::mat4 toTexture = biasedLightViewProjection() * model.getNode()->getWorldTransform();

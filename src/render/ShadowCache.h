@@ -40,7 +40,8 @@ private:
     void drawStatic(const std::vector<Model*>& casters);
     void restore(const Rect& rect) const;
     Rect wholeTexture() const;
-    Rect coveredBy(const Model& model) const;
+    std::vector<Rect> coveredBy(const std::vector<Model*>& models) const;
+    Rect coveredBy(const Model& model) const; ///< of known bounds
     void target(const Framebuffer& framebuffer) const;
 
     const TargetTexture& lightTexture;
