@@ -14,10 +14,11 @@ namespace {
 
 constexpr float kMarginTexels = 2; // around what a caster covers, for rounding
 
-unsigned depthProgram()
+/// Changes with every reload of the program; 0 when there is none to draw with.
+unsigned depthProgramVersion()
 {
     const Shaderprogram* program = Library::getInstance()->getShaderprogram("ShadowDepth", false);
-    return program && program->isUsable() ? program->getHandle() : 0;
+    return program && program->isUsable() ? program->getLinkCount() : 0;
 }
 
 } // namespace
@@ -61,7 +62,7 @@ void ShadowCache::drawStatic(const std::vector<Model*>& casters)
 {
     std::vector<Snapshot> now;
     for (const Model* model : casters) now.push_back({model, model->vao, model->getNode()->getWorldTransform()});
-    const unsigned program = depthProgram();
+    const unsigned program = depthProgramVersion();
     if (valid && now == drawnStatic && program == drawnWith) return;
 
     target(staticFramebuffer);

@@ -49,7 +49,7 @@ private:
     TargetTexture staticTexture;
     Framebuffer staticFramebuffer;
     std::vector<Snapshot> drawnStatic;
-    unsigned drawnWith = 0; // GL name of the program, which a reload replaces
+    unsigned drawnWith = 0; // version of the depth program
     std::vector<Rect> touched;
     bool valid = false;
 };
