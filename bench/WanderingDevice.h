@@ -18,7 +18,7 @@ public:
     void vibrate(int, std::uint16_t, std::uint16_t) override {}
     void update() override { ++updates; }
     bool isConnected() override { return true; }
-    std::string getName() override { return "Bench"; }
+    std::string getName() const override { return "Bench"; }
     bool isStartPressed() override { return false; }
     bool isBackPressed() override { return false; }
 

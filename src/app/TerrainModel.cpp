@@ -26,6 +26,8 @@ TerrainModel::TerrainModel(const Terrain& terrain)
     shader = Library::getInstance()->getShaderprogram("TerrainShader");
     setName("Heightfield");
     setCullable(false);
+    isStatic = true;
+    layer = ModelLayer::Ground;
     drawMode = GL_PATCHES;
     setGeometry(geometry);
     bindCameraUniforms(false);

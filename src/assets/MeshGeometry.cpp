@@ -2,6 +2,7 @@
 
 #include "scene/Mesh.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -21,10 +22,17 @@ Source sourceOf(MeshAttribute attribute, const Mesh& mesh)
     }
 }
 
+float radiusOf(const Mesh& mesh)
+{
+    float radius = 0;
+    for (const glm::vec3& position : mesh.positions) radius = std::max(radius, glm::length(position));
+    return radius;
+}
+
 } // namespace
 
 MeshGeometry::MeshGeometry(const Mesh& mesh, std::initializer_list<MeshAttribute> attributes)
-    : layout(layoutOf(attributes)), vertices(&layout, mesh.getVertexCount())
+    : layout(layoutOf(attributes)), vertices(&layout, mesh.getVertexCount()), boundingRadius(radiusOf(mesh))
 {
     for (const MeshAttribute attribute : attributes) {
         const Source source = sourceOf(attribute, mesh);

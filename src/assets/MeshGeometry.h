@@ -21,6 +21,7 @@ public:
     VertexAttributeList layout;
     VertexBuffer vertices;
     IndexBuffer indices;
+    const float boundingRadius; ///< around the mesh's origin, in its own units
 
 private:
     static VertexAttributeList layoutOf(std::initializer_list<MeshAttribute> attributes);

@@ -41,6 +41,7 @@ void Model::setGeometry(MeshGeometry& geometry)
 {
     vertexBuffer = &geometry.vertices;
     indexBuffer = &geometry.indices;
+    boundingRadius = geometry.boundingRadius;
     createVAO(&geometry.layout);
 }
 

@@ -30,7 +30,7 @@ def quack(length, height, seed):
     t = times / length
     pitch = height * contour(t, [(0, 0.78), (0.18, 1.08), (0.5, 1.0), (1, 0.66)])
     beak = contour(t, [(0, 0.1), (0.25, 1.0), (0.65, 0.9), (1, 0.2)])
-    formants = [(450 + 650 * beak, 130, 1.0), (1250 + 700 * beak, 180, 0.9), (2700 + 300 * beak, 280, 0.55), (3900, 500, 0.2)]
+    formants = [(550 + 550 * beak, 150, 0.8), (1450 + 650 * beak, 220, 1.0), (2800 + 300 * beak, 320, 0.7), (4200, 600, 0.3)]
     loudness = contour(t, [(0, 0), (0.08, 0.8), (0.35, 1.0), (0.75, 0.7), (1, 0)])
     return voiced(times, pitch, formants, 0.02, seed) * loudness
 
@@ -54,7 +54,7 @@ def bang():
 
 
 def engine():
-    """A loop of three seconds, one when played three times as fast: 30 firings a second in the file, 90 to 120 as heard."""
+    """A loop of 3.2 seconds, about one when played three times as fast: 30 firings a second in the file, 90 to 120 as heard."""
     firings, length = 96, 3.2
     random = numpy.random.default_rng(4)
     signal = numpy.zeros(round(length * RATE))
@@ -66,7 +66,8 @@ def engine():
         strength = cylinder[firing % 4] * (1.0 + random.normal(0, 0.05))
         age = numpy.arange(spacing * 3) / RATE
         pulse = (numpy.exp(-age / 0.011) * numpy.sin(2 * numpy.pi * 62 * age)
-                 + 0.5 * numpy.exp(-age / 0.006) * numpy.sin(2 * numpy.pi * 190 * age + 0.5)
+                 + 0.8 * numpy.exp(-age / 0.008) * numpy.sin(2 * numpy.pi * 190 * age + 0.5)
+                 + 0.4 * numpy.exp(-age / 0.005) * numpy.sin(2 * numpy.pi * 430 * age + 1.0)
                  + 0.12 * numpy.exp(-age / 0.004) * random.standard_normal(len(age)))
         numpy.add.at(signal, (at + numpy.arange(len(pulse))) % len(signal), strength * pulse)
     signal = band(signal, 25, 1500)

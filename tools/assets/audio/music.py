@@ -23,7 +23,7 @@ DRUMS = 9 # channel
 
 # Tunes: one string a bar; a note is a name with octave, then its length in eighths; "-" rests.
 TUNE_A = ["B4 1 B4 1 D5 2 B4 1 A4 1 G4 2", "B4 1 B4 1 D5 2 G5 2 - 2", "E5 1 E5 1 G5 2 E5 1 D5 1 C5 2", "E5 2 D5 1 C5 1 B4 2 - 2",
-          "A4 1 A4 1 C5 2 A4 1 G4 1 F#4 2", "A4 1 B4 1 C5 1 D5 1 E5 1 F#5 1 D5 2", "G5 3 D5 1 B4 2 G4 2", "A4 1 B4 1 A4 1 F#4 1 G4 2 - 2"]
+          "A4 1 A4 1 C5 2 A4 1 G4 1 F#4 2", "A4 1 B4 1 C5 1 D5 1 E5 1 F#5 1 D5 2", "G5 3 D5 1 B4 2 G4 2", "A4 1 B4 1 A4 1 F#4 1 D4 2 - 2"]
 CHORDS_A = "G G C C D7 D7 G D7".split()
 TUNE_B = ["E5 4 G5 4", "E5 3 D5 1 C5 4", "D5 4 G5 4", "D5 3 C5 1 B4 4", "C#5 2 E5 2 A5 4", "G5 3 E5 1 C#5 4",
           "D5 1 F#5 1 A5 2 F#5 1 A5 1 D5 2", "D5 2 D5 1 D5 1 D5 1 E5 1 F#5 2"]
@@ -41,11 +41,20 @@ def pitch(name):
     return 12 * (int(name[-1]) + 1) + steps[name[0]] + name.count("#")
 
 
+G_MAJOR = [0, 2, 4, 6, 7, 9, 11] # pitch classes
+
+
+def thirdBelow(key):
+    """The note two steps lower in the scale of the theme."""
+    scale = [k for k in range(128) if k % 12 in G_MAJOR]
+    return scale[scale.index(key) - 2]
+
+
 class Score:
     """Notes on sixteen channels, collected in any order."""
 
     def __init__(self):
-        self.events, self.channels = [], {}
+        self.events, self.channels = [(0, 0, mido.Message("control_change", control=7, value=114, channel=DRUMS))], {}
 
     def voice(self, name, program, volume, pan):
         channel = [c for c in range(16) if c != DRUMS][len(self.channels)]
@@ -61,14 +70,15 @@ class Score:
         self.events.append((start, 2, mido.Message("note_on", note=key, velocity=velocity, channel=channel)))
         self.events.append((start + length, 1, mido.Message("note_off", note=key, channel=channel)))
 
-    def tune(self, voice, start, bars, velocity, shift=0, short=0.85):
+    def tune(self, voice, start, bars, velocity, shift=0, harmony=lambda key: key):
         at = start
         for bar in bars:
             words = bar.split()
             for name, eighths in zip(words[::2], map(int, words[1::2])):
                 if name != "-":
                     accent = 8 if (at - start) % BAR == 0 else 0
-                    self.note(voice, at, round(eighths * EIGHTH * (short if eighths < 3 else 0.95)), pitch(name) + shift, velocity + accent)
+                    length = round(eighths * EIGHTH * (0.85 if eighths < 3 else 0.95))
+                    self.note(voice, at, length, harmony(pitch(name)) + shift, velocity + accent)
                 at += eighths * EIGHTH
         assert at - start == len(bars) * BAR, "a bar is not full"
 
@@ -81,7 +91,7 @@ class Score:
         mido.MidiFile(ticks_per_beat=TICKS, tracks=[track]).save(path)
 
 
-KICK, SNARE, HAT, OPEN_HAT, CRASH, TOM_HIGH, TOM_LOW, CUICA_SHORT, CUICA, WOOD = 36, 38, 42, 46, 49, 48, 45, 78, 79, 76
+KICK, SNARE, HAT, CRASH, TOM_HIGH, TOM_LOW, CUICA, WOOD = 36, 38, 42, 49, 48, 45, 78, 76
 
 
 def rhythm(score, start, chords, style):
@@ -97,14 +107,16 @@ def rhythm(score, start, chords, style):
         for beat in range(4):
             for key in spread.split():
                 offbeat = at + beat * TICKS + EIGHTH
-                score.note("skank", offbeat, EIGHTH // 2, pitch(key) + 12, 74)
+                score.note("skank", offbeat, EIGHTH * 2 // 3, pitch(key) + 12, 90)
                 if style == "full" and beat % 2:
-                    score.note("accordion", at + beat * TICKS, EIGHTH, pitch(key) + 12, 60)
-        drums(score, at, style, last=index == len(chords) - 1)
+                    score.note("accordion", at + beat * TICKS, EIGHTH, pitch(key) + 12, 80)
+        drums(score, at, style, index == len(chords) - 1)
 
 
 def drums(score, at, style, last):
-    hit = lambda eighth, key, velocity: score.note("drums", at + round(eighth * EIGHTH), 60, key, velocity)
+    def hit(eighth, key, velocity):
+        score.note("drums", at + round(eighth * EIGHTH), 60, key, velocity)
+
     for eighth in (0, 4) if style != "surf" else (0, 3, 4):
         hit(eighth, KICK, 100)
     for eighth in range(8):
@@ -117,7 +129,7 @@ def drums(score, at, style, last):
             hit(eighth, SNARE, 92)
         if style == "sparse":
             hit(3, WOOD, 60)
-            hit(7, CUICA_SHORT, 75)
+            hit(7, CUICA, 75)
 
 
 def compose(score, start):
@@ -125,19 +137,22 @@ def compose(score, start):
     def at(section):
         return start + section * 8 * BAR
 
-    lead = lambda section, voice, tune, velocity, shift=0: score.tune(voice, at(section), tune, velocity, shift)
+    def lead(section, voice, tune, velocity, *how):
+        score.tune(voice, at(section), tune, velocity, *how)
+
     rhythm(score, at(0), CHORDS_A, "plain")
     lead(0, "clarinet", TUNE_A, 92)
     rhythm(score, at(1), CHORDS_A, "full")
     lead(1, "clarinet", TUNE_A, 84)
-    lead(1, "trumpet", TUNE_A, 86)
+    lead(1, "trumpet", TUNE_A, 92)
     rhythm(score, at(2), CHORDS_B, "full")
     lead(2, "trumpet", TUNE_B, 92)
     lead(2, "clarinet", TUNE_B, 70, -12)
     answers(score, at(2))
     rhythm(score, at(3), CHORDS_A, "full")
-    lead(3, "trumpet", TUNE_A, 88)
-    lead(3, "piccolo", TUNE_A, 72, 12)
+    lead(3, "trumpet", TUNE_A, 96)
+    lead(3, "piccolo", TUNE_A, 84, 12)
+    lead(3, "clarinet", TUNE_A, 80, 0, thirdBelow)
     rhythm(score, at(4), CHORDS_C, "sparse")
     lead(4, "bassoon", TUNE_C, 105, -12)
     rhythm(score, at(5), CHORDS_C, "surf")
@@ -151,6 +166,7 @@ def compose(score, start):
     lead(7, "trumpet", TUNE_A, 92)
     lead(7, "guitar", TUNE_A, 84, -12)
     lead(7, "piccolo", TUNE_A, 70, 12)
+    lead(7, "clarinet", TUNE_A, 82, 0, thirdBelow)
     for section in (0, 1, 2, 3, 5, 6, 7):
         score.note("drums", at(section), 60, CRASH, 74)
     return at(8)
@@ -161,14 +177,14 @@ def answers(score, start):
     for bar in (1, 3, 5):
         for eighth in (5, 6, 7):
             key = {1: 72, 3: 71, 5: 73}[bar]
-            score.note("quack", start + bar * BAR + eighth * EIGHTH, EIGHTH // 2, key, 88)
+            score.note("quack", start + bar * BAR + eighth * EIGHTH, EIGHTH // 2, key, 110)
 
 
 def main(target):
     score = Score()
-    for voice in (("tuba", TUBA, 96, 60), ("bass", BASS, 84, 64), ("skank", MUTED, 76, 92), ("accordion", ACCORDION, 62, 36),
-                  ("clarinet", CLARINET, 100, 56), ("trumpet", TRUMPET, 92, 72), ("oboe", OBOE, 98, 60), ("bassoon", BASSOON, 104, 70),
-                  ("piccolo", PICCOLO, 74, 48), ("guitar", GUITAR, 98, 50), ("quack", OBOE, 90, 88)):
+    for voice in (("tuba", TUBA, 92, 60), ("bass", BASS, 84, 64), ("skank", MUTED, 104, 92), ("accordion", ACCORDION, 92, 36),
+                  ("clarinet", CLARINET, 98, 56), ("trumpet", TRUMPET, 110, 72), ("oboe", OBOE, 98, 60), ("bassoon", BASSOON, 102, 70),
+                  ("piccolo", PICCOLO, 98, 48), ("guitar", GUITAR, 114, 50), ("quack", OBOE, 112, 88)):
         score.voice(*voice)
     # Two rounds are played and the second is kept: it begins with the echoes of its own end.
     end = compose(score, compose(score, 0))

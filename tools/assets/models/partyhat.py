@@ -13,14 +13,14 @@ sys.path.append(os.path.dirname(os.path.abspath(__file__)))
 from shapes import Builder, circle, export
 
 # The duck's crown in the car's units (duck.py), and how far above it the brim floats at rest: at its lowest it is pulled down a bit.
-HEAD_TOP, HEAD_AHEAD, HOVER = 1.66, 0.36, 0.36
+HEAD_TOP, HEAD_AHEAD, HOVER = 1.78, 0.34, 0.30
 
 # After import z is up and -y ahead; the importer mirrors z.
 TO_FILE = Matrix(((1, 0, 0), (0, -1, 0), (0, 0, -1)))
 CENTRE = Vector((0.1, -(1 - 2 * HEAD_AHEAD), 2 * (HEAD_TOP + HOVER) - 7.3))
 
 RADIUS, HEIGHT, STRIPES, STEP = 0.80, 2.0, 4, 0.07 # units of the file, half of the car's
-SIDES = 14
+SIDES = 13
 
 
 def ring(radius, height):
@@ -33,6 +33,6 @@ for stripe in range(STRIPES):
     low, high = stripe / STRIPES, (stripe + 1) / STRIPES
     rings += [ring(RADIUS * (1 - low * 0.92), HEIGHT * low), ring(RADIUS * (1 - high * 0.92) + STEP, HEIGHT * high)]
 hat.tube(rings)
-hat.torus(CENTRE + Vector((0, 0, 0.02)), (RADIUS, RADIUS), 0.13, SIDES, 4)
+hat.torus(CENTRE + Vector((0, 0, 0.02)), (RADIUS, RADIUS), 0.14, SIDES, 4)
 hat.ellipsoid(CENTRE + Vector((0, 0, HEIGHT + 0.12)), (0.24, 0.24, 0.24), 8, 6)
 export(sys.argv[-1] + "/partyhat.dae", hat, TO_FILE, 35)

@@ -12,14 +12,21 @@ from mathutils import Matrix, Vector
 UPRIGHT = Matrix.Identity(3)
 
 
-def oval(x, y, z, halfWidth, halfHeight, points=12, power=2.0):
-    """A ring across the x axis, from the left upwards; `power` above 2 squares it off."""
-    ring = []
-    for i in range(points):
-        c, s = math.cos(2 * math.pi * i / points), math.sin(2 * math.pi * i / points)
-        ring.append(Vector((x, y + halfWidth * math.copysign(abs(c) ** (2 / power), c),
-                            z + halfHeight * math.copysign(abs(s) ** (2 / power), s))))
-    return ring
+def ring(x, z, halfWidth, halfHeight, y=0.0, points=10, climb=0.0, power=2.0, roll=0.0):
+    """An oval across a path that lies in a plane of constant y and climbs by `climb` degrees against the x axis.
+
+    `power` above 2 squares the oval off; `roll` turns it in its own plane, in degrees, its left side downwards.
+    """
+    climb, roll = math.radians(climb), math.radians(roll)
+    left, up = Vector((0, 1, 0)), Vector((-math.sin(climb), 0, math.cos(climb)))
+    left, up = left * math.cos(roll) - up * math.sin(roll), up * math.cos(roll) + left * math.sin(roll)
+    return [Vector((x, y, z)) + left * (halfWidth * math.copysign(abs(c) ** (2 / power), c))
+            + up * (halfHeight * math.copysign(abs(s) ** (2 / power), s)) for c, s in circle(points)]
+
+
+def tip(x, z, y=0.0):
+    """A ring of one point, where a tube closes."""
+    return [Vector((x, y, z))]
 
 
 def circle(points):
@@ -99,6 +106,10 @@ class Builder:
                 faces.append((a + k, b + k, b + m, a + m))
         self.shell(vertices, faces)
 
+    def disc(self, centre, facing, radius, sides, ink=False):
+        turn = Vector(facing).to_track_quat("Z", "Y").to_matrix()
+        self.shell([Vector(centre) + turn @ Vector((radius * c, radius * s, 0)) for c, s in circle(sides)], [tuple(range(sides))], ink)
+
     def box(self, low, high):
         self.tube([[Vector((x, y, z)) for y, z in ((low[1], low[2]), (high[1], low[2]), (high[1], high[2]), (low[1], high[2]))]
                    for x in (low[0], high[0])])
@@ -107,8 +118,7 @@ class Builder:
         """A closed cylinder, or a frustum with another radius at its end, between two points."""
         start, end = Vector(start), Vector(end)
         turn = (end - start).to_track_quat("Z", "Y").to_matrix()
-        self.tube([[point + turn @ Vector((r * math.cos(2 * math.pi * i / sides), r * math.sin(2 * math.pi * i / sides), 0))
-                    for i in range(sides)]
+        self.tube([[point + turn @ Vector((r * c, r * s, 0)) for c, s in circle(sides)]
                    for point, r in ((start, radius), (end, radius if radiusEnd is None else radiusEnd))], ink=ink)
 
 
@@ -148,7 +158,8 @@ def export(path, builder, axes, smoothAngle):
     draft.from_pydata(vertices, [], faces)
     if draft.validate(verbose=True):
         raise SystemExit(path + ": degenerate or doubled faces")
-    normals = shadedNormals(draft, smoothAngle)
+    shaded, smooth = shadedNormals(draft, smoothAngle), shadedNormals(draft, 180)
+    normals = [whole if inside else part for whole, part, inside in zip(smooth, shaded, ink)] # ink must not split where it swells
 
     mesh = bpy.data.meshes.new("mesh")
     mesh.from_pydata(vertices, [], [face[::-1] if inside else face for face, inside in zip(faces, ink)])

@@ -36,10 +36,10 @@ def blade(x, y, length, lean, width):
 
 
 def grass():
-    picture = numpy.broadcast_to(colour("#5fb53c"), (SIZE, SIZE, 3))
+    picture = numpy.broadcast_to(colour("#60b63d"), (SIZE, SIZE, 3))
     broad, fine = softNoise(SIZE, 190, 1), softNoise(SIZE, 80, 2)
-    picture = mix(picture, colour("#6cc244"), smoothstep(0.2, 0.35, broad + 0.35 * fine))
-    picture = mix(picture, colour("#54a837"), smoothstep(0.75, 0.9, -broad + 0.45 * fine))
+    picture = mix(picture, colour("#69bf42"), smoothstep(0.2, 0.35, broad + 0.35 * fine))
+    picture = mix(picture, colour("#58ab39"), smoothstep(0.75, 0.9, -broad + 0.45 * fine))
     random = numpy.random.default_rng(3)
     for point in scatter(75, 44, 4):
         x, y = around(point)
@@ -53,12 +53,12 @@ def grass():
 def dirt():
     picture = numpy.broadcast_to(colour("#c98f55"), (SIZE, SIZE, 3))
     broad, fine = softNoise(SIZE, 170, 11), softNoise(SIZE, 70, 12)
-    picture = mix(picture, colour("#d69f64"), smoothstep(0.25, 0.4, broad + 0.4 * fine))
-    picture = mix(picture, colour("#ba7f49"), smoothstep(0.75, 0.9, -broad + 0.45 * fine))
+    picture = mix(picture, colour("#d39b60"), smoothstep(0.25, 0.4, broad + 0.4 * fine))
+    picture = mix(picture, colour("#be844d"), smoothstep(0.75, 0.9, -broad + 0.45 * fine))
     random = numpy.random.default_rng(13)
-    for point in scatter(58, 46, 14):
+    for point in scatter(38, 60, 14):
         x, y = around(point)
-        angle, long, flat = random.uniform(-0.5, 0.5), random.uniform(5, 11), random.uniform(0.6, 0.8)
+        angle, long, flat = random.uniform(-0.5, 0.5), random.uniform(5, 12), random.uniform(0.6, 0.8)
         u = x * numpy.cos(angle) + y * numpy.sin(angle)
         v = (y * numpy.cos(angle) - x * numpy.sin(angle)) / flat
         shadow = smoothstep(1.5, -1.5, numpy.hypot(u, v - 2.5 / flat) - long)

@@ -33,10 +33,10 @@ def clouds():
     """Lists of lobes (azimuth, elevation, radius, all in degrees), one list a cloud."""
     random = numpy.random.default_rng(5)
     result = []
-    for index in range(11):
-        azimuth = index * 360.0 / 11 + random.uniform(-9, 9)
-        elevation = random.uniform(9, 22)
-        width = random.uniform(6, 11)
+    for index in range(13):
+        azimuth = index * 360.0 / 13 + random.uniform(-8, 8)
+        elevation = (5.5, 10.0, 7.0, 14.0)[index % 4] + random.uniform(-1, 1)
+        width = random.uniform(4.5, 6.0) + 0.22 * elevation
         count = 5
         lobes = []
         for lobe in range(count):
