@@ -61,6 +61,7 @@ void Shaderprogram::link()
     std::fflush(stdout); // keeps its place among the log's lines, which are flushed too
     if (handle == 0) std::exit(0);
 
+    ++linkCount;
     GLint linked = GL_FALSE;
     glGetProgramiv(handle, GL_LINK_STATUS, &linked);
     usable = linked == GL_TRUE;

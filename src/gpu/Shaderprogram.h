@@ -44,6 +44,9 @@ public:
     /// True from a successful link() until the next createProgram().
     bool isUsable() const { return usable; }
 
+    /// How many times it was linked: tells a reloaded program from the one before, which the GL may have given the same name.
+    unsigned getLinkCount() const { return linkCount; }
+
     void use() const;     ///< makes this the current program, or none when it is not usable
     static void unuse();  ///< makes no program current
 
@@ -94,6 +97,7 @@ private:
     GLuint handle = 0;
     bool usable = false;
     bool tessellates = false;
+    unsigned linkCount = 0;
     mutable bool modeReported = false;
     std::string source = "unnamed program";
     std::vector<std::string> feedbackOutputs;

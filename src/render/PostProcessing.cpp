@@ -5,12 +5,20 @@
 
 namespace {
 
+constexpr const char* kBlur = "Blur";
+constexpr const char* kCelPostProc = "CelPostProc";
 constexpr double kOffsetPeriod = 500.0; // milliseconds in which the blur's offset grows by one
 
 void clearTarget()
 {
     glClearColor(0.2f, 0.3f, 0.5f, 1.0f);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+}
+
+Shaderprogram* programNamed(const char* name)
+{
+    Shaderprogram* program = Library::getInstance()->getShaderprogram(name, false);
+    return program && program->isUsable() ? program : nullptr;
 }
 
 } // namespace
@@ -20,12 +28,25 @@ PostProcessing::PostProcessing(glm::ivec2 windowSize)
 {
 }
 
+bool PostProcessing::isUsable() const
+{
+    return programNamed(kBlur) && programNamed(kCelPostProc);
+}
+
+void PostProcessing::showUnprocessed(const Framebuffer& scene) const
+{
+    const glm::ivec2 size = blurColour.getSize();
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, scene.getHandle());
+    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
+    glBlitFramebuffer(0, 0, size.x, size.y, 0, 0, size.x, size.y, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    glBindFramebuffer(GL_FRAMEBUFFER, 0);
+}
+
 void PostProcessing::blur(const TargetTexture& sceneColour, const TargetTexture& sceneDepth, const TargetTexture& lightDepth, double milliseconds) const
 {
     blurFramebuffer.bind();
     clearTarget();
-    Shaderprogram* program = Library::getInstance()->getShaderprogram("Blur", false);
-    if (!program) return;
+    Shaderprogram* program = programNamed(kBlur);
     program->use();
     program->setSampler("fbo_texture", sceneColour.getHandle(), 0);
     program->setSampler("depth_texture", sceneDepth.getHandle(), 1);
@@ -38,8 +59,7 @@ void PostProcessing::celPostProc() const
 {
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
     clearTarget();
-    Shaderprogram* program = Library::getInstance()->getShaderprogram("CelPostProc", false);
-    if (!program) return;
+    Shaderprogram* program = programNamed(kCelPostProc);
     program->use();
     program->setUniform("window", glm::vec3(blurColour.getSize(), 0));
     program->setSampler("fbo_texture", blurColour.getHandle(), 0);

@@ -5,15 +5,21 @@
 #include "render/TargetTexture.h"
 
 /// The two full-screen passes at the end of a frame: "Blur" from the scene's targets into its own colour texture, "CelPostProc" from
-/// there into the window. Owned by the renderer.
+/// there into the window. Owned by the renderer, which calls them in this order while isUsable(), and showUnprocessed() otherwise.
 class PostProcessing {
 public:
     explicit PostProcessing(glm::ivec2 windowSize); ///< pixels
+
+    /// Whether the library has both programs, linked.
+    bool isUsable() const;
 
     /// milliseconds: the current time, which moves what the pass animates.
     void blur(const TargetTexture& sceneColour, const TargetTexture& sceneDepth, const TargetTexture& lightDepth, double milliseconds) const;
 
     void celPostProc() const;
+
+    /// The scene into the window as it is.
+    void showUnprocessed(const Framebuffer& scene) const;
 
 private:
     TargetTexture blurColour;

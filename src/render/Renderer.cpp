@@ -180,6 +180,10 @@ void Renderer::renderText()
 
 void Renderer::postProcess()
 {
+    if (!targets->post.isUsable()) {
+        targets->post.showUnprocessed(targets->scene);
+        return;
+    }
     targets->post.blur(targets->sceneColour, targets->sceneDepth, targets->lightDepth, FrameTimer::getInstance()->getTimeMs());
     stepDone("Blur");
     targets->post.celPostProc();

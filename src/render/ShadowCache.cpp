@@ -12,17 +12,13 @@
 
 namespace {
 
-constexpr int kMarginTexels = 2; // around what a caster covers, for rounding
+constexpr float kMarginTexels = 2; // around what a caster covers, for rounding
 
-float largestScale(const glm::mat4& transform)
-{
-    return std::max({glm::length(glm::vec3(transform[0])), glm::length(glm::vec3(transform[1])), glm::length(glm::vec3(transform[2]))});
-}
-
-unsigned depthProgram()
+/// Changes with every reload of the program; 0 when there is none to draw with.
+unsigned depthProgramVersion()
 {
     const Shaderprogram* program = Library::getInstance()->getShaderprogram("ShadowDepth", false);
-    return program && program->isUsable() ? program->getHandle() : 0;
+    return program && program->isUsable() ? program->getLinkCount() : 0;
 }
 
 } // namespace
@@ -46,17 +42,27 @@ void ShadowCache::draw(const ShadowMappingRender& shadows)
     for (const Rect& rect : touched) restore(rect);
     valid = true;
 
-    touched.clear();
-    for (const Model* model : moving) touched.push_back(coveredBy(*model));
+    touched = coveredBy(moving);
     target(light);
     ShadowMappingRender::draw(moving);
+}
+
+/// One rectangle a model; a single one once a model covers nobody knows what.
+std::vector<ShadowCache::Rect> ShadowCache::coveredBy(const std::vector<Model*>& models) const
+{
+    std::vector<Rect> rects;
+    for (const Model* model : models) {
+        if (model->boundingRadius <= 0) return {wholeTexture()};
+        rects.push_back(coveredBy(*model));
+    }
+    return rects;
 }
 
 void ShadowCache::drawStatic(const std::vector<Model*>& casters)
 {
     std::vector<Snapshot> now;
     for (const Model* model : casters) now.push_back({model, model->vao, model->getNode()->getWorldTransform()});
-    const unsigned program = depthProgram();
+    const unsigned program = depthProgramVersion();
     if (valid && now == drawnStatic && program == drawnWith) return;
 
     target(staticFramebuffer);
@@ -81,19 +87,15 @@ ShadowCache::Rect ShadowCache::wholeTexture() const
 
 ShadowCache::Rect ShadowCache::coveredBy(const Model& model) const
 {
-    const Rect whole = wholeTexture();
-    if (model.boundingRadius <= 0) return whole;
-
-    // The light's projection is orthographic: a sphere covers an upright ellipse.
-    static const glm::mat4 toTexture = biasedLightViewProjection();
-    const glm::mat4 world = model.getNode()->getWorldTransform();
+    // The light's projection is orthographic: the sphere becomes an ellipsoid, which reaches as far along a texture axis as the row of
+    // that axis is long, however the node's transform scales and shears.
+    const glm::mat4 toTexture = biasedLightViewProjection() * model.getNode()->getWorldTransform();
+    const glm::mat4 rows = glm::transpose(toTexture);
     const glm::vec2 size(lightTexture.getSize());
-    const glm::vec2 centre = glm::vec2(toTexture * world[3]) * size;
-    const float radius = model.boundingRadius * largestScale(world);
-    const glm::vec2 texelsPerUnit(glm::length(glm::vec3(toTexture[0][0], toTexture[1][0], toTexture[2][0])) * size.x,
-        glm::length(glm::vec3(toTexture[0][1], toTexture[1][1], toTexture[2][1])) * size.y);
-    const glm::vec2 low = glm::clamp(glm::floor(centre - radius * texelsPerUnit) - float(kMarginTexels), glm::vec2(0), size);
-    const glm::vec2 high = glm::clamp(glm::ceil(centre + radius * texelsPerUnit) + float(kMarginTexels), glm::vec2(0), size);
+    const glm::vec2 centre = glm::vec2(toTexture[3]) * size;
+    const glm::vec2 reach = model.boundingRadius * glm::vec2(glm::length(glm::vec3(rows[0])), glm::length(glm::vec3(rows[1]))) * size;
+    const glm::vec2 low = glm::clamp(glm::floor(centre - reach) - kMarginTexels, glm::vec2(0), size);
+    const glm::vec2 high = glm::clamp(glm::ceil(centre + reach) + kMarginTexels, glm::vec2(0), size);
     return {static_cast<int>(low.x), static_cast<int>(low.y), static_cast<int>(high.x - low.x), static_cast<int>(high.y - low.y)};
 }
 

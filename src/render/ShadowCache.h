@@ -40,7 +40,8 @@ private:
     void drawStatic(const std::vector<Model*>& casters);
     void restore(const Rect& rect) const;
     Rect wholeTexture() const;
-    Rect coveredBy(const Model& model) const;
+    std::vector<Rect> coveredBy(const std::vector<Model*>& models) const;
+    Rect coveredBy(const Model& model) const; ///< of known bounds
     void target(const Framebuffer& framebuffer) const;
 
     const TargetTexture& lightTexture;
@@ -48,7 +49,7 @@ private:
     TargetTexture staticTexture;
     Framebuffer staticFramebuffer;
     std::vector<Snapshot> drawnStatic;
-    unsigned drawnWith = 0; // GL name of the program, which a reload replaces
+    unsigned drawnWith = 0; // version of the depth program
     std::vector<Rect> touched;
     bool valid = false;
 };

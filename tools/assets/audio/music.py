@@ -122,8 +122,8 @@ def drums(score, at, style, last):
     for eighth in range(8):
         hit(eighth, HAT, 62 if eighth % 2 else 46)
     if last:
-        for eighth, key in ((4, SNARE), (4.5, SNARE), (5, TOM_HIGH), (5.5, TOM_HIGH), (6, TOM_LOW), (6.5, TOM_LOW), (7, SNARE), (7.5, SNARE)):
-            hit(eighth, key, 80 + round(eighth))
+        for step, key in enumerate((SNARE, SNARE, TOM_HIGH, TOM_HIGH, TOM_LOW, TOM_LOW, SNARE, SNARE)):
+            hit(4 + step / 2, key, 84 + step // 2)
     else:
         for eighth in (2, 6) if style != "surf" else (2, 3, 6):
             hit(eighth, SNARE, 92)
@@ -198,7 +198,8 @@ def main(target):
         played = soundfile.read(wave)[0][samples:2 * samples]
         assert len(played) == samples, "the theme was cut short"
         soundfile.write(wave, leveled(played), RATE, subtype="PCM_16")
-        subprocess.run(["lame", "--quiet", "-m", "j", "-b", "160", "-q", "2", "--noreplaygain", wave, target + "/quackdash.mp3"], check=True)
+        subprocess.run(["lame", "--quiet", "-m", "j", "-b", "160", "-q", "2", "--noreplaygain", wave, target + "/quackdash.mp3"],
+                       check=True)
 
 
 def leveled(played):

@@ -13,9 +13,10 @@ from pictures import saveTga
 CELL = 32        # pixels a side
 FINE = 4         # glyphs are drawn this much larger and shrunk, for even edges
 FONT = "/usr/share/fonts/truetype/dejavu/DejaVuSansMono-Bold.ttf"
-FONT_PIXELS = 26 # em height; a cell is shown about 32 wide and 24 high
+FONT_PIXELS = 25 # em height; a cell is shown about 32 wide and 24 high
 WIDEN = 1.5      # a mono-spaced face is narrower than these cells
 RIM = 1.7        # pixels of dark outline
+BASELINE = 0.715 # of a cell from its top; leaves room for what hangs below, rim included
 
 
 def glyph(character):
@@ -26,7 +27,7 @@ def glyph(character):
     for stroke in (0, round(RIM * FINE)):
         narrow = round(side / WIDEN)
         image = Image.new("L", (narrow, side))
-        ImageDraw.Draw(image).text((narrow / 2, side * 0.76), character, fill=255, font=font, anchor="ms",
+        ImageDraw.Draw(image).text((narrow / 2, side * BASELINE), character, fill=255, font=font, anchor="ms",
                                    stroke_width=stroke, stroke_fill=255)
         image = image.resize((CELL, CELL), Image.Resampling.BOX)
         layers.append(numpy.asarray(image, dtype=float) / 255.0)

@@ -1,0 +1,134 @@
+#include <assimp/Importer.hpp>
+#include <assimp/postprocess.h>
+#include <assimp/scene.h>
+#include <glm/glm.hpp>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// A model's first mesh as the game gets it: no node transforms, z mirrored, windings as in the file.
+struct ImportedMesh {
+    std::vector<glm::vec3> positions, normals;
+    std::vector<glm::uvec3> triangles;
+
+    glm::vec3 faceNormal(const glm::uvec3& t) const ///< of a triangle taken as clockwise seen from outside; length 2 x area
+    {
+        return glm::cross(positions[t.z] - positions[t.x], positions[t.y] - positions[t.x]);
+    }
+};
+
+ImportedMesh import(const std::string& file)
+{
+    Assimp::Importer importer;
+    const aiScene* scene = importer.ReadFile(DATA_FOLDER "Models/" + file,
+        aiProcess_CalcTangentSpace | aiProcess_JoinIdenticalVertices | aiProcess_MakeLeftHanded | aiProcess_Triangulate
+            | aiProcess_GenSmoothNormals | aiProcess_LimitBoneWeights | aiProcess_SortByPType);
+    ImportedMesh result;
+    EXPECT_TRUE(scene && scene->mNumMeshes == 1) << file << ": " << importer.GetErrorString();
+    if (!scene || scene->mNumMeshes == 0) return result;
+
+    const aiMesh& mesh = *scene->mMeshes[0];
+    for (unsigned i = 0; i < mesh.mNumVertices; ++i) {
+        result.positions.emplace_back(mesh.mVertices[i].x, mesh.mVertices[i].y, mesh.mVertices[i].z);
+        result.normals.emplace_back(mesh.mNormals[i].x, mesh.mNormals[i].y, mesh.mNormals[i].z);
+    }
+    for (unsigned i = 0; i < mesh.mNumFaces; ++i)
+        result.triangles.emplace_back(mesh.mFaces[i].mIndices[0], mesh.mFaces[i].mIndices[1], mesh.mFaces[i].mIndices[2]);
+    return result;
+}
+
+/// Positions in the car's frame, for a rotation of -90 degrees about y and a scale of 0.015.
+std::vector<glm::vec3> duckInCar()
+{
+    std::vector<glm::vec3> result;
+    for (const glm::vec3& p : import("duck.dae").positions) result.push_back(0.015f * glm::vec3(-p.z, p.y, p.x));
+    return result;
+}
+
+/// The same for the transform that hangs a hat on the chassis.
+std::vector<glm::vec3> hatInCar()
+{
+    std::vector<glm::vec3> result;
+    for (const glm::vec3& p : import("partyhat.dae").positions) result.push_back(0.5f * glm::vec3(p.x - 0.1f, p.z + 7.3f, 1.0f - p.y));
+    return result;
+}
+
+struct Bounds {
+    glm::vec3 low{std::numeric_limits<float>::max()}, high{std::numeric_limits<float>::lowest()};
+    explicit Bounds(const std::vector<glm::vec3>& points)
+    {
+        for (const glm::vec3& p : points) {
+            low = glm::min(low, p);
+            high = glm::max(high, p);
+        }
+    }
+};
+
+struct Budget { const char* file; std::size_t triangles; };
+class Models : public testing::TestWithParam<Budget> {};
+
+TEST_P(Models, KeepToTheirBudgetAndShowTheirOutside)
+{
+    const ImportedMesh mesh = import(GetParam().file);
+    EXPECT_GT(mesh.triangles.size(), 50u);
+    EXPECT_LE(mesh.triangles.size(), GetParam().triangles);
+    EXPECT_LT(mesh.positions.size(), 65536u);
+
+    float volume = 0.0f, outward = 0.0f, area = 0.0f;
+    for (const glm::uvec3& t : mesh.triangles) {
+        const glm::vec3 n = mesh.faceNormal(t);
+        ASSERT_GT(glm::length(n), 0.0f) << "a triangle without area has no normal";
+        volume += glm::dot(mesh.positions[t.x], n);
+        area += glm::length(n);
+        if (glm::dot(n, mesh.normals[t.x] + mesh.normals[t.y] + mesh.normals[t.z]) > 0.0f) outward += glm::length(n);
+    }
+    EXPECT_GT(volume, 0.0f) << "faces must wind clockwise, seen from outside, once z is mirrored";
+    EXPECT_GT(outward, 0.95f * area) << "normals must point out of the faces, but for a few marks of ink";
+}
+INSTANTIATE_TEST_SUITE_P(All, Models, testing::Values(Budget{"duck.dae", 1500}, Budget{"partyhat.dae", 400}, Budget{"camera.dae", 300}));
+
+TEST(DuckModel, FitsTheCarAndLooksAhead)
+{
+    const std::vector<glm::vec3> duck = duckInCar();
+    const Bounds bounds(duck);
+    EXPECT_GT(bounds.low.y, -1.0f) << "it must not touch the ground between the wheels";
+    EXPECT_LT(bounds.high.z, 2.2f);
+    EXPECT_GT(bounds.low.z, -2.2f);
+    EXPECT_NEAR(bounds.high.x, -bounds.low.x, 0.01f) << "both sides alike";
+
+    std::vector<glm::vec3> head;
+    std::copy_if(duck.begin(), duck.end(), std::back_inserter(head), [](const glm::vec3& p) { return p.y > 1.0f; });
+    ASSERT_FALSE(head.empty());
+    EXPECT_GT(Bounds(head).high.z, 1.0f) << "the bill is ahead";
+    EXPECT_GT(Bounds(head).low.z, -0.5f) << "nothing behind the head reaches its height";
+}
+
+TEST(HatModel, SitsOnTheDucksHead)
+{
+    const std::vector<glm::vec3> duck = duckInCar();
+    const Bounds hat(hatInCar());
+    const glm::vec3 crown = *std::max_element(duck.begin(), duck.end(), [](const glm::vec3& a, const glm::vec3& b) { return a.y < b.y; });
+    constexpr float kBob = 0.5f; // units up and down
+    EXPECT_LT(hat.low.y - kBob, crown.y) << "at its lowest it touches the head";
+    EXPECT_GT(hat.low.y + kBob, crown.y + 0.2f) << "at its highest it is off";
+    EXPECT_GT(hat.low.y - kBob, crown.y - 0.45f) << "and never covers the eyes";
+
+    const glm::vec3 middle = 0.5f * (hat.low + hat.high);
+    EXPECT_NEAR(middle.x, crown.x, 0.05f);
+    EXPECT_NEAR(middle.z, crown.z, 0.05f);
+    EXPECT_GT(hat.high.y - hat.low.y, hat.high.x - hat.low.x) << "the cone stands upright";
+}
+
+TEST(CameraModel, StaysBehindTheEyeThatItMarks)
+{
+    const Bounds bounds(import("camera.dae").positions);
+    EXPECT_GT(bounds.low.z, 0.0f) << "a camera looks along -z";
+    EXPECT_NEAR(bounds.high.z, 1.0f, 0.3f);
+}
+
+} // namespace

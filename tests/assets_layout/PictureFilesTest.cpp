@@ -1,0 +1,162 @@
+#include "platform/Image.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <string>
+
+namespace {
+
+Image read(const std::string& file)
+{
+    std::string error;
+    auto image = readTga(DATA_FOLDER + file, error);
+    EXPECT_TRUE(image) << file << ": " << error;
+    return image.value_or(Image{});
+}
+
+/// The largest difference of a colour component between two texels.
+int difference(const Image& image, int x, int y, int otherX, int otherY)
+{
+    int largest = 0;
+    for (int c = 0; c < 3; ++c) largest = std::max(largest, std::abs(image.at(x, y)[c] - image.at(otherX, otherY)[c]));
+    return largest;
+}
+
+struct Picture { const char* file; int channels; };
+class Pictures : public testing::TestWithParam<Picture> {};
+
+TEST_P(Pictures, AreUploadedWithoutResampling)
+{
+    const Image image = read(GetParam().file);
+    EXPECT_EQ(image.channels, GetParam().channels);
+    EXPECT_TRUE(std::has_single_bit(static_cast<unsigned>(image.width)) && std::has_single_bit(static_cast<unsigned>(image.height)))
+        << image.width << " x " << image.height;
+}
+INSTANTIATE_TEST_SUITE_P(OfTheManifest, Pictures, testing::Values(Picture{"Models/skybox.tga", 3}, Picture{"Textures/Dirt.tga", 3},
+    Picture{"Textures/Grass.tga", 3}, Picture{"Textures/Smoke.tga", 4}, Picture{"Textures/font.tga", 4}));
+
+class Grounds : public testing::TestWithParam<const char*> {};
+
+TEST_P(Grounds, RepeatWithoutASeam)
+{
+    const Image image = read(GetParam());
+    const auto stepBetweenRows = [&](int y, int next) {
+        int sum = 0;
+        for (int x = 0; x < image.width; ++x) sum += difference(image, x, y, x, next) + difference(image, y, x, next, x);
+        return sum;
+    };
+    int largest = 0;
+    for (int y = 0; y + 1 < image.height; ++y) largest = std::max(largest, stepBetweenRows(y, y + 1));
+    EXPECT_LE(stepBetweenRows(image.height - 1, 0), largest);
+}
+INSTANTIATE_TEST_SUITE_P(Both, Grounds, testing::Values("Textures/Dirt.tga", "Textures/Grass.tga"));
+
+class FontTest : public testing::Test {
+protected:
+    static constexpr int kDrawnFrom = 128; // alpha; less is not drawn
+
+    /// Texels of a cell that are drawn, in the band of rows from `low` to `high`, parts of the cell's height counted along v.
+    int drawn(int cell, float low = 0.0f, float high = 1.0f) const
+    {
+        const int side = font.width / 16, left = cell % 16 * side, first = cell / 16 * side;
+        int count = 0;
+        for (int y = static_cast<int>(low * static_cast<float>(side)); y < static_cast<int>(high * static_cast<float>(side)); ++y)
+            for (int x = 0; x < side; ++x) count += font.at(left + x, first + y)[3] >= kDrawnFrom;
+        return count;
+    }
+
+    const Image font = read("Textures/font.tga");
+};
+
+TEST_F(FontTest, HasEveryPrintableCharacterAndNothingElse)
+{
+    for (int cell = 0; cell < 256; ++cell) {
+        if (cell <= '~' - '!') {
+            EXPECT_GT(drawn(cell), 10) << static_cast<char>('!' + cell);
+        } else {
+            EXPECT_EQ(drawn(cell), 0) << "cell " << cell << (cell == 96 ? ", the space" : "");
+        }
+    }
+}
+
+TEST_F(FontTest, GlyphsStandWithTheirTopAtTheSmallerV)
+{
+    EXPECT_GT(drawn('T' - '!', 0.0f, 0.4f), drawn('T' - '!', 0.4f, 0.8f)) << "T must have its bar at the smaller v";
+    EXPECT_LT(drawn('L' - '!', 0.0f, 0.4f), drawn('L' - '!', 0.5f, 0.9f)) << "L must have its foot at the larger v";
+    EXPECT_EQ(drawn('_' - '!', 0.0f, 0.6f), 0);
+}
+
+TEST_F(FontTest, GlyphsKeepOffTheirNeighbours)
+{
+    const int side = font.width / 16;
+    const auto isRim = [side](int at) { return at % side == 0 || at % side == side - 1; };
+    for (int y = 0; y < font.height; ++y) {
+        for (int x = 0; x < font.width; ++x) {
+            if (isRim(x) || isRim(y)) { ASSERT_LT(font.at(x, y)[3], kDrawnFrom) << x << ", " << y; }
+        }
+    }
+}
+
+class SkyTest : public testing::Test {
+protected:
+    const Image sky = read("Models/skybox.tga");
+    const int cell = sky.width / 4;
+};
+
+TEST_F(SkyTest, FacesMeet)
+{
+    constexpr int kTolerance = 30; // of 255: half the step from sky to hill, which clouds crossing a seam stay below
+    const int top = cell - 1;
+    struct Seam { const char* name; std::function<int(int)> step; };
+    const Seam seams[] = {
+        {"-X to +Z", [&](int i) { return difference(sky, cell - 1, i, cell, i); }},
+        {"+Z to +X", [&](int i) { return difference(sky, 2 * cell - 1, i, 2 * cell, i); }},
+        {"+X to -Z", [&](int i) { return difference(sky, 3 * cell - 1, i, 3 * cell, i); }},
+        {"-Z to -X", [&](int i) { return difference(sky, 4 * cell - 1, i, 0, i); }},
+        {"+Z to +Y", [&](int i) { return difference(sky, cell + i, top, cell + i, cell); }},
+        {"+X to +Y", [&](int i) { return difference(sky, 2 * cell + i, top, 2 * cell - 1, cell + i); }},
+        {"-Z to +Y", [&](int i) { return difference(sky, 3 * cell + i, top, 2 * cell - 1 - i, 2 * cell - 1); }},
+        {"-X to +Y", [&](int i) { return difference(sky, i, top, cell, 2 * cell - 1 - i); }},
+    };
+    for (const Seam& seam : seams)
+        for (int i = 0; i < cell; ++i) ASSERT_LE(seam.step(i), kTolerance) << seam.name << " at texel " << i;
+}
+
+TEST_F(SkyTest, FloorAndWhatFilteringMixesIntoItAreOfOneColour)
+{
+    constexpr int kTolerance = 2;
+    for (int x = 0; x < sky.width; ++x) {
+        ASSERT_LE(difference(sky, 0, 0, x, 0), kTolerance) << "lower edge at " << x;
+        ASSERT_LE(difference(sky, 0, 0, x, sky.height - 1), kTolerance) << "upper edge, which repeats below the lower, at " << x;
+    }
+}
+
+TEST(HeightImage, LiesHighAndGentleWhereCarsEnter)
+{
+    constexpr int kSamples = 64, kSpacing = 8;      // per side; pixels and world units
+    constexpr float kUnitsAByte = 50.0f / 255.0f;
+    constexpr float kLow = 36.0f, kHigh = 46.0f;    // cars drop in from 50; a longer fall ends on the roof
+    constexpr float kSteepest = 0.36f;              // 20 degrees; computer players never brake
+    const Image map = read("Textures/map.tga");
+    ASSERT_GE(map.width, 512);
+    ASSERT_GE(map.height, 512);
+
+    const auto height = [&](int row, int column) { return static_cast<float>(*map.at(column * kSpacing, row * kSpacing)) * kUnitsAByte; };
+    const auto isEntry = [](int sample) { return std::abs(sample * kSpacing - 256) <= 100 + kSpacing; };
+    for (int row = 0; row + 1 < kSamples; ++row) {
+        for (int column = 0; column + 1 < kSamples; ++column) {
+            if (!isEntry(row) || !isEntry(column)) continue;
+            const float h = height(row, column);
+            EXPECT_TRUE(h >= kLow && h <= kHigh) << h << " at x " << row * kSpacing - 256 << ", z " << column * kSpacing - 256;
+            EXPECT_LE(std::hypot(height(row + 1, column) - h, height(row, column + 1) - h) / kSpacing, kSteepest)
+                << "at x " << row * kSpacing - 256 << ", z " << column * kSpacing - 256;
+        }
+    }
+}
+
+} // namespace
