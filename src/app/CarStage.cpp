@@ -21,7 +21,7 @@ constexpr int kTireSegments = 8;
 
 class TireModel : public Model {
 public:
-    explicit TireModel(const MeshGeometry& geometry) : transformation(this)
+    explicit TireModel(MeshGeometry& geometry) : transformation(this)
     {
         shader = Library::getInstance()->getShaderprogram("WireframeShader");
         setGeometry(geometry);
@@ -38,7 +38,7 @@ private:
 
 class CarStage::Dress : public ICarDress {
 public:
-    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, const MeshGeometry& tireGeometry)
+    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, MeshGeometry& tireGeometry)
         : driver(game, colour),
           driverTransformation(&driver),
           driverColour(colour),
@@ -62,7 +62,7 @@ private:
         node.attach(&driver);
     }
 
-    void dressWheels(const std::array<Node*, 4>& wheels, const MeshGeometry& tireGeometry)
+    void dressWheels(const std::array<Node*, 4>& wheels, MeshGeometry& tireGeometry)
     {
         for (Node* wheel : wheels) {
             tires.push_back(std::make_unique<TireModel>(tireGeometry));
@@ -107,7 +107,7 @@ glm::ivec2 CarStage::getWindowSize() const
     return {renderer.getWidth(), renderer.getHeight()};
 }
 
-const MeshGeometry& CarStage::getTireGeometry()
+MeshGeometry& CarStage::getTireGeometry()
 {
     if (!tireGeometry) {
         Mesh mesh;

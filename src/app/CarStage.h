@@ -23,7 +23,7 @@ public:
 private:
     class Dress; // the models of one car
 
-    const MeshGeometry& getTireGeometry();
+    MeshGeometry& getTireGeometry();
 
     QKD_Game* game;
     Renderer& renderer;

@@ -35,8 +35,8 @@ FreeFlight::Mouse mouseIn(const AppWindow& window)
 
 } // namespace
 
-DebugGamestate::DebugGamestate(const std::string& name, QKD_Game& ownGame)
-    : IGameState(name),
+DebugGamestate::DebugGamestate(const std::string& stateName, QKD_Game& ownGame)
+    : IGameState(stateName),
       game(ownGame),
       window(ownGame.getCore()->getRenderer()->getWindow()),
       cameraNode(createCameraNode(ownGame)),

@@ -12,7 +12,7 @@ class QKD_Game;
 class DebugGamestate : public IGameState {
 public:
     /// The renderer must have the scene graph by now: the node "CameraNode" joins it.
-    DebugGamestate(const std::string& name, QKD_Game& game);
+    DebugGamestate(const std::string& stateName, QKD_Game& game);
 
     void enter() override;
     void leave() override;

@@ -34,7 +34,7 @@ constexpr HelpLine kHelp[] = {
 
 } // namespace
 
-PlayGamestate::PlayGamestate(const std::string& name, QKD_Game& ownGame) : IGameState(name), game(ownGame) {}
+PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame) : IGameState(stateName), game(ownGame) {}
 
 void PlayGamestate::enter()
 {

@@ -12,7 +12,7 @@ class QKD_Game;
 /// somebody quits. Owned by the game.
 class PlayGamestate : public IGameState {
 public:
-    PlayGamestate(const std::string& name, QKD_Game& game);
+    PlayGamestate(const std::string& stateName, QKD_Game& game);
 
     void enter() override;
     void leave() override;

@@ -43,8 +43,8 @@ Node* createPanoramaNode(const QKD_Game& game)
 
 } // namespace
 
-RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& name, QKD_Game& ownGame)
-    : IGameState(name), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)), registration(ownGame)
+RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame)
+    : IGameState(stateName), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)), registration(ownGame)
 {
 }
 

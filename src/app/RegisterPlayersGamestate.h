@@ -10,7 +10,7 @@ class QKD_Game;
 class RegisterPlayersGamestate : public IGameState {
 public:
     /// The renderer must have the scene graph by now: the node "PanoramaCamera" joins it.
-    RegisterPlayersGamestate(const std::string& name, QKD_Game& game);
+    RegisterPlayersGamestate(const std::string& stateName, QKD_Game& game);
 
     void enter() override;
     void leave() override;
