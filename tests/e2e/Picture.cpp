@@ -1,0 +1,37 @@
+#include "e2e/Picture.h"
+
+#include <cstdlib>
+
+namespace {
+
+constexpr int kVisibleStep = 10; // of 255, in any component
+
+bool differs(const unsigned char* a, const unsigned char* b)
+{
+    for (int i = 0; i < 3; ++i) {
+        if (std::abs(a[i] - b[i]) > kVisibleStep) return true;
+    }
+    return false;
+}
+
+template <class Test>
+double share(const Region& region, Test test)
+{
+    int hits = 0;
+    for (int y = region.y; y < region.y + region.height; ++y) {
+        for (int x = region.x; x < region.x + region.width; ++x) hits += test(x, y) ? 1 : 0;
+    }
+    return static_cast<double>(hits) / (region.width * region.height);
+}
+
+} // namespace
+
+double changedShare(const Picture& before, const Picture& after, const Region& region)
+{
+    return share(region, [&](int x, int y) { return differs(before.at(x, y), after.at(x, y)); });
+}
+
+double detailShare(const Picture& picture, const Region& region)
+{
+    return share(region, [&](int x, int y) { return differs(picture.at(x, y), picture.at(region.x, region.y)); });
+}
