@@ -1,0 +1,201 @@
+#include "gpu/Shaderprogram.h"
+
+#include "TestPrograms.h"
+#include "gpu/Texture.h"
+#include "gpu/Uniform_Color.h"
+#include "gpu/Uniform_Texture.h"
+#include "support/DataCapturedLog.h"
+#include "support/GlErrors.h"
+#include "support/GlFixture.h"
+
+#include <glm/gtc/type_ptr.hpp>
+
+namespace {
+
+const Stage kAllUniforms{GL_VERTEX_SHADER,
+    "uniform float number; uniform vec3 window; uniform vec4 color; uniform mat3 normalMatrix; uniform mat4 view; uniform sampler2D tex;"
+    "in vec3 position; in vec3 unused;"
+    "void main() { gl_Position = view * vec4(normalMatrix * (position + window), number) + color + texture(tex, position.xy); }"};
+
+class ShaderprogramTest : public GlTest {
+protected:
+    template <class T>
+    static T valueOf(const Shaderprogram& program, const char* name)
+    {
+        T value(0.0f);
+        glGetUniformfv(program.getHandle(), glGetUniformLocation(program.getHandle(), name), glm::value_ptr(value));
+        return value;
+    }
+
+    static float numberOf(const Shaderprogram& program, const char* name) { return valueOf<glm::vec1>(program, name).x; }
+
+    static GLint integer(GLenum what)
+    {
+        GLint value = -1;
+        glGetIntegerv(what, &value);
+        return value;
+    }
+};
+
+template <class T>
+struct Constant : IUniform<T> {
+    explicit Constant(T v) : value(v) {}
+    T get() override { return value; }
+    T value;
+};
+
+TEST_F(ShaderprogramTest, EveryKindOfUniformArrivesDirectlyAndFromASource)
+{
+    const auto program = makeProgram({kAllUniforms, kWhiteFragment});
+    const glm::mat3 rotation(0, 1, 2, 3, 4, 5, 6, 7, 8);
+    const glm::mat4 view(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16);
+    program->use();
+
+    program->setUniform("number", 2.5f);
+    program->setUniform("window", glm::vec3(1, 2, 3));
+    program->setUniform("color", glm::vec4(1, 2, 3, 4));
+    program->setUniform("normalMatrix", rotation);
+    program->setUniform("view", view, true);
+    EXPECT_EQ(numberOf(*program, "number"), 2.5f);
+    EXPECT_EQ(valueOf<glm::vec3>(*program, "window"), glm::vec3(1, 2, 3));
+    EXPECT_EQ(valueOf<glm::vec4>(*program, "color"), glm::vec4(1, 2, 3, 4));
+    EXPECT_EQ(valueOf<glm::mat3>(*program, "normalMatrix"), rotation);
+    EXPECT_EQ(valueOf<glm::mat4>(*program, "view"), glm::transpose(view));
+
+    Constant<glm::mat4> viewSource(view);
+    Constant<glm::mat3> rotationSource(rotation * 2.0f);
+    Uniform_Color color(glm::vec4(0.5f));
+    program->setUniform("view", UniformVariant(&viewSource));
+    program->setUniform("normalMatrix", UniformVariant(&rotationSource));
+    program->setUniform("color", UniformVariant(&color));
+    EXPECT_EQ(valueOf<glm::mat4>(*program, "view"), view);
+    EXPECT_EQ(valueOf<glm::mat3>(*program, "normalMatrix"), rotation * 2.0f);
+    EXPECT_EQ(valueOf<glm::vec4>(*program, "color"), glm::vec4(0.5f));
+
+    viewSource.value = glm::mat4(3.0f);
+    program->setUniform("view", UniformVariant(&viewSource));
+    EXPECT_EQ(valueOf<glm::mat4>(*program, "view"), glm::mat4(3.0f)) << "the value is fetched anew each time";
+    program->setUniform("view", UniformVariant());
+    EXPECT_EQ(valueOf<glm::mat4>(*program, "view"), glm::mat4(3.0f)) << "an empty variant sets nothing";
+}
+
+TEST_F(ShaderprogramTest, ATextureUniformLeavesItsUnitActiveAndBound)
+{
+    const auto program = makeProgram({kAllUniforms, kWhiteFragment});
+    Texture texture;
+    texture.generate();
+    Uniform_Texture source(&texture, 3);
+    program->use();
+    program->setUniform("tex", UniformVariant(&source));
+
+    EXPECT_EQ(integer(GL_ACTIVE_TEXTURE), GL_TEXTURE0 + 3);
+    EXPECT_EQ(integer(GL_TEXTURE_BINDING_2D), static_cast<GLint>(texture.getHandle()));
+    GLint unit = -1;
+    glGetUniformiv(program->getHandle(), glGetUniformLocation(program->getHandle(), "tex"), &unit);
+    EXPECT_EQ(unit, 3);
+
+    program->setUniform("tex", static_cast<const Texture*>(nullptr), 3);
+    EXPECT_EQ(integer(GL_TEXTURE_BINDING_2D), 0) << "a texture that failed to load must not leave another one in its place";
+}
+
+TEST_F(ShaderprogramTest, NamesThatTheProgramLacksAreSilentForUniformsAndReportedForAttributes)
+{
+    const auto program = makeProgram({kAllUniforms, kWhiteFragment});
+    program->use();
+    CapturedLog log;
+    program->setUniform("absent", 1.0f);
+    program->setUniform("absent", glm::mat4(1.0f));
+    program->setUniform("absent", static_cast<const Texture*>(nullptr), 0);
+    const GLint present = program->getAttribLocation("position"), removed = program->getAttribLocation("unused");
+
+    EXPECT_EQ(log.text(), "WARNING | Attribute not found! unused\n");
+    EXPECT_GE(present, 0);
+    EXPECT_EQ(removed, -1);
+}
+
+TEST_F(ShaderprogramTest, ASetterWritesToTheCurrentProgram)
+{
+    const auto first = makeProgram({kAllUniforms, kWhiteFragment}), second = makeProgram({kAllUniforms, kWhiteFragment});
+    second->use();
+    first->setUniform("number", 7.0f);
+    EXPECT_EQ(numberOf(*first, "number"), 0.0f);
+    EXPECT_EQ(numberOf(*second, "number"), 7.0f);
+}
+
+TEST_F(ShaderprogramTest, LinkPrintsItsReportPastTheLog)
+{
+    Shaderprogram program;
+    CapturedLog log;
+    build(program, {kPlainVertex, kWhiteFragment});
+    EXPECT_EQ(log.text(), "DEBUG | Compile Shader ...\nDEBUG | Compile Shader ...\nLinking program\n\nShader compilation done\n");
+    EXPECT_TRUE(program.isUsable());
+}
+
+struct Spoiled {
+    const char* what;
+    std::vector<Stage> stages;
+};
+
+/// Programs that cannot be used, whatever the reason, must be reported once and then be harmless.
+TEST_F(ShaderprogramTest, AProgramThatDoesNotLinkIsReportedAndHarmless)
+{
+    const Spoiled rows[] = {
+        {"no stages", {}},
+        {"a stage of garbage", {kPlainVertex, kGarbage}},
+        {"an empty stage", {kPlainVertex, {GL_FRAGMENT_SHADER, ""}}},
+        {"stages that disagree", {{GL_VERTEX_SHADER, "out vec3 a; void main() { a = vec3(1.0); gl_Position = vec4(a, 1.0); }"},
+                                     {GL_FRAGMENT_SHADER, "in vec2 a; out vec4 c; void main() { c = a.xyxy; }"}}},
+        {"evaluation without control and fragment", {{GL_TESS_CONTROL_SHADER, "layout(vertices = 3) out; void main() {}"}}},
+    };
+    for (const Spoiled& row : rows) {
+        SCOPED_TRACE(row.what);
+        CompilerErrorsExpected spoiled;
+        Shaderprogram program;
+        program.setSource("Shader/Spoiled.shader");
+        CapturedLog log;
+        build(program, row.stages);
+        EXPECT_EQ(log.count("ERROR | couldn't link program: Shader/Spoiled.shader\n"), 1);
+        EXPECT_FALSE(program.isUsable());
+
+        CapturedLog afterwards;
+        program.use();
+        EXPECT_EQ(integer(GL_CURRENT_PROGRAM), 0);
+        EXPECT_EQ(Shaderprogram::current(), nullptr);
+        program.setUniform("color", glm::vec4(1.0f));
+        program.setUniform("tex", static_cast<const Texture*>(nullptr), 0);
+        EXPECT_EQ(program.getAttribLocation("position"), -1);
+        EXPECT_EQ(afterwards.text(), "");
+    }
+}
+
+TEST_F(ShaderprogramTest, AReloadReplacesAndDeletesTheProgramObject)
+{
+    const auto program = makeProgram({kAllUniforms, kWhiteFragment});
+    const GLuint old = program->getHandle();
+    program->use();
+    program->setUniform("number", 7.0f);
+
+    program->createProgram();
+    EXPECT_FALSE(glIsProgram(old)) << "neither kept nor still current";
+    EXPECT_FALSE(program->isUsable());
+    program->use();
+    EXPECT_EQ(integer(GL_CURRENT_PROGRAM), 0);
+
+    build(*program, {kAllUniforms, kWhiteFragment});
+    program->use();
+    EXPECT_EQ(integer(GL_CURRENT_PROGRAM), static_cast<GLint>(program->getHandle()));
+    EXPECT_EQ(numberOf(*program, "number"), 0.0f) << "values do not carry over";
+}
+
+TEST_F(ShaderprogramTest, AStagesMessagesGoToTheLogUpToTheirEnd)
+{
+    CompilerErrorsExpected spoiled;
+    CapturedLog log;
+    const Shader shader(GL_VERTEX_SHADER, "#version 430 core\nvoid main() { undeclared = 1; }\n");
+    EXPECT_FALSE(shader.isCompiled());
+    EXPECT_TRUE(log.text().starts_with("DEBUG | Compile Shader ...\nDEBUG | 0:2(")) << log.text();
+    EXPECT_TRUE(log.contains("undeclared"));
+    EXPECT_FALSE(log.contains(std::string(1, '\0')));
+}
+
+} // namespace

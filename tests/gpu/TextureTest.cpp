@@ -1,0 +1,173 @@
+#include "gpu/Texture.h"
+
+#include "TestPrograms.h"
+#include "gpu/DrawCalls.h"
+#include "gpu/VertexAttributeList.h"
+#include "gpu/VertexBuffer.h"
+#include "support/DataCapturedLog.h"
+#include "support/DataScratch.h"
+#include "support/GlErrors.h"
+#include "support/GlFixture.h"
+
+namespace {
+
+class TextureTest : public GlTest {
+protected:
+    static GLint level(const Texture& texture, int mip, GLenum what)
+    {
+        texture.bind();
+        GLint value = -1;
+        glGetTexLevelParameteriv(GL_TEXTURE_2D, mip, what, &value);
+        texture.unbind();
+        return value;
+    }
+
+    static GLint parameter(const Texture& texture, GLenum what)
+    {
+        texture.bind();
+        GLint value = -1;
+        glGetTexParameteriv(GL_TEXTURE_2D, what, &value);
+        texture.unbind();
+        return value;
+    }
+
+    static std::vector<glm::u8vec4> texelsOf(const Texture& texture)
+    {
+        std::vector<glm::u8vec4> texels(static_cast<std::size_t>(level(texture, 0, GL_TEXTURE_WIDTH) * level(texture, 0, GL_TEXTURE_HEIGHT)));
+        texture.bind();
+        glGetTexImage(GL_TEXTURE_2D, 0, GL_RGBA, GL_UNSIGNED_BYTE, texels.data());
+        texture.unbind();
+        return texels;
+    }
+
+    DataScratch data;
+};
+
+struct Picture {
+    int width, height, channels;
+    int textureWidth, textureHeight;
+    GLint format;
+    int levels;
+};
+
+TEST_F(TextureTest, SidesAreRaisedToPowersOfTwoAndTheChannelsDecideTheFormat)
+{
+    const Picture rows[] = {
+        {300, 200, 3, 512, 256, GL_RGB, 10},
+        {256, 256, 4, 256, 256, GL_RGBA, 9},
+        {257, 1, 3, 512, 1, GL_RGB, 10},
+        {3, 5, 1, 4, 8, GL_RGB, 4},
+    };
+    for (const Picture& row : rows) {
+        SCOPED_TRACE(row.width);
+        data.writeTga("Textures/picture.tga", row.width, row.height, row.channels, [](int, int, int i) { return 40 * (i + 1); });
+        Texture texture;
+        CapturedLog log;
+        texture.load("Textures/picture.tga");
+        EXPECT_EQ(log.text(), "");
+        EXPECT_EQ(level(texture, 0, GL_TEXTURE_WIDTH), row.textureWidth);
+        EXPECT_EQ(level(texture, 0, GL_TEXTURE_HEIGHT), row.textureHeight);
+        EXPECT_EQ(level(texture, 0, GL_TEXTURE_INTERNAL_FORMAT), row.format);
+        EXPECT_EQ(level(texture, row.levels - 1, GL_TEXTURE_WIDTH), 1) << "the mipmaps go down to one texel";
+        EXPECT_EQ(level(texture, row.levels, GL_TEXTURE_WIDTH), 0);
+        const glm::u8vec4 expected(40, row.channels == 1 ? 40 : 80, row.channels == 1 ? 40 : 120, row.channels == 4 ? 160 : 255);
+        for (const glm::u8vec4& texel : texelsOf(texture)) ASSERT_EQ(texel, expected);
+    }
+}
+
+TEST_F(TextureTest, RowsRunFromTheBottomUpAndSamplingRepeatsTrilinearly)
+{
+    data.writeTga("rows.tga", 2, 4, 3, [](int x, int y, int i) { return i == 0 ? 60 * y : i == 1 ? 200 * x : 7; });
+    Texture texture;
+    glActiveTexture(GL_TEXTURE5);
+    texture.load("rows.tga");
+
+    GLint unit = 0, bound = -1;
+    glGetIntegerv(GL_ACTIVE_TEXTURE, &unit);
+    glGetIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    EXPECT_EQ(unit, GL_TEXTURE5);
+    EXPECT_EQ(bound, 0);
+    const std::vector<glm::u8vec4> texels = texelsOf(texture);
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 2; ++x)
+            EXPECT_EQ(texels[static_cast<std::size_t>(2 * y + x)], glm::u8vec4(60 * y, 200 * x, 7, 255)) << x << ", " << y;
+
+    EXPECT_EQ(parameter(texture, GL_TEXTURE_WRAP_S), GL_REPEAT);
+    EXPECT_EQ(parameter(texture, GL_TEXTURE_WRAP_T), GL_REPEAT);
+    EXPECT_EQ(parameter(texture, GL_TEXTURE_MAG_FILTER), GL_LINEAR);
+    EXPECT_EQ(parameter(texture, GL_TEXTURE_MIN_FILTER), GL_LINEAR_MIPMAP_LINEAR);
+    texture.setFilter(GL_NEAREST, GL_NEAREST_MIPMAP_NEAREST);
+    EXPECT_EQ(parameter(texture, GL_TEXTURE_MAG_FILTER), GL_NEAREST);
+    EXPECT_EQ(parameter(texture, GL_TEXTURE_MIN_FILTER), GL_NEAREST_MIPMAP_NEAREST);
+}
+
+struct BadFile {
+    const char* path;
+    const char* line;
+};
+
+TEST_F(TextureTest, ABadFileGivesOneLineAndATextureThatSamplesAsBlackWithoutAnyMessage)
+{
+    data.write("garbage.tga", std::string(3000, '\x5a'));
+    data.write("empty.tga", "");
+    data.writeTga("cut.tga", 64, 64, 4, [](int, int, int) { return 255; });
+    std::filesystem::resize_file("cut.tga", 5000);
+    std::filesystem::create_directory("folder.tga");
+    const BadFile rows[] = {
+        {"absent.tga", "ERROR | couldn't open file: absent.tga\n"},
+        {"garbage.tga", "ERROR | not a TGA picture: garbage.tga\n"},
+        {"empty.tga", "ERROR | not a TGA picture: empty.tga\n"},
+        {"cut.tga", "ERROR | picture is cut short: cut.tga\n"},
+        {"folder.tga", "ERROR | not a TGA picture: folder.tga\n"},
+    };
+    const auto program = makeProgram({kPlainVertex,
+        {GL_FRAGMENT_SHADER, "uniform sampler2D tex; out vec4 colour; void main() { colour = vec4(texture(tex, vec2(0.5)).rgb, 1.0) + vec4(0.0, 0.5, 0.0, 0.0); }"}});
+    VertexAttributeList layout;
+    layout.addAttribute({ATTRIBUTE_VEC3, "position"});
+    VertexBuffer triangle(&layout, 3);
+    const float positions[] = {-1, -1, 0, 3, -1, 0, -1, 3, 0};
+    triangle.setAttributeData("position", positions);
+    triangle.upload(GL_STATIC_DRAW);
+    const GLuint vao = layout.createVAO(program.get(), &triangle);
+
+    for (const BadFile& row : rows) {
+        SCOPED_TRACE(row.path);
+        Texture texture;
+        CapturedLog log;
+        GlMessages gl;
+        texture.load(row.path);
+        EXPECT_EQ(log.text(), row.line);
+        EXPECT_EQ(level(texture, 0, GL_TEXTURE_WIDTH), 0);
+        EXPECT_EQ(parameter(texture, GL_TEXTURE_WRAP_S), GL_REPEAT);
+
+        program->use();
+        program->setUniform("tex", &texture, 0);
+        drawVertexArray(vao, GL_TRIANGLES, &triangle, nullptr);
+        EXPECT_EQ(pixelAt(kSide / 2, kSide / 2), glm::ivec4(0, 128, 0, 255));
+        texture.setFilter(GL_NEAREST, GL_NEAREST);
+        EXPECT_EQ(gl.messages, std::vector<std::string>());
+    }
+    deleteVertexArray(vao);
+}
+
+TEST_F(TextureTest, AReloadShowsTheNewPictureAndDeletesTheOldObject)
+{
+    Texture texture;
+    data.writeTga("picture.tga", 2, 2, 3, [](int, int, int) { return 10; });
+    texture.load("picture.tga");
+    const GLuint old = texture.getHandle();
+    GLuint spare = 0; // takes the next name, so that the reload cannot get the old one back unnoticed
+    glGenTextures(1, &spare);
+
+    data.writeTga("picture.tga", 4, 4, 4, [](int, int, int) { return 90; });
+    texture.load("picture.tga");
+    EXPECT_EQ(texelsOf(texture), std::vector<glm::u8vec4>(16, glm::u8vec4(90)));
+    if (texture.getHandle() != old) EXPECT_FALSE(glIsTexture(old));
+    glDeleteTextures(1, &spare);
+
+    std::filesystem::remove("picture.tga");
+    texture.load("picture.tga");
+    EXPECT_EQ(level(texture, 0, GL_TEXTURE_WIDTH), 0) << "no trace of the earlier picture";
+}
+
+} // namespace

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <glm/glm.hpp>
+#include <gtest/gtest.h>
+
+/// A test with a real OpenGL 4.3 core debug context; any GL error fails it. All tests of a program share one window, which the first
+/// opens. Each starts with no program and no buffer bound, drawing into an off-screen picture of kSide x kSide pixels, cleared black,
+/// with depth test and face culling off.
+class GlTest : public testing::Test {
+protected:
+    static constexpr int kSide = 64; // pixels
+
+    GlTest();
+
+    /// A pixel of the picture, each component 0 to 255; (0, 0) is at the lower left.
+    static glm::ivec4 pixelAt(int x, int y);
+
+    /// Pixels of the picture that are not black.
+    static int paintedPixels();
+};
