@@ -180,13 +180,12 @@ void Renderer::renderText()
 
 void Renderer::postProcess()
 {
-    if (!targets->post.isUsable()) {
-        targets->post.showUnprocessed(targets->scene);
-        return;
-    }
-    targets->post.blur(targets->sceneColour, targets->sceneDepth, targets->lightDepth, FrameTimer::getInstance()->getTimeMs());
+    const PostProcessing& post = targets->post;
+    const bool usable = post.isUsable();
+    if (usable) post.blur(targets->sceneColour, targets->sceneDepth, targets->lightDepth, FrameTimer::getInstance()->getTimeMs());
     stepDone("Blur");
-    targets->post.celPostProc();
+    if (usable) post.celPostProc();
+    else post.showUnprocessed(targets->scene);
     stepDone("CelPostProc");
 }
 
