@@ -16,7 +16,10 @@ public:
     CarStage(QKD_Game* game, Renderer& renderer);
     ~CarStage();
 
-    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour) override;
+    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour, bool isHeard) override;
+    Attachable* dressBall(Node& node, const glm::vec4& colour) override;
+    void undressBall(Attachable* model) override;
+    void playSound(const std::string& name, float volume) override;
     void addText(const std::string& text, double x, double y) override;
     glm::ivec2 getWindowSize() const override;
 

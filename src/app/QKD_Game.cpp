@@ -10,6 +10,7 @@
 #include "app/base/FrameTimer.h"
 #include "app/base/Logger.h"
 #include "assets/Library.h"
+#include "assets/PartyhatModel.h"
 #include "gpu/Uniform_Texture.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
@@ -71,6 +72,7 @@ void QKD_Game::init()
     createStates();
     createLightNode();
     createTerrain();
+    createHats();
     bindFunctionKeys();
     lastRankingLog = FrameTimer::getInstance()->getTimeMs();
 }
@@ -120,6 +122,17 @@ void QKD_Game::createTerrain()
     getSceneGraph()->getRoot()->addChild(terrain->getNode());
     terrainModel = std::make_unique<TerrainModel>(*terrain);
     terrain->getNode()->attach(terrainModel.get());
+    setTerrain(terrain);
+}
+
+void QKD_Game::createHats()
+{
+    const glm::vec4 kColours[Hats::kCount] = {
+        {255 / 255.0f, 215 / 255.0f, 0, 1}, {192 / 255.0f, 192 / 255.0f, 192 / 255.0f, 1}, {205 / 255.0f, 127 / 255.0f, 50 / 255.0f, 1}};
+    for (int place = 0; place < Hats::kCount; ++place) {
+        hatModels.push_back(std::make_unique<PartyhatModel>(kColours[place], this));
+        getHats().getAnimationNode(place)->attach(hatModels.back().get());
+    }
 }
 
 void QKD_Game::bindFunctionKeys()

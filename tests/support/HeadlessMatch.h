@@ -22,17 +22,28 @@ public:
         double x, y;
     };
 
-    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour) override
+    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour, bool) override
     {
         cars.push_back(nodes);
         colours.push_back(colour);
         return *this;
     }
     void setEmitterPosition(const glm::vec3& position) override { emitterPosition = position; }
+    void setThrottle(float newThrottle) override { throttle = newThrottle; }
+    Attachable* dressBall(Node&, const glm::vec4&) override { return nullptr; }
+    void undressBall(Attachable*) override {}
+    void playSound(const std::string& name, float volume) override { sounds.push_back({name, volume}); }
     void addText(const std::string& text, double x, double y) override { lines.push_back({text, x, y}); }
     glm::ivec2 getWindowSize() const override { return {1024, 768}; }
 
+    struct Sound {
+        std::string name;
+        float volume;
+    };
+
     std::vector<CarNodes> cars;
+    std::vector<Sound> sounds; ///< everything played so far
+    float throttle = 0;        ///< of whoever was heard last
     std::vector<glm::vec4> colours;
     std::vector<Line> lines;        ///< of the last pass
     glm::vec3 emitterPosition{0.0f}; ///< of whoever smoked last
@@ -46,7 +57,9 @@ public:
     {
         enterDataFolder();
         rules.setWorld(&graph, &stage);
-        graph.getRoot()->addChild(PhysxManager::instance()->createTerrain()->getNode());
+        const Terrain* terrain = PhysxManager::instance()->createTerrain();
+        graph.getRoot()->addChild(terrain->getNode());
+        rules.setTerrain(terrain);
         FrameTimer::getInstance()->tick();
         graph.update();
     }

@@ -4,6 +4,9 @@
 #include "app/match/MatchRules.h"
 #include "input/KeyboardController.h"
 #include "input/XBOXController.h"
+#include "platform/Keyboard.h"
+
+#include <GLFW/glfw3.h>
 
 #include <algorithm>
 
@@ -17,6 +20,19 @@ PlayerRegistration::PlayerRegistration(MatchRules& ownMatch) : match(ownMatch)
 }
 
 void PlayerRegistration::update()
+{
+    readDevices();
+    readSpaceBar();
+}
+
+void PlayerRegistration::readSpaceBar()
+{
+    const bool isDown = isKeyDown(GLFW_KEY_SPACE);
+    if (isDown && !spaceHeld && match.getComputerPlayerCount() < kMaxComputerPlayers) match.addComputerPlayer();
+    spaceHeld = isDown;
+}
+
+void PlayerRegistration::readDevices()
 {
     for (Slot& slot : slots) {
         slot.device->update();
