@@ -75,7 +75,7 @@ TEST_F(DrawCallsTest, WhatCannotBeDrawnIsSkippedWithoutAGlError)
     plain->use();
     drawVertexArray(0, GL_TRIANGLES, &vertices, &indices);
     drawVertexArray(vao, GL_TRIANGLES, nullptr, nullptr);
-    for (const Shaderprogram* program : {broken.get(), &empty, fragmentOnly.get()}) {
+    for (const Shaderprogram* program : std::initializer_list<const Shaderprogram*>{broken.get(), &empty, fragmentOnly.get()}) {
         plain->use();
         program->use();
         EXPECT_EQ(layout.createVAO(program->isUsable() ? nullptr : program, &vertices), 0u);

@@ -27,7 +27,12 @@ protected:
         return value;
     }
 
-    static float numberOf(const Shaderprogram& program, const char* name) { return valueOf<glm::vec1>(program, name).x; }
+    static float numberOf(const Shaderprogram& program, const char* name)
+    {
+        float value = 0;
+        glGetUniformfv(program.getHandle(), glGetUniformLocation(program.getHandle(), name), &value);
+        return value;
+    }
 
     static GLint integer(GLenum what)
     {
