@@ -8,9 +8,11 @@
 #include "players/IStage.h"
 #include "players/Player.h"
 #include "scene/SceneGraph.h"
+#include "support/DataScratch.h"
 #include "support/ScriptedKeyboard.h"
 #include "support/SteppedClock.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,11 +44,15 @@ public:
 /// passes are made. The physics world goes with it.
 class HeadlessMatch {
 public:
-    HeadlessMatch()
+    enum class Ground {
+        kGame, ///< the game's own height picture
+        kFlat, ///< flat, eight units below where cars enter
+    };
+
+    explicit HeadlessMatch(Ground ground = Ground::kGame)
     {
-        enterDataFolder();
         rules.setWorld(&graph, &stage);
-        graph.getRoot()->addChild(PhysxManager::instance()->createTerrain()->getNode());
+        createTerrain(ground);
         FrameTimer::getInstance()->tick();
         graph.update();
     }
@@ -81,4 +87,18 @@ public:
     SilentStage stage;
     SceneGraph graph;
     MatchRules rules;
+
+private:
+    void createTerrain(Ground ground)
+    {
+        std::optional<DataScratch> scratch;
+        if (ground == Ground::kFlat) {
+            constexpr int kHeightByte = 214; // 42 units
+            scratch.emplace();
+            scratch->writeTga("Textures/map.tga", 512, 512, 1, [](int, int, int) { return kHeightByte; });
+        } else {
+            enterDataFolder();
+        }
+        graph.getRoot()->addChild(PhysxManager::instance()->createTerrain()->getNode());
+    }
 };
