@@ -19,7 +19,7 @@ constexpr float kTireRadius = 0.45f; // world units
 constexpr float kTireWidth = 0.35f;  // world units
 constexpr int kTireSegments = 8;
 
-class TireModel : public Model {
+class TireModel final : public Model {
 public:
     explicit TireModel(MeshGeometry& geometry) : transformation(this)
     {
@@ -36,9 +36,9 @@ private:
 
 } // namespace
 
-class CarStage::Dress : public ICarDress {
+class CarStage::Dress final : public ICarDress {
 public:
-    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, MeshGeometry& tireGeometry)
+    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, MeshGeometry& geometry)
         : driver(game, colour),
           driverTransformation(&driver),
           driverColour(colour),
@@ -47,7 +47,7 @@ public:
           smokeTexture(Library::getInstance()->getTexture("Smoke"), 0)
     {
         dressDriver(*nodes.driver);
-        dressWheels(nodes.wheels, tireGeometry);
+        dressWheels(nodes.wheels, geometry);
         dressExhaust(*nodes.exhaust);
     }
 
@@ -62,10 +62,10 @@ private:
         node.attach(&driver);
     }
 
-    void dressWheels(const std::array<Node*, 4>& wheels, MeshGeometry& tireGeometry)
+    void dressWheels(const std::array<Node*, 4>& wheels, MeshGeometry& geometry)
     {
         for (Node* wheel : wheels) {
-            tires.push_back(std::make_unique<TireModel>(tireGeometry));
+            tires.push_back(std::make_unique<TireModel>(geometry));
             wheel->attach(tires.back().get());
         }
     }

@@ -9,9 +9,9 @@ namespace {
 constexpr int kPassesPerSecond = 120;
 
 /// A player on flat ground whose car has come to rest on its wheels, driven with the arrow keys.
-class Driving : public testing::Test {
-protected:
-    Driving() : match(HeadlessMatch::Ground::kFlat), device(1), player(match.addPlayer(device))
+class DrivenCar {
+public:
+    DrivenCar() : match(HeadlessMatch::Ground::kFlat), device(1), player(match.addPlayer(device))
     {
         match.passes(4 * kPassesPerSecond);
         EXPECT_GT(up().y, 0.9f) << "the car did not land on its wheels";
@@ -34,40 +34,41 @@ protected:
     Player& player;
 };
 
-TEST_F(Driving, UpDrivesForwardsAndDownBrakesAndThenReverses)
+TEST(Driving, UpDrivesForwardsAndDownBrakesAndThenReverses)
 {
-    const glm::vec3 start = player.getPosition();
-    const glm::vec3 ahead = forward();
-    drive({GLFW_KEY_UP}, 2);
-    EXPECT_GT(speed(), 3.0f);
-    EXPECT_GT(glm::dot(player.getPosition() - start, ahead), 3.0f);
+    DrivenCar car;
+    const glm::vec3 start = car.player.getPosition();
+    const glm::vec3 ahead = car.forward();
+    car.drive({GLFW_KEY_UP}, 2);
+    EXPECT_GT(car.speed(), 3.0f);
+    EXPECT_GT(glm::dot(car.player.getPosition() - start, ahead), 3.0f);
 
-    drive({GLFW_KEY_DOWN}, 4);
-    EXPECT_LT(speed(), -1.0f) << "the brake key did not turn into reverse";
+    car.drive({GLFW_KEY_DOWN}, 4);
+    EXPECT_LT(car.speed(), -1.0f) << "the brake key did not turn into reverse";
 
-    drive({GLFW_KEY_UP}, 4);
-    EXPECT_GT(speed(), 1.0f) << "the throttle key did not end reverse";
+    car.drive({GLFW_KEY_UP}, 4);
+    EXPECT_GT(car.speed(), 1.0f) << "the throttle key did not end reverse";
 }
 
-TEST_F(Driving, RightTurnsTheCarToItsDriversRight)
+TEST(Driving, RightTurnsTheCarToItsDriversRight)
 {
-    const glm::vec3 before = forward();
-    drive({GLFW_KEY_UP, GLFW_KEY_RIGHT}, 0.7);
+    DrivenCar car;
+    const glm::vec3 before = car.forward();
+    car.drive({GLFW_KEY_UP, GLFW_KEY_RIGHT}, 0.7);
     // The driver's right is -x of the car, so the nose turns clockwise seen from above.
-    EXPECT_LT(glm::cross(before, forward()).y, -0.1f);
+    EXPECT_LT(glm::cross(before, car.forward()).y, -0.1f);
 }
 
-TEST_F(Driving, TheHandBrakeSlowsARollingCar)
+TEST(Driving, TheHandBrakeSlowsARollingCar)
 {
-    drive({GLFW_KEY_UP}, 3);
-    const float fast = speed();
-    drive({}, 0.5);
-    const float lostByRolling = fast - speed();
-
-    drive({GLFW_KEY_UP}, 3);
-    const float fastAgain = speed();
-    drive({GLFW_KEY_L}, 0.5);
-    EXPECT_GT(fastAgain - speed(), lostByRolling + 0.5f);
+    const auto speedLeft = [](std::initializer_list<int> keys) {
+        DrivenCar car;
+        car.drive({GLFW_KEY_UP}, 2);
+        car.drive(keys, 0.5);
+        return car.speed();
+    };
+    const float rolling = speedLeft({});
+    EXPECT_LT(speedLeft({GLFW_KEY_L}), rolling - 1.0f);
 }
 
 } // namespace
