@@ -2,8 +2,8 @@
 
 #include "app/base/Logger.h"
 #include "app/match/MatchRules.h"
-#include "input/AbsentController.h"
 #include "input/KeyboardController.h"
+#include "input/XBOXController.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ PlayerRegistration::PlayerRegistration(MatchRules& ownMatch) : match(ownMatch)
     constexpr int kPadCount = 4;
     constexpr int kKeyboardLayouts = 2;
     std::size_t next = 0;
-    for (int pad = 1; pad <= kPadCount; ++pad) slots[next++].device = std::make_unique<AbsentController>(pad);
+    for (int pad = 1; pad <= kPadCount; ++pad) slots[next++].device = std::make_unique<XBOXController>(pad);
     for (int layout = 1; layout <= kKeyboardLayouts; ++layout) slots[next++].device = std::make_unique<KeyboardController>(layout);
 }
 
