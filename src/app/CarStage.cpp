@@ -22,7 +22,7 @@ constexpr float kTireWidth = 0.35f;  // world units
 constexpr int kTireSegments = 8;
 constexpr float kEngineVolume = 0.6f;
 
-class TireModel : public Model {
+class TireModel final : public Model {
 public:
     explicit TireModel(MeshGeometry& geometry) : transformation(this)
     {
@@ -39,9 +39,9 @@ private:
 
 } // namespace
 
-class CarStage::Dress : public ICarDress {
+class CarStage::Dress final : public ICarDress {
 public:
-    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, bool isHeard, MeshGeometry& tireGeometry)
+    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, bool isHeard, MeshGeometry& geometry)
         : driver(game, colour),
           driverTransformation(&driver),
           driverColour(colour),
@@ -50,7 +50,7 @@ public:
           smokeTexture(Library::getInstance()->getTexture("Smoke"), 0)
     {
         dressDriver(*nodes.driver);
-        dressWheels(nodes.wheels, tireGeometry);
+        dressWheels(nodes.wheels, geometry);
         dressExhaust(*nodes.exhaust);
         if (isHeard) startEngine();
     }
@@ -67,10 +67,10 @@ private:
         node.attach(&driver);
     }
 
-    void dressWheels(const std::array<Node*, 4>& wheels, MeshGeometry& tireGeometry)
+    void dressWheels(const std::array<Node*, 4>& wheels, MeshGeometry& geometry)
     {
         for (Node* wheel : wheels) {
-            tires.push_back(std::make_unique<TireModel>(tireGeometry));
+            tires.push_back(std::make_unique<TireModel>(geometry));
             wheel->attach(tires.back().get());
         }
     }

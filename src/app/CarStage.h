@@ -11,7 +11,7 @@ class Renderer;
 
 /// Shows participants with real models: ducks, tyres, smoke and text. Owned by the game; needs the window and the loaded assets from the first
 /// car on.
-class CarStage : public IStage {
+class CarStage final : public IStage {
 public:
     CarStage(QKD_Game* game, Renderer& renderer);
     ~CarStage();

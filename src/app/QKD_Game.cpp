@@ -11,6 +11,7 @@
 #include "app/base/Logger.h"
 #include "assets/Library.h"
 #include "assets/PartyhatModel.h"
+#include "audio/AudioSystem.h"
 #include "gpu/Uniform_Texture.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
@@ -25,6 +26,7 @@
 
 namespace {
 constexpr double kRankingLogInterval = 3000; // milliseconds
+constexpr float kMusicVolume = 1.0f;
 }
 
 /// The sky box with the source of its picture.
@@ -72,6 +74,7 @@ void QKD_Game::init()
     createStates();
     createLightNode();
     createTerrain();
+    startSound();
     createHats();
     bindFunctionKeys();
     lastRankingLog = FrameTimer::getInstance()->getTimeMs();
@@ -125,6 +128,14 @@ void QKD_Game::createTerrain()
     setTerrain(terrain);
 }
 
+void QKD_Game::startSound()
+{
+    std::vector<std::pair<std::string, std::string>> sounds;
+    for (const Asset& sound : soundAssets()) sounds.emplace_back(sound.name, sound.file);
+    AudioSystem::getInstance()->init(sounds);
+    AudioSystem::getInstance()->play("musik", true, kMusicVolume);
+}
+
 void QKD_Game::createHats()
 {
     const glm::vec4 kColours[Hats::kCount] = {
@@ -157,6 +168,7 @@ void QKD_Game::showHelp()
 void QKD_Game::update()
 {
     stepPhysics();
+    AudioSystem::getInstance()->update();
     functionKeys.update();
     logRanking();
 }

@@ -1,200 +1,149 @@
-#include "input/KeyboardController.h"
 #include "physics/VehicleHandle.h"
-#include "support/FlatMatch.h"
+#include "support/DataCapturedLog.h"
+#include "support/HeadlessMatch.h"
 #include "support/Near.h"
 #include "support/ScriptedDevice.h"
 
-#include <PxPhysicsAPI.h>
+#include <vehicle/PxVehicleDrive4W.h>
+#include <PxRigidDynamic.h>
+
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace {
 
-class PlayerTest : public testing::Test, public FlatMatch {
+using Rumble = ScriptedDevice::Rumble;
+
+class PlayerTest : public testing::Test {
 protected:
-    static glm::vec3 forwardOf(const Player& player)
-    {
-        const physx::PxVec3 d = player.getVehicle()->getActor()->getGlobalPose().q.getBasisVector2();
-        return {d.x, d.y, d.z};
-    }
-
-    /// Where a node is, seen from the player's car.
-    glm::vec3 fromChassis(const Player& player, const std::string& node)
-    {
-        match.graph.update();
-        return match.graph.getRoot()->find(node)->getWorldPosition() - player.getPosition();
-    }
-
+    HeadlessMatch match;
     ScriptedDevice device;
 };
 
-/// A player at the arrow keys, whose car has landed.
-class KeyboardPlayerTest : public PlayerTest {
-protected:
-    KeyboardPlayerTest() { match.passes(240); }
+TEST_F(PlayerTest, SettingUpBuildsTheCarItsNodesAndItsDress)
+{
+    Player& player = match.addPlayer(device);
+    const glm::vec3 chassis = player.getPosition();
 
-    void hold(float seconds, std::initializer_list<int> keys)
-    {
-        match.keys.hold(keys);
-        match.passes(static_cast<int>(seconds * 120));
+    // Fresh cars stand upright, facing +z.
+    EXPECT_TRUE(isNear(player.getLaunchPosition() - chassis, glm::vec3(0, 2, 3)));
+    EXPECT_TRUE(isNear(player.getCamera()->getPosition() - chassis, glm::vec3(0, 3.069f, -11.644f), 1e-3f));
+    const glm::vec3 lookingAlong = -glm::vec3(glm::transpose(player.getCamera()->getView())[2]);
+    EXPECT_TRUE(isNear(lookingAlong, glm::vec3(0, -0.1736f, 0.9848f), 1e-3f)) << "forwards, ten degrees down";
+
+    ASSERT_EQ(match.stage.cars.size(), 1u);
+    const CarNodes& nodes = match.stage.cars[0];
+    EXPECT_TRUE(isNear(match.stage.colours[0], glm::vec4(0.9f, 0.2f, 0.1f, 1)));
+    const glm::vec3 duckNose = glm::vec3(nodes.driver->getWorldTransform() * glm::vec4(100, 0, 0, 1)) - chassis;
+    EXPECT_TRUE(isNear(duckNose, glm::vec3(0, 0, 1.5f))) << "the duck's mesh faces +x";
+    const glm::vec3 axle = glm::vec3(nodes.wheels[0]->getWorldTransform() * glm::vec4(0, 1, 0, 0));
+    EXPECT_TRUE(isNear(glm::abs(axle), glm::vec3(1, 0, 0), 1e-3f)) << "a tyre's axis is y";
+    for (const char* name : {"Actor0", "Entchen", "Abschusspunkt", "PlayerCamera0", "Auspuff", "Tire"}) {
+        EXPECT_NE(match.graph.getRoot()->find(name), nullptr) << name;
     }
-
-    KeyboardController arrows{1};
-    Player& player = match.addPlayer(arrows);
-    glm::vec3 travelled(const glm::vec3& from) const { return player.getPosition() - from; }
-};
-
-} // namespace
-
-TEST_F(KeyboardPlayerTest, DrivesForwardsBackwardsAndRound)
-{
-    const glm::vec3 start = player.getPosition();
-    ASSERT_NEAR(start.y, 41.08f, 0.05f) << "the car was to have landed";
-    hold(2, {GLFW_KEY_UP});
-    EXPECT_GT(travelled(start).z, 8);
-    EXPECT_GT(player.getVehicle()->computeForwardSpeed(), 10);
-
-    hold(0.5f, {GLFW_KEY_UP, GLFW_KEY_RIGHT});
-    EXPECT_LT(forwardOf(player).x, -0.1f) << "the driver's right is -x";
-    hold(2, {GLFW_KEY_UP, GLFW_KEY_LEFT});
-    EXPECT_GT(forwardOf(player).x, 0) << "the driver's left is +x";
+    EXPECT_EQ(player.getVehicle()->getVehicle().mDriveDynData.getCurrentGear(), physx::PxVehicleGearsData::eFIRST);
 }
 
-TEST_F(KeyboardPlayerTest, BrakesAndThenBacksOut)
+TEST_F(PlayerTest, PlayersAreCountedNamedAndColouredInTheOrderOfJoining)
 {
-    const glm::vec3 start = player.getPosition();
-    hold(2, {GLFW_KEY_DOWN});
-    EXPECT_LT(travelled(start).z, -2);
-    hold(2, {GLFW_KEY_UP});
-    EXPECT_GT(player.getVehicle()->computeForwardSpeed(), 3);
+    CapturedLog log;
+    ScriptedDevice second;
+    Player& one = match.addPlayer(device);
+    Player& two = match.addPlayer(second);
+    two.addScore(3);
+
+    EXPECT_EQ(one.getName(), "(0) Player 0, Script");
+    EXPECT_EQ(two.getName(), "(3) Player 1, Script");
+    EXPECT_TRUE(isNear(two.getColor(), glm::vec4(0.2f, 0.9f, 0.1f, 1)));
+    EXPECT_TRUE(log.contains("DEBUG | Registering (0) Player 1, Script\n"));
 }
 
-TEST_F(KeyboardPlayerTest, SmokesWhereTheCarIs)
-{
-    hold(1, {GLFW_KEY_UP});
-    const glm::vec3 before = player.getPosition();
-    match.pass();
-    EXPECT_TRUE(isNear(match.stage.emitterPosition, before));
-}
-
-TEST_F(PlayerTest, WithoutItsDeviceKeepsTheLastControls)
+TEST_F(PlayerTest, RespawningDrawsZFirstAndStopsTheCar)
 {
     Player& player = match.addPlayer(device);
-    match.passes(240);
-    device.axes = {1, 0, 0.5f, 0};
-    match.pass();
-    const int updates = device.updates;
-    device.connected = false;
-    device.axes = {0, -1, 0, 0};
-    match.passes(120);
-    EXPECT_EQ(device.updates, updates);
-    EXPECT_EQ(player.getVehicle()->getRawInputs().getAnalogAccel(), 1);
-    EXPECT_EQ(player.getVehicle()->getRawInputs().getAnalogSteer(), -0.5f);
-    EXPECT_GT(player.getVehicle()->computeForwardSpeed(), 3);
-    EXPECT_NE(match.stage.emitterPosition, glm::vec3(0));
-}
+    device.axes[InputDevice::kThrottleAxis] = 1;
+    match.passes(300);
 
-TEST_F(PlayerTest, UsesTheHandBrakeAtHalfStrength)
-{
-    Player& player = match.addPlayer(device);
-    device.pressed = {InputDevice::kHandBrake};
-    match.pass();
-    EXPECT_EQ(player.getVehicle()->getRawInputs().getAnalogHandbrake(), 0.5f);
-    device.pressed = {};
-    match.pass();
-    EXPECT_EQ(player.getVehicle()->getRawInputs().getAnalogHandbrake(), 0);
-}
-
-TEST_F(PlayerTest, RespawnsUprightAndAtRestSomewhereAtHeightFifty)
-{
-    Player& player = match.addPlayer(device);
-    physx::PxRigidDynamic& body = *player.getVehicle()->getActor();
     std::srand(7);
-    const auto z = static_cast<float>(std::rand() % 200 - 100); // drawn before x
-    const auto x = static_cast<float>(std::rand() % 200 - 100);
-    ASSERT_NE(x, z);
-
-    body.setGlobalPose({physx::PxVec3(1, 2, 3), physx::PxQuat(2, physx::PxVec3(1, 0, 0))});
-    body.setLinearVelocity(physx::PxVec3(10, 20, 30));
-    body.setAngularVelocity(physx::PxVec3(1, 2, 3));
+    const int z = std::rand() % 200 - 100;
+    const int x = std::rand() % 200 - 100;
+    std::srand(7);
     device.rumbles.clear();
-    std::srand(7);
     player.respawn();
-    EXPECT_EQ(body.getGlobalPose().p, physx::PxVec3(x, 50, z));
-    EXPECT_TRUE(body.getGlobalPose().q.isIdentity());
-    EXPECT_TRUE(body.getLinearVelocity().isZero());
-    EXPECT_TRUE(body.getAngularVelocity().isZero());
-    EXPECT_EQ(device.rumbles, (std::vector<ScriptedDevice::Rumble>{{600, 30000, 30000}}));
+    match.graph.update();
+
+    EXPECT_TRUE(isNear(player.getPosition(), glm::vec3(x, 50, z)));
+    const physx::PxRigidDynamic* body = player.getVehicle()->getActor();
+    EXPECT_EQ(body->getLinearVelocity().magnitude() + body->getAngularVelocity().magnitude(), 0);
+    EXPECT_TRUE(body->getGlobalPose().q.isIdentity());
+    EXPECT_EQ(device.rumbles, std::vector<Rumble>({{600, 30000, 30000}}));
 }
 
-TEST_F(PlayerTest, LosesHealthDownToNothingAndComesBackWhole)
+TEST_F(PlayerTest, DamageNeverTakesTheHealthBelowZeroAndDyingRestoresIt)
 {
     Player& player = match.addPlayer(device);
     device.rumbles.clear();
+
     player.takeDamage(20);
     EXPECT_EQ(player.getHealth(), 80);
-    EXPECT_EQ(device.rumbles, (std::vector<ScriptedDevice::Rumble>{{300, 60000, 60000}}));
+    EXPECT_EQ(device.rumbles, std::vector<Rumble>({{300, 60000, 60000}}));
     player.takeDamage(120);
     EXPECT_EQ(player.getHealth(), 0);
-    EXPECT_EQ(player.getDeaths(), 0);
+    EXPECT_EQ(player.getDeaths(), 0) << "the match decides about deaths";
 
-    player.addScore(3);
-    player.getVehicle()->placeAt({0, 1, 0});
     player.die();
     EXPECT_EQ(player.getHealth(), 100);
     EXPECT_EQ(player.getDeaths(), 1);
-    EXPECT_EQ(player.getScore(), 3) << "dying costs no points";
-    EXPECT_EQ(player.getVehicle()->getActor()->getGlobalPose().p.y, 50);
+    EXPECT_EQ(device.rumbles.back(), (Rumble{600, 30000, 30000}));
 }
 
-TEST_F(PlayerTest, NumbersAndColoursPlayersInOrderOfJoining)
-{
-    KeyboardController letters(2);
-    Player& first = match.addPlayer(device);
-    Player& second = match.addPlayer(letters);
-    second.addScore(3);
-    EXPECT_EQ(first.getName(), "(0) Player 0, script");
-    EXPECT_EQ(second.getName(), "(3) Player 1, WASD");
-    EXPECT_EQ(match.stage.colours, (std::vector<glm::vec4>{{0.9f, 0.2f, 0.1f, 1}, {0.2f, 0.9f, 0.1f, 1}}));
-    EXPECT_EQ(match.graph.getRoot()->find("Actor1"), second.getChassisNode()->getParent());
-    EXPECT_EQ(second.getViewport()->camera, second.getCamera());
-}
-
-TEST_F(PlayerTest, HangsItsNodesOnTheCar)
+TEST_F(PlayerTest, AnUnpluggedDeviceLeavesTheCarItsLastControlsAndItsSmoke)
 {
     Player& player = match.addPlayer(device);
-    EXPECT_TRUE(isNear(fromChassis(player, "PlayerCamera0"), glm::vec3(0, 3.069f, -11.644f), 1e-3f));
-    EXPECT_TRUE(isNear(fromChassis(player, "Abschusspunkt"), glm::vec3(0, 2, 3)));
-    EXPECT_TRUE(isNear(player.getLaunchPosition(), player.getPosition() + glm::vec3(0, 2, 3)));
+    device.axes[InputDevice::kThrottleAxis] = 0.75f;
+    match.pass();
+    device.connected = false;
+    device.axes[InputDevice::kThrottleAxis] = 0;
+    const int updates = device.updates;
+    match.pass();
 
-    ASSERT_EQ(match.stage.cars.size(), 1u);
-    const CarNodes& car = match.stage.cars[0];
-    const glm::mat3 driver(car.driver->getWorldTransform());
-    EXPECT_TRUE(isNear(driver * glm::vec3(1, 0, 0), glm::vec3(0, 0, 0.015f))) << "the duck, which faces +x, faces forward";
-    EXPECT_TRUE(isNear(car.exhaust->getWorldPosition(), glm::vec3(0)));
-    for (const Node* tyre : car.wheels) {
-        const glm::vec3 axis = glm::mat3(tyre->getWorldTransform()) * glm::vec3(0, 1, 0);
-        EXPECT_NEAR(glm::abs(axis.x), 1, 1e-4f) << "a tyre's axis is y, a wheel's is x";
-    }
+    EXPECT_FLOAT_EQ(player.getVehicle()->getRawInputs().getAnalogAccel(), 0.75f);
+    EXPECT_EQ(device.updates, updates);
+    const glm::vec3 before = player.getPosition();
+    match.pass();
+    EXPECT_TRUE(isNear(match.stage.emitterPosition, before)) << "the smoke comes from where the car was drawn last";
 }
 
-TEST_F(PlayerTest, LabelsItsViewportAtTheUpperLeft)
+struct LabelRow {
+    Viewport::Rect rect;
+    double x, y;
+};
+
+TEST_F(PlayerTest, LabelsStandAtTheViewportsLeftEdgeAndNeverAboveTheWindow)
 {
     Player& player = match.addPlayer(device);
-    player.addScore(4);
-    struct Row {
-        int x, y;
-        double labelX, labelY;
+    player.addScore(12);
+    const LabelRow rows[] = {
+        {{0, 0, 1024, 768}, -0.95, 0.9},
+        {{512, 384, 512, 384}, 0.05, 0.9},
+        {{512, 0, 512, 384}, 0.05, 0.9},
+        {{681, 384, 340, 384}, 2.0 * 681 / 1024 - 0.95, 0.9},
+        {{256, 576, 256, 192}, -0.45, 0.5}, // a lower edge high up pulls the label down
     };
-    for (const Row& row : {Row{0, 0, -0.95, 0.9}, Row{512, 384, 0.05, 0.9}, Row{256, 420, -0.45, 0.9}, Row{681, 600, 0.380078125, 0.4375}}) {
-        SCOPED_TRACE(testing::Message() << row.x << ", " << row.y);
-        player.getViewport()->setRect(row.x, row.y, 100, 100);
+    for (const LabelRow& row : rows) {
+        player.getViewport()->setRect(row.rect.x, row.rect.y, row.rect.width, row.rect.height);
         match.stage.lines.clear();
         player.drawLabel();
+
         ASSERT_EQ(match.stage.lines.size(), 2u);
-        EXPECT_EQ(match.stage.lines[0].text, "Pl. 1 (4)");
-        EXPECT_EQ(match.stage.lines[1].text, "script");
-        for (const SilentStage::Line& line : match.stage.lines) EXPECT_NEAR(line.x, row.labelX, 1e-9);
-        EXPECT_NEAR(match.stage.lines[0].y, row.labelY, 1e-9);
-        EXPECT_NEAR(match.stage.lines[1].y, row.labelY - 0.1, 1e-9);
+        EXPECT_EQ(match.stage.lines[0].text, "Pl. 1 (12)");
+        EXPECT_EQ(match.stage.lines[1].text, "Script");
+        EXPECT_NEAR(match.stage.lines[0].x, row.x, 1e-9);
+        EXPECT_NEAR(match.stage.lines[0].y, row.y, 1e-9);
+        EXPECT_NEAR(match.stage.lines[1].x, row.x, 1e-9);
+        EXPECT_NEAR(match.stage.lines[1].y, row.y - 0.1, 1e-9);
     }
 }
+
+} // namespace

@@ -8,9 +8,11 @@
 #include "players/IStage.h"
 #include "players/Player.h"
 #include "scene/SceneGraph.h"
+#include "support/DataScratch.h"
 #include "support/ScriptedKeyboard.h"
 #include "support/SteppedClock.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,13 +55,15 @@ public:
 /// passes are made. The physics world goes with it.
 class HeadlessMatch {
 public:
-    HeadlessMatch()
+    enum class Ground {
+        kGame, ///< the game's own height picture
+        kFlat, ///< flat, eight units below where cars enter
+    };
+
+    explicit HeadlessMatch(Ground ground = Ground::kGame)
     {
-        enterDataFolder();
         rules.setWorld(&graph, &stage);
-        const Terrain* terrain = PhysxManager::instance()->createTerrain();
-        graph.getRoot()->addChild(terrain->getNode());
-        rules.setTerrain(terrain);
+        createTerrain(ground);
         FrameTimer::getInstance()->tick();
         graph.update();
     }
@@ -94,4 +98,20 @@ public:
     SilentStage stage;
     SceneGraph graph;
     MatchRules rules;
+
+private:
+    void createTerrain(Ground ground)
+    {
+        std::optional<DataScratch> scratch;
+        if (ground == Ground::kFlat) {
+            constexpr int kHeightByte = 214; // 42 units
+            scratch.emplace();
+            scratch->writeTga("Textures/map.tga", 512, 512, 1, [](int, int, int) { return kHeightByte; });
+        } else {
+            enterDataFolder();
+        }
+        const Terrain* terrain = PhysxManager::instance()->createTerrain();
+        graph.getRoot()->addChild(terrain->getNode());
+        rules.setTerrain(terrain);
+    }
 };

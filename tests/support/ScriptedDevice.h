@@ -3,29 +3,27 @@
 #include "input/InputDevice.h"
 
 #include <array>
-#include <set>
-#include <string>
 #include <vector>
 
-/// An input device that a test moves, unplugs, and asks what it was made to rumble.
+/// A device whose sticks, buttons and plug a test holds, and which remembers its rumbles.
 class ScriptedDevice : public InputDevice {
 public:
     struct Rumble {
         int milliseconds;
-        int leftMotor, rightMotor;
+        std::uint16_t left, right;
         bool operator==(const Rumble&) const = default;
     };
 
-    bool isPressed(int button) override { return pressed.count(button) != 0; }
+    bool isPressed(int button) override { return buttons.at(static_cast<std::size_t>(button)); }
     float getAxis(int axis) override { return axes.at(static_cast<std::size_t>(axis)); }
     void vibrate(int milliseconds, std::uint16_t left, std::uint16_t right) override { rumbles.push_back({milliseconds, left, right}); }
     void update() override { ++updates; }
     bool isConnected() override { return connected; }
-    std::string getName() const override { return "script"; }
-    bool isStartPressed() override { return isPressed(kStart); }
+    std::string getName() const override { return "Script"; }
+    bool isStartPressed() override { return buttons[kStart]; }
     bool isBackPressed() override { return false; }
 
-    std::set<int> pressed;
+    std::array<bool, 7> buttons{};
     std::array<float, 4> axes{};
     bool connected = true;
     int updates = 0;
