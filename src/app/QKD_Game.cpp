@@ -121,11 +121,11 @@ void QKD_Game::createLightNode()
 
 void QKD_Game::createTerrain()
 {
-    Terrain* terrain = PhysxManager::instance()->createTerrain();
-    getSceneGraph()->getRoot()->addChild(terrain->getNode());
-    terrainModel = std::make_unique<TerrainModel>(*terrain);
-    terrain->getNode()->attach(terrainModel.get());
-    setTerrain(terrain);
+    Terrain* ground = PhysxManager::instance()->createTerrain();
+    getSceneGraph()->getRoot()->addChild(ground->getNode());
+    terrainModel = std::make_unique<TerrainModel>(*ground);
+    ground->getNode()->attach(terrainModel.get());
+    setTerrain(ground);
 }
 
 void QKD_Game::startSound()
