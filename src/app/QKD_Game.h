@@ -17,7 +17,7 @@ class TerrainModel;
 
 /// The game itself: builds the world, owns the states and does what every frame needs besides the current state's work: physics,
 /// function keys, the ranking in the log. The rules are in MatchRules.
-class QKD_Game final : public Game, public MatchRules {
+class QKD_Game : public Game, public MatchRules {
 public:
     QKD_Game();
     ~QKD_Game() override;
