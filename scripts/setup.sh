@@ -30,17 +30,6 @@ missing_packages() {
         <(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^.i[^ ]* *//p' | LC_ALL=C sort -u)
 }
 
-# Runs its arguments as root, directly or through sudo; fails when neither works.
-as_root() {
-    if ((EUID == 0)); then
-        "$@"
-    elif command -v sudo >/dev/null; then
-        sudo "$@"
-    else
-        return 1
-    fi
-}
-
 # Installs those of the named packages that are missing, and a cargo that is recent enough where there is none.
 require_packages() {
     local wanted=("$@") missing
@@ -52,10 +41,15 @@ require_packages() {
 
     mapfile -t missing < <(missing_packages "${wanted[@]}")
     ((${#missing[@]} > 0)) || return 0
-    echo "Installing ${missing[*]}"
-    if ! { as_root apt-get update -q && as_root env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends "${missing[@]}"; }; then
-        die "These packages are missing and could not be installed (root rights are needed): ${missing[*]}"
+    local as_root=()
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null || die "These packages are missing, and there is neither root nor sudo to install them: ${missing[*]}"
+        as_root=(sudo)
     fi
+    echo "Installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -q || die "apt-get update failed; these packages are missing: ${missing[*]}"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends "${missing[@]}" ||
+        die "These packages are missing and could not be installed: ${missing[*]}"
     hash -r
 }
 

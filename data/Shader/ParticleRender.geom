@@ -13,8 +13,9 @@ out float opacity;
 
 void main()
 {
-    float size = mix(0.12, 0.75, age[0]); // world units, half an edge
-    opacity = 0.55 * (1.0 - age[0]) * (1.0 - age[0]);
+    float size = mix(0.10, 0.36, age[0]); // world units, half an edge
+    opacity = 0.75 * (1.0 - age[0]) * (1.0 - age[0]);
+    if (opacity < 0.02) return; // nobody sees it, and its pixels cost as much as any
     vec2 right = size * vec2(cos(turn[0]), sin(turn[0])), up = vec2(-right.y, right.x);
     vec2 corners[4] = vec2[](-right - up, -right + up, right - up, right + up); // clockwise: the side that is drawn
     vec2 coordinates[4] = vec2[](vec2(0, 0), vec2(0, 1), vec2(1, 0), vec2(1, 1));

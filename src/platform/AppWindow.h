@@ -30,10 +30,12 @@ public:
     /// Hides and captures the mouse cursor, or releases it.
     void captureCursor(bool captured);
 
-    struct Position { int x = 0, y = 0; };
+    struct Position {
+        int x = 0, y = 0;
+    };
     Position mousePosition() const; ///< pixels from the window's upper-left corner, truncated
 
-    double now() override;              ///< seconds since initialize()
+    double now() override;               ///< seconds since initialize()
     void sleep(double seconds) override; ///< returns at once for zero and negative values
     bool isDown(int key) override;
     void poll() override;

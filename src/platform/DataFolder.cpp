@@ -36,6 +36,7 @@ bool enterDataFolder()
         fs::current_path(folder, error);
         if (!error) return true;
     }
-    logLine(0) << "no data folder found: neither the working directory nor a folder beside the program holds Shader and Textures" << std::endl;
+    logLine(0) << "no data folder found: neither the working directory nor a folder beside the program holds Shader and Textures"
+               << std::endl;
     return false;
 }

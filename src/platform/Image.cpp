@@ -73,12 +73,15 @@ std::optional<Image> readTga(const std::string& path, std::string& error)
 
     Image image;
     stbi_set_flip_vertically_on_load(1);
-    unsigned char* decoded = stbi_load_from_memory(bytes.data(), static_cast<int>(bytes.size()), &image.width, &image.height, &image.channels, 0);
+    unsigned char* decoded =
+        stbi_load_from_memory(bytes.data(), static_cast<int>(bytes.size()), &image.width, &image.height, &image.channels, 0);
     if (!decoded) {
         error = "picture cannot be decoded";
         return std::nullopt;
     }
-    image.pixels.assign(decoded, decoded + static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * static_cast<std::size_t>(image.channels));
+    image.pixels.assign(decoded,
+        decoded +
+            static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * static_cast<std::size_t>(image.channels));
     stbi_image_free(decoded);
     return image;
 }
@@ -91,7 +94,7 @@ Image resampledToPowersOfTwo(Image image)
 
     Image result{width, height, image.channels, {}};
     result.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * static_cast<std::size_t>(image.channels));
-    stbir_resize_uint8_generic(image.pixels.data(), image.width, image.height, 0, result.pixels.data(), width, height, 0,
-        image.channels, STBIR_ALPHA_CHANNEL_NONE, 0, STBIR_EDGE_CLAMP, STBIR_FILTER_TRIANGLE, STBIR_COLORSPACE_LINEAR, nullptr);
+    stbir_resize_uint8_generic(image.pixels.data(), image.width, image.height, 0, result.pixels.data(), width, height, 0, image.channels,
+        STBIR_ALPHA_CHANNEL_NONE, 0, STBIR_EDGE_CLAMP, STBIR_FILTER_TRIANGLE, STBIR_COLORSPACE_LINEAR, nullptr);
     return result;
 }

@@ -7,14 +7,16 @@
 
 /// A decoded picture: 8-bit components, rows from the bottom up, tightly packed.
 struct Image {
-    int width = 0;    ///< pixels
-    int height = 0;   ///< pixels
-    int channels = 0; ///< components a pixel, 1 to 4
+    int width = 0;                     ///< pixels
+    int height = 0;                    ///< pixels
+    int channels = 0;                  ///< components a pixel, 1 to 4
     std::vector<unsigned char> pixels; ///< width x height x channels bytes
 
     const unsigned char* at(int x, int y) const
     {
-        return pixels.data() + (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)) * static_cast<std::size_t>(channels);
+        return pixels.data() +
+            (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)) *
+            static_cast<std::size_t>(channels);
     }
 };
 

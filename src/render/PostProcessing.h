@@ -14,7 +14,8 @@ public:
     bool isUsable() const;
 
     /// milliseconds: the current time, which moves what the pass animates.
-    void blur(const TargetTexture& sceneColour, const TargetTexture& sceneDepth, const TargetTexture& lightDepth, double milliseconds) const;
+    void blur(const TargetTexture& sceneColour, const TargetTexture& sceneDepth, const TargetTexture& lightDepth,
+        double milliseconds) const;
 
     void celPostProc() const;
 

@@ -20,8 +20,8 @@ public:
     /// Creates a node of that name as the last child and logs it at level 2.
     Node* createChild(const std::string& childName);
 
-    void addChild(Node* child);    ///< ignored when it is among the children already
-    void removeChild(Node* child); ///< does nothing when it is no child
+    void addChild(Node* child);      ///< ignored when it is among the children already
+    void removeChild(Node* child);   ///< does nothing when it is no child
     void setParent(Node* newParent); ///< leaves the old parent and becomes the new one's last child
 
     Node* getParent() const { return parent; }
@@ -49,7 +49,7 @@ public:
     /// Takes the whole subtree out of the tree, children first. Nothing is freed.
     virtual void destroy();
 
-    void update();                          ///< updateTransform and update of every child; not of this node itself
+    void update();                             ///< updateTransform and update of every child; not of this node itself
     void accept(INodeVisitor* visitor);        ///< this node, its attachments, its children
     void acceptRelease(INodeVisitor* visitor); ///< likewise, with the release operations
 

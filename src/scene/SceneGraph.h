@@ -9,7 +9,7 @@ public:
 
     Node* getRoot() const { return root; }
 
-    void update();                             ///< recomputes every world transform below the root, parents first
+    void update(); ///< recomputes every world transform below the root, parents first
     void accept(INodeVisitor* visitor);
     void acceptRelease(INodeVisitor* visitor);
 

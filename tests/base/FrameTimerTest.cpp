@@ -59,8 +59,8 @@ TEST_F(FrameTimerTest, AsksForNoSleepAfterALongPass)
 
 struct Pass {
     const char* what;
-    double begin, end;    // seconds on the clock
-    int milliseconds;     // what the timer makes of it
+    double begin, end; // seconds on the clock
+    int milliseconds;  // what the timer makes of it
     bool isShorterThanOneGameSecond;
 };
 
@@ -74,11 +74,13 @@ TEST_P(FrameTimerPasses, AreMeasuredInWholeMilliseconds)
     EXPECT_EQ(gameDelta() < 1.0f, GetParam().isShorterThanOneGameSecond) << GetParam().what;
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Table, FrameTimerPasses, testing::Values(
     Pass{"both ends truncated, not rounded", 2.0009, 2.0509, 50, true},
     Pass{"the fraction of a millisecond carries over", 2.0009, 2.0511, 51, true},
     Pass{"a third of a second that spans 333 whole milliseconds", 3.0001, 3.0001 + 1.0 / 3, 333, true},
     Pass{"a third of a second that spans 334 whole milliseconds", 3.0008, 3.0008 + 1.0 / 3, 334, false},
     Pass{"a long pass", 5.0, 7.5, 2500, false}));
+// clang-format on
 
 } // namespace

@@ -27,6 +27,7 @@ Logger& logger()
     return *Logger::getInstance();
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Table, LoggerLines, testing::Values(
     LogCase{"the three levels", [] { logLine(0) << "a" << std::endl; logLine(1) << "b" << std::endl; logLine(2) << "c" << std::endl; },
         "ERROR | a\nWARNING | b\nDEBUG | c\n"},
@@ -40,6 +41,7 @@ INSTANTIATE_TEST_SUITE_P(Table, LoggerLines, testing::Values(
         "DEBUG | 59.8802 0.333333 1e+07 120\n"},
     LogCase{"another manipulator ends the line's collection too", [] { logLine(2) << "a" << std::flush; logLine(2) << "b" << std::endl; },
         "DEBUG | aDEBUG | b\n"}));
+// clang-format on
 
 TEST(LoggerTest, UnfinishedTextOpensTheNextLineUnderThatLinesLevel)
 {

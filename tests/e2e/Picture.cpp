@@ -15,7 +15,7 @@ bool differs(const unsigned char* a, const unsigned char* b)
 }
 
 template <class Test>
-double share(const Region& region, Test test)
+double share(const ScreenArea& region, Test test)
 {
     int hits = 0;
     for (int y = region.y; y < region.y + region.height; ++y) {
@@ -26,12 +26,12 @@ double share(const Region& region, Test test)
 
 } // namespace
 
-double changedShare(const Picture& before, const Picture& after, const Region& region)
+double changedShare(const Picture& before, const Picture& after, const ScreenArea& region)
 {
     return share(region, [&](int x, int y) { return differs(before.at(x, y), after.at(x, y)); });
 }
 
-double detailShare(const Picture& picture, const Region& region)
+double detailShare(const Picture& picture, const ScreenArea& region)
 {
     return share(region, [&](int x, int y) { return differs(picture.at(x, y), picture.at(region.x, region.y)); });
 }

@@ -4,7 +4,7 @@
 #include <vector>
 
 /// A rectangle of a picture, in pixels from its upper-left corner.
-struct Region {
+struct ScreenArea {
     int x = 0, y = 0, width = 0, height = 0;
 };
 
@@ -13,7 +13,7 @@ struct Picture {
     int width = 0, height = 0;
     std::vector<unsigned char> pixels;
 
-    Region whole() const { return {0, 0, width, height}; }
+    ScreenArea whole() const { return {0, 0, width, height}; }
     const unsigned char* at(int x, int y) const
     {
         return pixels.data() + 3 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x));
@@ -21,7 +21,7 @@ struct Picture {
 };
 
 /// The share (0 to 1) of a region's pixels that differ visibly between two pictures of the same size.
-double changedShare(const Picture& before, const Picture& after, const Region& region);
+double changedShare(const Picture& before, const Picture& after, const ScreenArea& region);
 
 /// The share (0 to 1) of a region's pixels that differ visibly from the region's upper-left one: 0 for a blank region.
-double detailShare(const Picture& picture, const Region& region);
+double detailShare(const Picture& picture, const ScreenArea& region);

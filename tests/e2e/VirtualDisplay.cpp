@@ -7,6 +7,7 @@
 
 #include <charconv>
 #include <span>
+#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -20,13 +21,17 @@ int ignoreError(Display*, XErrorEvent*)
     return 0;
 }
 
-/// The first line that the server prints: the number of the free display that it took.
+/// The server prints the number of the free display that it took on a line of its own, among remarks about those that were taken.
+/// -1 until it has.
 int displayNumber(const ChildProcess& server)
 {
-    const std::string text = server.output();
-    int number = -1;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end != text.data() + text.size() && *end == '\n' ? number : -1;
+    std::istringstream lines(server.output());
+    for (std::string line; std::getline(lines, line) && !lines.eof();) {
+        int number = -1;
+        const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
+        if (error == std::errc() && end == line.data() + line.size()) return number;
+    }
+    return -1;
 }
 
 } // namespace
@@ -106,7 +111,7 @@ void VirtualDisplay::closeWindow()
     XFlush(connection);
 }
 
-Picture VirtualDisplay::lookAt(const Region& region) const
+Picture VirtualDisplay::lookAt(const ScreenArea& region) const
 {
     XImage* image = XGetImage(connection, DefaultRootWindow(connection), window.x + region.x, window.y + region.y,
         static_cast<unsigned>(region.width), static_cast<unsigned>(region.height), AllPlanes, ZPixmap);

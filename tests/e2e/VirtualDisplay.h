@@ -25,7 +25,7 @@ public:
     bool waitForWindow(const std::string& title, double seconds);
     bool findWindow(const std::string& title);
 
-    Region windowRegion() const { return window; } ///< on the screen; where it was when it was found
+    ScreenArea windowRegion() const { return window; } ///< on the screen; where it was when it was found
 
     /// Key names are those of the X headers: "k", "1", "Up", "Return", "Escape", "F1", "space".
     void pressKey(const std::string& key);
@@ -35,7 +35,7 @@ public:
     void closeWindow();
 
     Picture look() const { return lookAt({0, 0, window.width, window.height}); }
-    Picture lookAt(const Region& region) const; ///< region of the window
+    Picture lookAt(const ScreenArea& region) const; ///< region of the window
 
 private:
     void sendKey(const std::string& key, bool down);
@@ -44,5 +44,5 @@ private:
     std::unique_ptr<ChildProcess> server;
     _XDisplay* connection = nullptr;
     unsigned long windowId = 0;
-    Region window;
+    ScreenArea window;
 };

@@ -13,9 +13,9 @@ namespace {
 
 struct Installation {
     const char* what;
-    const char* program;              ///< where the program lies
-    std::vector<const char*> data;    ///< folders that hold Shader and Textures
-    const char* expected;             ///< the folder that it enters; null for none
+    const char* program;           ///< where the program lies
+    std::vector<const char*> data; ///< folders that hold Shader and Textures
+    const char* expected;          ///< the folder that it enters; null for none
 };
 
 class DataFolder : public testing::TestWithParam<Installation> {};
@@ -57,6 +57,7 @@ TEST_P(DataFolder, IsFoundFrom)
     }
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Table, DataFolder, testing::Values(
     Installation{"the working directory before all others", "usr/games/quackdash", {"work", "usr/share/games/quackdash"}, "work"},
     Installation{"an installed program's share folder", "usr/games/quackdash", {"usr/share/games/quackdash"}, "usr/share/games/quackdash"},
@@ -64,5 +65,6 @@ INSTANTIATE_TEST_SUITE_P(Table, DataFolder, testing::Values(
     Installation{"beside the program", "unpacked/quackdash", {"unpacked/data"}, "unpacked/data"},
     Installation{"the source tree of a build", "tree/build/release/quackdash", {"tree/data"}, "tree/data"},
     Installation{"nowhere", "tree/build/release/quackdash", {"elsewhere"}, nullptr}));
+// clang-format on
 
 } // namespace

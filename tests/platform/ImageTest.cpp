@@ -47,6 +47,7 @@ TEST_P(TgaFile, DecodesToRowsFromTheBottomUp)
 
 const std::string kRunLengthRows = std::string("\x02") + kLowerRow + "\x82" + "abc"; // three pixels, then one pixel three times
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Table, TgaFile, testing::Values(
     Picture{"24 bits, lower row first", header(2, 3, 2, 24) + kLowerRow + kUpperRow, 3, kDecoded},
     Picture{"24 bits, upper row first", header(2, 3, 2, 24, kTopDown) + kUpperRow + kLowerRow, 3, kDecoded},
@@ -56,6 +57,7 @@ INSTANTIATE_TEST_SUITE_P(Table, TgaFile, testing::Values(
     Picture{"grey", header(3, 3, 2, 8) + "abcdef", 1, "abcdef"},
     Picture{"colour-mapped", header(1, 3, 2, 8, 0, 2) + "BGRbgr" + std::string("\0\1\0\1\1\1", 6), 3, "RGBrgbRGBrgbrgbrgb"},
     Picture{"followed by a footer", header(2, 3, 2, 24) + kLowerRow + kUpperRow + std::string(26, '\0'), 3, kDecoded}));
+// clang-format on
 
 struct BadFile {
     const char* what;
@@ -73,6 +75,7 @@ TEST_P(BadTga, IsRefusedWithAReason)
     EXPECT_EQ(error, GetParam().error) << GetParam().what;
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Table, BadTga, testing::Values(
     BadFile{"empty", "", "not a TGA picture"},
     BadFile{"a header cut short", header(2, 3, 2, 24).substr(0, 17), "not a TGA picture"},
@@ -87,6 +90,7 @@ INSTANTIATE_TEST_SUITE_P(Table, BadTga, testing::Values(
     BadFile{"an odd depth", header(2, 3, 2, 17) + kLowerRow + kUpperRow, "not a TGA picture"},
     BadFile{"another format", "\x89PNG\r\n\x1a\n" + std::string(40, 'x'), "not a TGA picture"},
     BadFile{"text", "<?xml version=\"1.0\" encoding=\"utf-8\"?>", "not a TGA picture"}));
+// clang-format on
 
 TEST(ImageTest, AMissingFileAndAFolderAreRefusedToo)
 {
@@ -103,7 +107,8 @@ TEST(ImageTest, GarbledFilesAreRefusedOrDecodedWhole)
     const TemporaryFolder folder;
     std::mt19937 random(1);
     for (int i = 0; i < 500; ++i) {
-        std::string file = header(i % 2 ? 10 : 2, 3, 2, 24) + kRunLengthRows + kUpperRow;
+        std::string file = header(i % 2 ? 10 : 2, 3, 2, 24);
+        file.append(kRunLengthRows).append(kUpperRow);
         for (int hits = 0; hits < 4; ++hits) file[random() % file.size()] = static_cast<char>(random());
         std::string error;
         const std::optional<Image> image = readTga(folder.write("garbled.tga", file), error);

@@ -64,9 +64,11 @@ TEST_P(CameraPlanes, FollowTheAspectRatio)
     for (int i = 0; i < 6; ++i) EXPECT_TRUE(isNear(camera.getPlane(i), GetParam().planes[i])) << "plane " << i;
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Table, CameraPlanes, testing::Values(
     Planes{kWide, {{0, 0, -1, 0.1f}, {0, 0, 1, 10000}, {-0.8733f, 0, -0.4872f, 0}, {0.8733f, 0, -0.4872f, 0}, {0, 0.9196f, -0.3929f, 0}, {0, -0.9196f, -0.3929f, 0}}},
     Planes{kTall, {{0, 0, -1, 0.1f}, {0, 0, 1, 10000}, {-0.8733f, 0, -0.4872f, 0}, {0.8733f, 0, -0.4872f, 0}, {0, -0.7226f, -0.6913f, 0}, {0, 0.7226f, -0.6913f, 0}}}));
+// clang-format on
 
 struct Sight {
     const char* what;
@@ -84,6 +86,7 @@ TEST_P(CameraSight, ReachesFiveUnitsBeyondThePlanes)
 
 // At distance 100 the sides lie 100 x 0.4872 / 0.8733 = 55.8 from the axis, the margin of 5 adds 5 / 0.8733 = 5.7;
 // top and bottom lie 100 x 0.3929 / 0.9196 = 42.7 off, the margin adds 5.4.
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Table, CameraSight, testing::Values(
     Sight{"ahead", {0, 0, -90}, true},
     Sight{"four units behind", {0, 0, 14}, true}, Sight{"six units behind", {0, 0, 16}, false},
@@ -93,5 +96,6 @@ INSTANTIATE_TEST_SUITE_P(Table, CameraSight, testing::Values(
     Sight{"just inside the bottom", {0, -48, -90}, true}, Sight{"below", {0, -49, -90}, false},
     Sight{"at the far plane", {0, 0, -9994}, true}, Sight{"beyond it", {0, 0, -9996}, false},
     Sight{"nowhere", glm::vec3(std::numeric_limits<float>::quiet_NaN()), true}));
+// clang-format on
 
 } // namespace

@@ -103,8 +103,8 @@ TEST(MeshGeneratorsTest, CylinderFacesInOrderOfCapsAndSides)
 {
     Mesh mesh;
     createCylinder(mesh, 1, 2, 3);
-    const std::vector<Indices> expected = {{0, 1, 2}, {0, 2, 3}, {0, 3, 1}, {4, 6, 5}, {4, 7, 6}, {4, 5, 7},
-        {1, 5, 2}, {5, 6, 2}, {2, 6, 3}, {6, 7, 3}, {3, 7, 1}, {7, 5, 1}};
+    const std::vector<Indices> expected = {
+        {0, 1, 2}, {0, 2, 3}, {0, 3, 1}, {4, 6, 5}, {4, 7, 6}, {4, 5, 7}, {1, 5, 2}, {5, 6, 2}, {2, 6, 3}, {6, 7, 3}, {3, 7, 1}, {7, 5, 1}};
     ASSERT_EQ(mesh.indices.size(), 3 * expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) EXPECT_EQ(triangle(mesh, i), expected[i]) << "triangle " << i;
     EXPECT_TRUE(isNear(faceNormal(mesh, 0), {0, -1, 0})) << "clockwise as seen from outside: front faces are culled";

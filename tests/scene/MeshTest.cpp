@@ -52,9 +52,11 @@ TEST_P(MeshNormalAxes, OneSwapAndOneInversionACall)
     EXPECT_EQ(mesh.normals[0], inverted);
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Table, MeshNormalAxes, testing::Values(
     Axes{false, false, false, {1, 2, 3}, {1, 2, 3}}, Axes{false, true, false, {1, 2, 3}, {1, -2, 3}}, Axes{false, false, true, {1, 2, 3}, {1, 2, -3}},
     Axes{true, true, false, {2, 1, 3}, {-1, 2, 3}}, Axes{true, false, true, {3, 2, 1}, {-1, 2, 3}}, Axes{false, true, true, {1, 3, 2}, {1, -2, 3}},
     Axes{true, true, true, {2, 1, 3}, {-1, 2, 3}}));
+// clang-format on
 
 } // namespace

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <glm/glm.hpp>
 #include <glm/ext/matrix_relational.hpp>
 #include <glm/ext/vector_relational.hpp>
+#include <glm/glm.hpp>
 #include <glm/gtx/string_cast.hpp>
 
 /// For EXPECT_TRUE: every component of a GLM vector or matrix lies within `tolerance` of the expected one.

@@ -5,16 +5,12 @@
 #include "physics/PhysxManager.h"
 #include "physics/Terrain.h"
 #include "physics/VehicleHandle.h"
+#include "support/DataScratch.h"
 
 #include <PxPhysicsAPI.h>
 #include <glm/glm.hpp>
-#include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <string>
-#include <vector>
 
 /// A physics world for one test: ground, cars and balls in a line each, and passes as the game makes them at 120 a second.
 /// One at a time; the world goes with it.
@@ -38,33 +34,9 @@ public:
 
     Terrain& ground(const Heights& heights, int pixels = 512)
     {
-        return terrainOf(greyPicture(heights, pixels));
-    }
-
-    /// The terrain that a Textures/map.tga of these bytes gives; no file at all for no bytes.
-    Terrain& terrainOf(const std::string& heightImage)
-    {
-        namespace fs = std::filesystem;
-        const fs::path before = fs::current_path();
-        const fs::path folder = fs::temp_directory_path() / ("quackdash-world-" + std::to_string(getpid()));
-        fs::create_directories(folder / "Textures");
-        if (!heightImage.empty()) std::ofstream(folder / "Textures/map.tga", std::ios::binary) << heightImage;
-        fs::current_path(folder);
-        Terrain& terrain = *manager.createTerrain();
-        fs::current_path(before);
-        fs::remove_all(folder);
-        return terrain;
-    }
-
-    /// The bytes of a square grey TGA picture, bottom row first.
-    static std::string greyPicture(const Heights& heights, int pixels)
-    {
-        const auto low = static_cast<char>(pixels & 0xFF), high = static_cast<char>(pixels >> 8);
-        std::string bytes{0, 0, 3, 0, 0, 0, 0, 0, 0, 0, 0, 0, low, high, low, high, 8, 0};
-        for (int y = 0; y < pixels; ++y) {
-            for (int x = 0; x < pixels; ++x) bytes.push_back(static_cast<char>(heights(x, y)));
-        }
-        return bytes;
+        const DataScratch folder;
+        folder.writeTga("Textures/map.tga", pixels, pixels, 1, [&heights](int x, int y, int) { return heights(x, y); });
+        return *manager.createTerrain();
     }
 
     /// A car at rest there, upright and facing +z.

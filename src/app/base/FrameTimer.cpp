@@ -7,10 +7,7 @@ namespace {
 
 class SteadyClock : public IClock {
 public:
-    double now() override
-    {
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    }
+    double now() override { return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(); }
 
     void sleep(double seconds) override
     {

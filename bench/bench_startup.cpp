@@ -1,0 +1,126 @@
+// How long players wait: from the start of the program to its first picture, and to the first picture of a match that two of them join at
+// once. Starts the built program on a virtual display, presses real keys and looks at the screen; the files are in the page cache.
+//
+// usage: bench_startup [RUNS]      default 9; prints every run and the medians, in milliseconds
+#include "e2e/ChildProcess.h"
+#include "e2e/VirtualDisplay.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kDefaultRuns = 9;
+constexpr double kPatienceSeconds = 60;
+constexpr ScreenArea kRow{0, 500, 1024, 1}; // one row of pixels across the landscape: looking at it costs the game next to nothing
+constexpr ScreenArea kWholeRow{0, 0, 1024, 1};
+constexpr double kDetail = 0.05;    // share of the row that a blank window does not have
+constexpr double kOtherScene = 0.3; // share of the row that changes when the overview gives way to the match
+
+using Clock = std::chrono::steady_clock;
+
+double millisecondsSince(Clock::time_point start)
+{
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+/// One start of the game and the player at its keyboard.
+class Run {
+public:
+    Run(VirtualDisplay& virtualDisplay, const fs::path& folder)
+        : display(virtualDisplay), start(Clock::now()), game({{QUACKDASH_PROGRAM}, folder, display.name(), folder / "game.txt"})
+    {
+    }
+
+    double untilFirstPicture()
+    {
+        if (!display.waitForWindow("Quackdash", kPatienceSeconds)) giveUp("no window");
+        const auto hasPicture = [this] { return detailShare(display.lookAt(kRow), kWholeRow) > kDetail; };
+        if (!waitUntil(kPatienceSeconds, hasPicture)) giveUp("no picture");
+        return millisecondsSince(start);
+    }
+
+    double untilMatch()
+    {
+        const Picture overview = display.lookAt(kRow);
+        holdUntil("k", "Player 0, Pfeil");
+        holdUntil("1", "Player 1, WASD");
+        holdUntil("Return", "Enter PlayGamestate");
+        const auto showsMatch = [&] { return changedShare(overview, display.lookAt(kRow), kWholeRow) > kOtherScene; };
+        if (!waitUntil(kPatienceSeconds, showsMatch)) giveUp("no picture of the match");
+        return millisecondsSince(start);
+    }
+
+    void quit()
+    {
+        display.pressKey("Escape");
+        const bool ended = game.waitForExit(kPatienceSeconds) == 0;
+        display.releaseKey("Escape");
+        if (!ended) giveUp("no proper end");
+    }
+
+private:
+    void holdUntil(const std::string& key, const std::string& text)
+    {
+        display.pressKey(key);
+        const bool came = waitUntil(kPatienceSeconds, [&] { return game.output().find(text) != std::string::npos; });
+        display.releaseKey(key);
+        if (!came) giveUp("\"" + text + "\" is missing");
+    }
+
+    [[noreturn]] void giveUp(const std::string& what) const { throw std::runtime_error(what + "; the log:\n" + game.output()); }
+
+    VirtualDisplay& display;
+    const Clock::time_point start;
+    ChildProcess game;
+};
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void measure(int runs, const fs::path& folder)
+{
+    VirtualDisplay display(folder);
+    std::vector<double> firstPictures, matches;
+    for (int number = 0; number <= runs; ++number) {
+        Run run(display, folder);
+        const double firstPicture = run.untilFirstPicture(), match = run.untilMatch();
+        run.quit();
+        if (number == 0) continue; // it warmed the caches
+        std::printf("first picture %5.0f ms   match %5.0f ms\n", firstPicture, match);
+        firstPictures.push_back(firstPicture);
+        matches.push_back(match);
+    }
+    std::printf("median of %d: first picture %.0f ms, match %.0f ms\n", runs, median(firstPictures), median(matches));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : kDefaultRuns;
+    const fs::path folder = fs::temp_directory_path() / ("quackdash-bench-" + std::to_string(getpid()));
+    fs::create_directories(folder);
+    int status = EXIT_SUCCESS;
+    try {
+        measure(runs, folder);
+    } catch (const std::runtime_error& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        status = EXIT_FAILURE;
+    }
+    fs::remove_all(folder);
+    return status;
+}

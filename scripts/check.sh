@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Checks the form of the C++ sources with clang-format, and their habits with clang-tidy. Not part of the tests.
+#
+# usage: scripts/check.sh [--fix] [FILE...]
+#   FILE...  default: every C++ file of the repository
+#   --fix    lets clang-format rewrite the files first; a table that is laid out by hand stands between clang-format off and on
+set -euo pipefail
+# shellcheck source=scripts/setup.sh
+source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+cd "$project_root"
+
+format=(clang-format --dry-run --Werror)
+if [[ ${1:-} == --fix ]]; then
+    format=(clang-format -i)
+    shift
+fi
+files=("$@")
+((${#files[@]} > 0)) || mapfile -t files < <(git ls-files '*.h' '*.cpp')
+
+require_packages "${play_packages[@]}" "${test_packages[@]}" clang-format clang-tidy
+[[ -e build/release/build.ninja ]] || configure release
+cmake -S . -B build/release -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
+
+status=0
+"${format[@]}" "${files[@]}" || status=1
+
+# clang-tidy sees headers through the files that include them. It does not know every option of g++.
+mapfile -t sources < <(printf '%s\n' "${files[@]}" | grep '\.cpp$')
+((${#sources[@]} == 0)) || printf '%s\0' "${sources[@]}" |
+    xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p build/release --extra-arg=-Wno-unknown-warning-option || status=1
+exit "$status"

@@ -1,0 +1,79 @@
+#include "e2e/GameSession.h"
+
+#include <chrono>
+#include <thread>
+
+namespace {
+
+constexpr auto kHold = std::chrono::milliseconds(350); // longer than two frames of a busy machine
+constexpr double kStartSeconds = 60;
+constexpr double kExitSeconds = 30;
+
+} // namespace
+
+GameSession::GameSession() : display(std::filesystem::current_path())
+{
+    scratch.copyGameData();
+}
+
+void GameSession::launch(const std::vector<std::string>& environment, const std::filesystem::path& workingFolder, bool withDisplay)
+{
+    std::vector<std::string> command{"env"};
+    command.insert(command.end(), environment.begin(), environment.end());
+    command.push_back(QUACKDASH_PROGRAM);
+    process = std::make_unique<ChildProcess>(ChildProcess::Settings{
+        command, workingFolder, withDisplay ? display.name() : "", std::filesystem::current_path() / "log.txt"});
+}
+
+bool GameSession::start()
+{
+    launch();
+    return waitForLog("Enter RegisterPlayersGamestate", 1, kStartSeconds) && display.waitForWindow("Quackdash", kStartSeconds)
+        && waitUntil(kStartSeconds, [this] { return detailShare(display.look(), {0, 0, 200, 200}) > 0.01 || !process->isRunning(); });
+}
+
+void GameSession::tap(const std::string& key)
+{
+    display.pressKey(key);
+    std::this_thread::sleep_for(kHold);
+    display.releaseKey(key);
+}
+
+bool GameSession::startMatch()
+{
+    for (const char* key : {"k", "1"}) tap(key);
+    if (!waitForLog("Player registered", 2)) return false;
+    tap("Return");
+    return waitForLog("Enter PlayGamestate");
+}
+
+bool GameSession::waitForLog(const std::string& text, int times, double seconds)
+{
+    return waitUntil(seconds, [&] { return countInLog(text) >= times || !process->isRunning(); }) && countInLog(text) >= times;
+}
+
+int GameSession::countInLog(const std::string& text) const
+{
+    const std::string all = log();
+    int count = 0;
+    for (std::size_t at = all.find(text); at != std::string::npos; at = all.find(text, at + text.size())) ++count;
+    return count;
+}
+
+bool GameSession::waitForChange(const Picture& before, const ScreenArea& region, double share, double seconds)
+{
+    return waitUntil(seconds, [&] { return changedShare(before, display.look(), region) > share; });
+}
+
+int GameSession::quit()
+{
+    display.pressKey("Escape");
+    const int status = waitForExit();
+    display.releaseKey("Escape");
+    return status;
+}
+
+int GameSession::waitForExit()
+{
+    return process->waitForExit(kExitSeconds).value_or(-1);
+}
