@@ -28,6 +28,12 @@ constexpr Asset kTextures[] = {
     {"Textures/font.tga", "Font"},
 };
 
+constexpr Asset kSounds[] = {
+    {"Audio/quackdash.mp3", "musik"},
+    {"Audio/duck.wav", "duck"},
+    {"Audio/bang.wav", "bang"},
+};
+
 } // namespace
 
 std::span<const Asset> shaderAssets()
@@ -38,4 +44,9 @@ std::span<const Asset> shaderAssets()
 std::span<const Asset> textureAssets()
 {
     return kTextures;
+}
+
+std::span<const Asset> soundAssets()
+{
+    return kSounds;
 }

@@ -11,3 +11,4 @@ struct Asset {
 /// What the game loads besides its meshes (the library knows those) and the height image (the terrain reads it), in loading order.
 std::span<const Asset> shaderAssets();
 std::span<const Asset> textureAssets();
+std::span<const Asset> soundAssets();

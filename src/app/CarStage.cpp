@@ -1,9 +1,11 @@
 #include "app/CarStage.h"
 
+#include "assets/BallModel.h"
 #include "assets/DriverModel.h"
 #include "assets/Library.h"
 #include "assets/MeshGeometry.h"
 #include "assets/Uniform_AttachableTransformation.h"
+#include "audio/AudioSystem.h"
 #include "gpu/Uniform_Color.h"
 #include "gpu/Uniform_Texture.h"
 #include "render/ParticleSystem.h"
@@ -18,8 +20,9 @@ namespace {
 constexpr float kTireRadius = 0.45f; // world units
 constexpr float kTireWidth = 0.35f;  // world units
 constexpr int kTireSegments = 8;
+constexpr float kEngineVolume = 0.6f;
 
-class TireModel : public Model {
+class TireModel final : public Model {
 public:
     explicit TireModel(MeshGeometry& geometry) : transformation(this)
     {
@@ -36,9 +39,9 @@ private:
 
 } // namespace
 
-class CarStage::Dress : public ICarDress {
+class CarStage::Dress final : public ICarDress {
 public:
-    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, MeshGeometry& tireGeometry)
+    Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, bool isHeard, MeshGeometry& geometry)
         : driver(game, colour),
           driverTransformation(&driver),
           driverColour(colour),
@@ -47,11 +50,13 @@ public:
           smokeTexture(Library::getInstance()->getTexture("Smoke"), 0)
     {
         dressDriver(*nodes.driver);
-        dressWheels(nodes.wheels, tireGeometry);
+        dressWheels(nodes.wheels, geometry);
         dressExhaust(*nodes.exhaust);
+        if (isHeard) startEngine();
     }
 
     void setEmitterPosition(const glm::vec3& position) override { smoke.setEmitterPosition(position); }
+    void setThrottle(float throttle) override { engine->setPitch(throttle); }
 
 private:
     void dressDriver(Node& node)
@@ -62,10 +67,10 @@ private:
         node.attach(&driver);
     }
 
-    void dressWheels(const std::array<Node*, 4>& wheels, MeshGeometry& tireGeometry)
+    void dressWheels(const std::array<Node*, 4>& wheels, MeshGeometry& geometry)
     {
         for (Node* wheel : wheels) {
-            tires.push_back(std::make_unique<TireModel>(tireGeometry));
+            tires.push_back(std::make_unique<TireModel>(geometry));
             wheel->attach(tires.back().get());
         }
     }
@@ -78,6 +83,12 @@ private:
         node.attach(&smoke);
     }
 
+    void startEngine()
+    {
+        engine = AudioSystem::getInstance()->createSound("engine", "Audio/engine.wav");
+        engine->play(true, kEngineVolume);
+    }
+
     DriverModel driver;
     Uniform_AttachableTransformation driverTransformation;
     Uniform_Color driverColour;
@@ -85,16 +96,37 @@ private:
     ParticleSystem smoke;
     Uniform_AttachableTransformation smokeTransformation;
     Uniform_Texture smokeTexture;
+    std::unique_ptr<Sound> engine; // null for those who are not heard
 };
 
 CarStage::CarStage(QKD_Game* ownGame, Renderer& ownRenderer) : game(ownGame), renderer(ownRenderer) {}
 
 CarStage::~CarStage() = default;
 
-ICarDress& CarStage::dressCar(const CarNodes& nodes, const glm::vec4& colour)
+ICarDress& CarStage::dressCar(const CarNodes& nodes, const glm::vec4& colour, bool isHeard)
 {
-    dresses.push_back(std::make_unique<Dress>(game, nodes, colour, getTireGeometry()));
+    dresses.push_back(std::make_unique<Dress>(game, nodes, colour, isHeard, getTireGeometry()));
     return *dresses.back();
+}
+
+Attachable* CarStage::dressBall(Node& node, const glm::vec4& colour)
+{
+    BallModel* model = new BallModel(game, colour);
+    node.attach(model);
+    return model;
+}
+
+void CarStage::undressBall(Attachable* model)
+{
+    BallModel* ball = static_cast<BallModel*>(model);
+    renderer.getModelRenderer()->releaseModel(ball);
+    renderer.getShadowRenderer()->releaseModel(ball);
+    delete ball;
+}
+
+void CarStage::playSound(const std::string& name, float volume)
+{
+    AudioSystem::getInstance()->play(name, false, volume);
 }
 
 void CarStage::addText(const std::string& text, double x, double y)

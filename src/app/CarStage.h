@@ -11,12 +11,15 @@ class Renderer;
 
 /// Shows participants with real models: ducks, tyres, smoke and text. Owned by the game; needs the window and the loaded assets from the first
 /// car on.
-class CarStage : public IStage {
+class CarStage final : public IStage {
 public:
     CarStage(QKD_Game* game, Renderer& renderer);
     ~CarStage();
 
-    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour) override;
+    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour, bool isHeard) override;
+    Attachable* dressBall(Node& node, const glm::vec4& colour) override;
+    void undressBall(Attachable* model) override;
+    void playSound(const std::string& name, float volume) override;
     void addText(const std::string& text, double x, double y) override;
     glm::ivec2 getWindowSize() const override;
 

@@ -9,7 +9,7 @@ class QKD_Game;
 
 /// A free flight through the running world by keyboard and mouse: the cars roll on, but nobody drives and no hit counts. Entered from
 /// the match and left back to it. Owned by the game.
-class DebugGamestate : public IGameState {
+class DebugGamestate final : public IGameState {
 public:
     /// The renderer must have the scene graph by now: the node "CameraNode" joins it.
     DebugGamestate(const std::string& stateName, QKD_Game& game);

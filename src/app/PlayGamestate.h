@@ -10,7 +10,7 @@ class QKD_Game;
 
 /// The match on the split screen: one viewport for each human player and, where that leaves a cell free, the overview in it. Runs until
 /// somebody quits. Owned by the game.
-class PlayGamestate : public IGameState {
+class PlayGamestate final : public IGameState {
 public:
     PlayGamestate(const std::string& stateName, QKD_Game& game);
 

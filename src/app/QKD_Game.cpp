@@ -10,6 +10,8 @@
 #include "app/base/FrameTimer.h"
 #include "app/base/Logger.h"
 #include "assets/Library.h"
+#include "assets/PartyhatModel.h"
+#include "audio/AudioSystem.h"
 #include "gpu/Uniform_Texture.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
@@ -24,6 +26,7 @@
 
 namespace {
 constexpr double kRankingLogInterval = 3000; // milliseconds
+constexpr float kMusicVolume = 1.0f;
 }
 
 /// The sky box with the source of its picture.
@@ -71,6 +74,8 @@ void QKD_Game::init()
     createStates();
     createLightNode();
     createTerrain();
+    startSound();
+    createHats();
     bindFunctionKeys();
     lastRankingLog = FrameTimer::getInstance()->getTimeMs();
 }
@@ -116,10 +121,29 @@ void QKD_Game::createLightNode()
 
 void QKD_Game::createTerrain()
 {
-    Terrain* terrain = PhysxManager::instance()->createTerrain();
-    getSceneGraph()->getRoot()->addChild(terrain->getNode());
-    terrainModel = std::make_unique<TerrainModel>(*terrain);
-    terrain->getNode()->attach(terrainModel.get());
+    Terrain* ground = PhysxManager::instance()->createTerrain();
+    getSceneGraph()->getRoot()->addChild(ground->getNode());
+    terrainModel = std::make_unique<TerrainModel>(*ground);
+    ground->getNode()->attach(terrainModel.get());
+    setTerrain(ground);
+}
+
+void QKD_Game::startSound()
+{
+    std::vector<std::pair<std::string, std::string>> sounds;
+    for (const Asset& sound : soundAssets()) sounds.emplace_back(sound.name, sound.file);
+    AudioSystem::getInstance()->init(sounds);
+    AudioSystem::getInstance()->play("musik", true, kMusicVolume);
+}
+
+void QKD_Game::createHats()
+{
+    const glm::vec4 kColours[Hats::kCount] = {
+        {255 / 255.0f, 215 / 255.0f, 0, 1}, {192 / 255.0f, 192 / 255.0f, 192 / 255.0f, 1}, {205 / 255.0f, 127 / 255.0f, 50 / 255.0f, 1}};
+    for (int place = 0; place < Hats::kCount; ++place) {
+        hatModels.push_back(std::make_unique<PartyhatModel>(kColours[place], this));
+        getHats().getAnimationNode(place)->attach(hatModels.back().get());
+    }
 }
 
 void QKD_Game::bindFunctionKeys()
@@ -144,6 +168,7 @@ void QKD_Game::showHelp()
 void QKD_Game::update()
 {
     stepPhysics();
+    AudioSystem::getInstance()->update();
     functionKeys.update();
     logRanking();
 }

@@ -6,8 +6,10 @@
 #include "app/match/MatchRules.h"
 
 #include <memory>
+#include <vector>
 
 class DebugGamestate;
+class PartyhatModel;
 class PlayGamestate;
 class RegisterPlayersGamestate;
 class Renderer;
@@ -38,6 +40,8 @@ private:
     void createStates();
     void createLightNode();
     void createTerrain();
+    void startSound();
+    void createHats();
     void bindFunctionKeys();
 
     void loadShaders();
@@ -50,6 +54,7 @@ private:
     FunctionKeys functionKeys;
     std::unique_ptr<Sky> sky;
     std::unique_ptr<TerrainModel> terrainModel;
+    std::vector<std::unique_ptr<PartyhatModel>> hatModels; // gold, silver, bronze
     std::unique_ptr<RegisterPlayersGamestate> registerState;
     std::unique_ptr<PlayGamestate> playState;
     std::unique_ptr<DebugGamestate> debugState;

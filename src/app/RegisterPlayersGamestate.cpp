@@ -52,6 +52,7 @@ void RegisterPlayersGamestate::enter()
 {
     logLine(2) << "Enter RegisterPlayersGamestate" << std::endl;
     game.getCore()->getRenderer()->setViewports({view.getViewport()});
+    registration.restart();
 }
 
 void RegisterPlayersGamestate::leave()

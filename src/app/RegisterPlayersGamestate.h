@@ -7,7 +7,7 @@
 class QKD_Game;
 
 /// The first screen: people join with their devices, seen from high above the field, until the match starts. Owned by the game.
-class RegisterPlayersGamestate : public IGameState {
+class RegisterPlayersGamestate final : public IGameState {
 public:
     /// The renderer must have the scene graph by now: the node "PanoramaCamera" joins it.
     RegisterPlayersGamestate(const std::string& stateName, QKD_Game& game);

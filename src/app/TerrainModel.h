@@ -10,7 +10,7 @@ class Mesh;
 class Terrain;
 
 /// The ground as it is seen: the terrain's grid, drawn as patches of grass and dirt. Owned by the game; made after the assets are loaded.
-class TerrainModel : public Model {
+class TerrainModel final : public Model {
 public:
     explicit TerrainModel(const Terrain& terrain);
 

@@ -70,6 +70,7 @@ std::unique_ptr<Mesh> importMesh(const std::string& path)
 {
     Assimp::Importer importer;
     importer.SetPropertyInteger(AI_CONFIG_PP_LBW_MAX_WEIGHTS, kMaxBoneWeights);
+    importer.SetPropertyBool(AI_CONFIG_IMPORT_NO_SKELETON_MESHES, true); // no stand-in for a file that holds nodes only
     const aiScene* scene = importer.ReadFile(path, kSteps);
     if (!scene) {
         reportFailure(path, importer.GetErrorString());

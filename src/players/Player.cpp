@@ -1,5 +1,6 @@
 #include "players/Player.h"
 
+#include "app/base/FrameTimer.h"
 #include "app/base/Logger.h"
 #include "input/InputDevice.h"
 #include "physics/PhysicNode.h"
@@ -18,6 +19,10 @@
 namespace {
 
 constexpr int kFullHealth = 100;
+constexpr double kShotInterval = 700; // milliseconds that must pass between two shots
+constexpr float kShotVolume = 0.3f;
+constexpr float kQuackVolume = 1.0f;
+constexpr float kFaintQuackVolume = 0.2f; // of those who are not heard otherwise
 constexpr unsigned kChassisShape = 4; // a car's shapes: four wheels, then the chassis
 constexpr float kDriverScale = 0.015f; // the duck's mesh is about 130 units long
 constexpr float kRespawnHeight = 50.0f; // world units
@@ -57,7 +62,10 @@ float randomPlace()
 
 } // namespace
 
-Player::Player(IMatch& ownMatch, IStage& ownStage, InputDevice& ownDevice) : Actor(ownMatch, ownDevice), stage(ownStage), health(kFullHealth) {}
+Player::Player(IMatch& ownMatch, IStage& ownStage, InputDevice& ownDevice)
+    : Actor(ownMatch, ownDevice), stage(ownStage), lastShotTime(FrameTimer::getInstance()->getTimeMs()), health(kFullHealth)
+{
+}
 
 void Player::setUp()
 {
@@ -72,7 +80,7 @@ void Player::setUp()
     createCameraNode();
     nodes.exhaust = createExhaustNode();
     for (unsigned wheel = 0; wheel < nodes.wheels.size(); ++wheel) nodes.wheels[wheel] = createWheel(wheel);
-    dress = &stage.dressCar(nodes, getColor());
+    dress = &stage.dressCar(nodes, getColor(), hasSound());
     vehicle->forceGear(physx::PxVehicleGearsData::eFIRST);
     respawn();
 }
@@ -139,6 +147,7 @@ void Player::update()
     if (device.isConnected()) {
         device.update();
         drive();
+        shoot();
     }
     dress->setEmitterPosition(getPosition());
 }
@@ -147,7 +156,22 @@ void Player::drive()
 {
     const DriverInput input{device.getAxis(InputDevice::kThrottleAxis), device.getAxis(InputDevice::kBrakeAxis),
         device.getAxis(InputDevice::kSteeringAxis), device.isPressed(InputDevice::kHandBrake)};
-    controls.apply(input, *vehicle);
+    const float throttle = controls.apply(input, *vehicle);
+    if (hasSound()) dress->setThrottle(throttle);
+}
+
+void Player::shoot()
+{
+    const double now = FrameTimer::getInstance()->getTimeMs();
+    if (!device.isPressed(InputDevice::kShoot) || now <= lastShotTime + kShotInterval) return;
+    lastShotTime = now;
+    match.addBall(this);
+    stage.playSound("bang", kShotVolume);
+}
+
+void Player::quack()
+{
+    stage.playSound("duck", hasSound() ? kQuackVolume : kFaintQuackVolume);
 }
 
 glm::vec3 Player::getPosition() const
@@ -159,6 +183,7 @@ void Player::takeDamage(int amount)
 {
     health = std::max(health - amount, 0);
     rumble(device, kHitRumble);
+    quack();
 }
 
 void Player::die()
@@ -174,6 +199,7 @@ void Player::respawn()
     const float x = randomPlace();
     vehicle->placeAt(glm::vec3(x, kRespawnHeight, z));
     rumble(device, kRespawnRumble);
+    quack();
 }
 
 void Player::drawLabel() const
@@ -193,6 +219,21 @@ void Player::drawLabel() const
 glm::vec3 Player::getLaunchPosition() const
 {
     return launchNode->getWorldPosition();
+}
+
+glm::mat4 Player::getLaunchTransform() const
+{
+    return launchNode->getWorldTransform();
+}
+
+glm::mat4 Player::getChassisTransform() const
+{
+    return chassisNode->getWorldTransform();
+}
+
+float Player::getForwardSpeed() const
+{
+    return vehicle->computeForwardSpeed();
 }
 
 float Player::getHeight() const

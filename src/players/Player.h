@@ -1,5 +1,6 @@
 #pragma once
 
+#include "input/IPilot.h"
 #include "physics/DrivingControls.h"
 #include "players/Actor.h"
 
@@ -10,7 +11,7 @@ class VehicleHandle;
 
 /// A driver with a car, steered by an input device. The match creates it, calls setUp() once, puts it into its lists, and from then on
 /// update() once a frame; it decides hits and points and calls takeDamage(), addScore() and die().
-class Player : public Actor {
+class Player : public Actor, public IPilot {
 public:
     Player(IMatch& match, IStage& stage, InputDevice& device);
 
@@ -23,11 +24,11 @@ public:
     virtual bool hasSound() const { return true; }
 
     std::string getName() const override; ///< "(3) Player 1, XBOX 2": score, player number, device
-    void update() override;               ///< reads the device, writes the car's controls, moves the smoke
+    void update() override;               ///< reads the device, writes the car's controls, may shoot, moves the smoke
     bool isPlayer() const override { return true; }
     glm::vec3 getPosition() const override; ///< of the chassis
 
-    void takeDamage(int amount); ///< lowers the health, not below 0, and rumbles
+    void takeDamage(int amount); ///< lowers the health, not below 0; rumbles and quacks
     void die();                  ///< counts a death, restores the health, respawns
     void respawn();              ///< stops the car and drops it anywhere from height 50, upright
     void addScore(int points) { score += points; }
@@ -37,16 +38,21 @@ public:
 
     int getHealth() const { return health; } ///< 0 to 100
     int getScore() const { return score; }
-    int getDeaths() const { return deaths; }
+    int getDeaths() const override { return deaths; }
     VehicleHandle* getVehicle() const { return vehicle; }
     PhysicNode* getChassisNode() const { return chassisNode; }
     Node* getLaunchNode() const { return launchNode; } ///< where shots leave the car
     glm::vec3 getLaunchPosition() const;               ///< world space
+    glm::mat4 getLaunchTransform() const override;
+    glm::mat4 getChassisTransform() const override;
+    float getForwardSpeed() const override;
     float getHeight() const;                           ///< world y of the chassis
 
 private:
     void createCar();
     void drive();
+    void shoot();
+    void quack();
     void createLaunchNode();
     void createCameraNode();
     Node* createDriverNode() const;
@@ -59,6 +65,7 @@ private:
     DrivingControls controls;
     Node* launchNode = nullptr;
     ICarDress* dress = nullptr;
+    double lastShotTime; // milliseconds of the frame timer
     int health;
     int score = 0;
     int deaths = 0;

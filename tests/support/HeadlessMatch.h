@@ -8,9 +8,11 @@
 #include "players/IStage.h"
 #include "players/Player.h"
 #include "scene/SceneGraph.h"
+#include "support/DataScratch.h"
 #include "support/ScriptedKeyboard.h"
 #include "support/SteppedClock.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,17 +24,28 @@ public:
         double x, y;
     };
 
-    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour) override
+    ICarDress& dressCar(const CarNodes& nodes, const glm::vec4& colour, bool) override
     {
         cars.push_back(nodes);
         colours.push_back(colour);
         return *this;
     }
     void setEmitterPosition(const glm::vec3& position) override { emitterPosition = position; }
+    void setThrottle(float newThrottle) override { throttle = newThrottle; }
+    Attachable* dressBall(Node&, const glm::vec4&) override { return nullptr; }
+    void undressBall(Attachable*) override {}
+    void playSound(const std::string& name, float volume) override { sounds.push_back({name, volume}); }
     void addText(const std::string& text, double x, double y) override { lines.push_back({text, x, y}); }
     glm::ivec2 getWindowSize() const override { return {1024, 768}; }
 
+    struct Sound {
+        std::string name;
+        float volume;
+    };
+
     std::vector<CarNodes> cars;
+    std::vector<Sound> sounds; ///< everything played so far
+    float throttle = 0;        ///< of whoever was heard last
     std::vector<glm::vec4> colours;
     std::vector<Line> lines;        ///< of the last pass
     glm::vec3 emitterPosition{0.0f}; ///< of whoever smoked last
@@ -42,11 +55,15 @@ public:
 /// passes are made. The physics world goes with it.
 class HeadlessMatch {
 public:
-    HeadlessMatch()
+    enum class Ground {
+        kGame, ///< the game's own height picture
+        kFlat, ///< flat, eight units below where cars enter
+    };
+
+    explicit HeadlessMatch(Ground ground = Ground::kGame)
     {
-        enterDataFolder();
         rules.setWorld(&graph, &stage);
-        graph.getRoot()->addChild(PhysxManager::instance()->createTerrain()->getNode());
+        createTerrain(ground);
         FrameTimer::getInstance()->tick();
         graph.update();
     }
@@ -81,4 +98,20 @@ public:
     SilentStage stage;
     SceneGraph graph;
     MatchRules rules;
+
+private:
+    void createTerrain(Ground ground)
+    {
+        std::optional<DataScratch> scratch;
+        if (ground == Ground::kFlat) {
+            constexpr int kHeightByte = 214; // 42 units
+            scratch.emplace();
+            scratch->writeTga("Textures/map.tga", 512, 512, 1, [](int, int, int) { return kHeightByte; });
+        } else {
+            enterDataFolder();
+        }
+        const Terrain* terrain = PhysxManager::instance()->createTerrain();
+        graph.getRoot()->addChild(terrain->getNode());
+        rules.setTerrain(terrain);
+    }
 };

@@ -2,8 +2,11 @@
 
 #include "app/base/Logger.h"
 #include "app/match/MatchRules.h"
-#include "input/AbsentController.h"
 #include "input/KeyboardController.h"
+#include "input/XBOXController.h"
+#include "platform/Keyboard.h"
+
+#include <GLFW/glfw3.h>
 
 #include <algorithm>
 
@@ -12,11 +15,24 @@ PlayerRegistration::PlayerRegistration(MatchRules& ownMatch) : match(ownMatch)
     constexpr int kPadCount = 4;
     constexpr int kKeyboardLayouts = 2;
     std::size_t next = 0;
-    for (int pad = 1; pad <= kPadCount; ++pad) slots[next++].device = std::make_unique<AbsentController>(pad);
+    for (int pad = 1; pad <= kPadCount; ++pad) slots[next++].device = std::make_unique<XBOXController>(pad);
     for (int layout = 1; layout <= kKeyboardLayouts; ++layout) slots[next++].device = std::make_unique<KeyboardController>(layout);
 }
 
 void PlayerRegistration::update()
+{
+    readDevices();
+    readSpaceBar();
+}
+
+void PlayerRegistration::readSpaceBar()
+{
+    const bool isDown = isKeyDown(GLFW_KEY_SPACE);
+    if (isDown && !spaceHeld && match.getComputerPlayerCount() < kMaxComputerPlayers) match.addComputerPlayer();
+    spaceHeld = isDown;
+}
+
+void PlayerRegistration::readDevices()
 {
     for (Slot& slot : slots) {
         slot.device->update();

@@ -17,7 +17,13 @@ public:
     /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
     explicit PlayerRegistration(MatchRules& match);
 
-    /// Reads the devices; the first press of a device's shoot button adds its player to the match.
+    static constexpr int kMaxComputerPlayers = 10;
+
+    /// The registration screen is shown anew.
+    void restart() { spaceHeld = false; }
+
+    /// Reads the devices; the first press of a device's shoot button adds its player to the match, each press of the space bar a
+    /// computer player.
     void update();
 
     /// True when everybody possible takes part, or at least two do and one of the registered devices holds its start button.
@@ -29,6 +35,10 @@ private:
         bool registered = false;
     };
 
+    void readDevices();
+    void readSpaceBar();
+
     MatchRules& match;
     std::array<Slot, kDeviceCount> slots;
+    bool spaceHeld = false;
 };

@@ -1,0 +1,56 @@
+#include "audio/AudioSystem.h"
+
+#include "app/base/Logger.h"
+
+#include <cstdlib>
+
+namespace {
+
+constexpr int kChannels = 32; // sounds at once
+
+AudioSystem* createForProcess()
+{
+    // The sound library complains on standard error about a device that is open when the process ends.
+    std::atexit([] { AudioSystem::getInstance()->getOutput().close(); });
+    return new AudioSystem(SoundTarget::Speakers);
+}
+
+} // namespace
+
+AudioSystem* AudioSystem::getInstance()
+{
+    static AudioSystem* const instance = createForProcess();
+    return instance;
+}
+
+void AudioSystem::init(const std::vector<std::pair<std::string, std::string>>& files)
+{
+    if (system.create() != kSoundOk) logLine(0) << "Error, initializing Audiosystem!" << std::endl;
+    if (system.init(kChannels) != kSoundOk) logLine(0) << "Error, initializing Audiosystem!" << std::endl;
+    for (const auto& [name, file] : files) addSound(name, file);
+}
+
+void AudioSystem::addSound(const std::string& name, const std::string& file)
+{
+    sounds[name] = std::make_unique<Sound>(&system, name, file);
+}
+
+std::unique_ptr<Sound> AudioSystem::createSound(const std::string& name, const std::string& file)
+{
+    return std::make_unique<Sound>(&system, name, file);
+}
+
+void AudioSystem::play(std::string name, bool loop, float volume)
+{
+    if (const auto& sound = sounds[name]) {
+        sound->play(loop, volume);
+    } else {
+        logLine(1) << "Sound does not exist: " << name << std::endl;
+    }
+    if (system.update() != kSoundOk) logLine(0) << "Error, updating Audiosystem!" << std::endl;
+}
+
+void AudioSystem::update()
+{
+    static_cast<void>(system.update());
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "audio/Sound.h"
+#include "platform/SoundOutput.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// The game's sounds by name, and the output that they are heard from. One for the process; init comes first, then update once per frame.
+/// Nothing here stops the game: what fails is logged, and without a sound device all goes on in silence.
+class AudioSystem {
+public:
+    /// Created on the first call, never destroyed; at the end of the process its device is given back.
+    static AudioSystem* getInstance();
+
+    /// One of its own, for tests; at most one with an open output at a time.
+    explicit AudioSystem(SoundTarget target) : system(target) {}
+
+    /// Opens the output and loads the sounds, given as pairs of name and file.
+    void init(const std::vector<std::pair<std::string, std::string>>& files);
+
+    /// Loads a sound under a name, in place of the one that had it.
+    void addSound(const std::string& name, const std::string& file);
+
+    /// Loads a sound that only its caller plays: play does not find it.
+    std::unique_ptr<Sound> createSound(const std::string& name, const std::string& file);
+
+    /// Plays a sound by name; volume 0 to 1.
+    void play(std::string name, bool loop, float volume);
+
+    void update();
+
+    SoundOutput& getOutput() { return system; }
+
+private:
+    SoundOutput system;
+    std::map<std::string, std::unique_ptr<Sound>> sounds;
+};

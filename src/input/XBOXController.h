@@ -1,0 +1,28 @@
+#pragma once
+
+#include "input/InputDevice.h"
+#include "platform/GamePads.h"
+
+/// A game-pad: triggers for throttle and brake, the left stick for steering, A to shoot, B for the hand brake. Its state is that of
+/// the last update() or isConnected(); unplugged, nothing is pressed and every axis at rest.
+class XBOXController : public InputDevice {
+public:
+    /// number: 1 to 4, the pad's slot. The pads are borrowed.
+    explicit XBOXController(int number, GamePads& pads = gamePads()) : slot(number - 1), hardware(pads) {}
+
+    bool isPressed(int button) override;
+    float getAxis(int axis) override;
+    void vibrate(int milliseconds, std::uint16_t leftMotor, std::uint16_t rightMotor) override;
+    void update() override; ///< also ends a rumble whose time is over
+    bool isConnected() override;
+    std::string getName() const override;
+    bool isStartPressed() override;
+    bool isBackPressed() override;
+
+private:
+    int slot;
+    GamePads& hardware;
+    double vibrationEnd = 0; // milliseconds of the frame timer
+    bool vibrating = false;
+    GamePadState state;
+};

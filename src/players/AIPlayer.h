@@ -1,0 +1,24 @@
+#pragma once
+
+#include "input/AIController.h"
+#include "players/Player.h"
+
+/// Holds the controller of a computer player, which has to be there before the player that is driven by it.
+struct AIControllerHolder {
+    explicit AIControllerHolder(int number) : controller(number) {}
+
+    AIController controller;
+};
+
+/// A computer player: a grey car that makes little noise and has no place on the screen. The match creates it as it does a player.
+class AIPlayer final : private AIControllerHolder, public Player {
+public:
+    AIPlayer(IMatch& match, IStage& stage);
+
+    void setUp() override;
+    glm::vec4 getColor() const override; ///< grey, darker with each computer player
+    bool hasSound() const override { return false; }
+
+private:
+    int computerIndex = 0; // the computer players that were there before this one
+};

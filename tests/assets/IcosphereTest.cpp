@@ -1,0 +1,42 @@
+#include "assets/Icosphere.h"
+
+#include "scene/Mesh.h"
+#include "support/Near.h"
+
+namespace {
+
+TEST(IcosphereTest, LiesOnTheSphereAndIsClosedWithEveryFaceClockwiseFromOutside)
+{
+    constexpr float kRadius = 3.0f;
+    Mesh mesh;
+    createIcosphere(mesh, kRadius);
+    ASSERT_EQ(mesh.positions.size(), 72u);
+    ASSERT_EQ(mesh.normals.size(), 72u);
+    ASSERT_EQ(mesh.indices.size(), 3u * 80u);
+
+    for (std::size_t i = 0; i < mesh.positions.size(); ++i) {
+        EXPECT_NEAR(glm::length(mesh.positions[i]), kRadius, 1e-4f) << i;
+        EXPECT_TRUE(isNear(mesh.normals[i], mesh.positions[i] / kRadius)) << i;
+    }
+    float volume = 0; // of the tetrahedra between the centre and each face: a hole or an overlap would show
+    for (std::size_t i = 0; i < mesh.indices.size(); i += 3) {
+        const glm::vec3 &a = mesh.positions[mesh.indices[i]], &b = mesh.positions[mesh.indices[i + 1]], &c = mesh.positions[mesh.indices[i + 2]];
+        const float tetrahedron = glm::dot(a, glm::cross(b, c)) / 6.0f;
+        EXPECT_LT(tetrahedron, 0) << "triangle " << i / 3 << " would be culled where it should be seen";
+        volume -= tetrahedron;
+    }
+    EXPECT_NEAR(volume, 3.6587f * kRadius * kRadius * kRadius, 0.05f) << "an icosahedron split once";
+}
+
+TEST(IcosphereTest, EachFaceIsReplacedByItsFirstCornersPartAndTheOtherThreeFollowAtTheEnd)
+{
+    Mesh mesh;
+    createIcosphere(mesh, 1.0f);
+    const std::vector<unsigned short> firstFace(mesh.indices.begin(), mesh.indices.begin() + 3);
+    const std::vector<unsigned short> itsOthers(mesh.indices.begin() + 60, mesh.indices.begin() + 69);
+    EXPECT_EQ(firstFace, (std::vector<unsigned short>{0, 12, 14}));
+    EXPECT_EQ(itsOthers, (std::vector<unsigned short>{12, 4, 13, 13, 1, 14, 12, 13, 14}));
+    EXPECT_TRUE(isNear(mesh.positions[12], glm::normalize(mesh.positions[0] + mesh.positions[4])));
+}
+
+} // namespace

@@ -1,0 +1,222 @@
+#include "assets/Library.h"
+#include "gpu/Shaderprogram.h"
+#include "gpu/Texture.h"
+#include "scene/Mesh.h"
+#include "support/DataCapturedLog.h"
+#include "support/DataScratch.h"
+#include "support/GlErrors.h"
+#include "support/GlFixture.h"
+
+#include <GL/glew.h>
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+const std::string kVertex = "#version 430 core\nin vec3 position;\nvoid main() { gl_Position = vec4(position, 1.0); }\n";
+const std::string kFragment = "#version 430 core\nout vec4 colour;\nvoid main() { colour = vec4(1.0); }\n";
+const char* const kLinkReport = "Linking program\n\nShader compilation done\n";
+
+class LibraryLoadersTest : public GlTest {
+protected:
+    LibraryLoadersTest()
+    {
+        data.write("Shader/plain.vert", kVertex);
+        data.write("Shader/plain.frag", kFragment);
+    }
+
+    /// Each test starts with a name that the library has not met.
+    static std::string freshName() { return "Program" + std::to_string(nextName++); }
+
+    static std::vector<GLuint> stagesOf(const Shaderprogram& program)
+    {
+        GLint count = 0;
+        glGetProgramiv(program.getHandle(), GL_ATTACHED_SHADERS, &count);
+        std::vector<GLuint> stages(static_cast<std::size_t>(count));
+        glGetAttachedShaders(program.getHandle(), count, nullptr, stages.data());
+        return stages;
+    }
+
+    static GLint stageParameter(GLuint stage, GLenum what)
+    {
+        GLint value = -1;
+        glGetShaderiv(stage, what, &value);
+        return value;
+    }
+
+    DataScratch data;
+    Library& library = *Library::getInstance();
+
+private:
+    static inline int nextName = 0;
+};
+
+TEST_F(LibraryLoadersTest, TheLayoutOfAShaderFileIntoLinesMeansNothing)
+{
+    for (const char* text : {
+             "VERTEX_SHADER Shader/plain.vert\nFRAGMENT_SHADER Shader/plain.frag\n",
+             "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER Shader/plain.frag",
+             "VERTEX_SHADER\nShader/plain.vert\nFRAGMENT_SHADER\nShader/plain.frag",
+             "\n\n \tVERTEX_SHADER\t\t Shader/plain.vert\r\n\n\nFRAGMENT_SHADER   Shader/plain.frag  \r\n\n",
+             "FRAGMENT_SHADER Shader/plain.frag\nVERTEX_SHADER Shader/plain.vert\n",
+         }) {
+        SCOPED_TRACE(text);
+        const std::string name = freshName();
+        data.write("Shader/any.shader", text);
+        CapturedLog log;
+        library.loadShader(name, "Shader/any.shader");
+        EXPECT_EQ(log.text(), std::string("DEBUG | Compile Shader ...\nDEBUG | Compile Shader ...\n") + kLinkReport);
+        const Shaderprogram* program = library.getShaderprogram(name);
+        ASSERT_TRUE(program);
+        EXPECT_TRUE(program->isUsable());
+        EXPECT_EQ(stagesOf(*program).size(), 2u);
+    }
+}
+
+TEST_F(LibraryLoadersTest, EveryKeywordSelectsItsStageAndRepeatsAreAttachedToo)
+{
+    const std::string version = "#version 430 core\n";
+    data.write("a.vert", version + "vec4 place(); void main() { gl_Position = place(); }");
+    data.write("b.vert", version + "in vec3 position; vec4 place() { return vec4(position, 1.0); } // no line feed at the end");
+    data.write("c.tcs", version + "layout(vertices = 3) out; void main() { gl_out[gl_InvocationID].gl_Position = gl_in[gl_InvocationID].gl_Position;"
+                                  "gl_TessLevelInner[0] = 1.0; gl_TessLevelOuter[0] = gl_TessLevelOuter[1] = gl_TessLevelOuter[2] = 1.0; }");
+    data.write("d.tes", version + "layout(triangles) in; void main() { gl_Position = gl_TessCoord.x * gl_in[0].gl_Position; }");
+    data.write("e.geom", version + "layout(triangles) in; layout(points, max_vertices = 1) out; void main() { gl_Position = gl_in[0].gl_Position;"
+                                   "EmitVertex(); }");
+    data.write("all.shader", "VERTEX_SHADER a.vert VERTEX_SHADER b.vert TESS_CONTROL_SHADER c.tcs TESS_EVALUATION_SHADER d.tes\n"
+                             "GEOMETRY_SHADER e.geom FRAGMENT_SHADER Shader/plain.frag");
+    const std::string name = freshName();
+    library.loadShader(name, "all.shader");
+    const Shaderprogram* program = library.getShaderprogram(name);
+    ASSERT_TRUE(program);
+    EXPECT_TRUE(program->isUsable());
+
+    std::multiset<GLint> types;
+    for (const GLuint stage : stagesOf(*program)) {
+        types.insert(stageParameter(stage, GL_SHADER_TYPE));
+        EXPECT_EQ(stageParameter(stage, GL_DELETE_STATUS), GL_TRUE) << "stages must go with their program";
+        std::string source(static_cast<std::size_t>(stageParameter(stage, GL_SHADER_SOURCE_LENGTH)), ' ');
+        glGetShaderSource(stage, static_cast<GLsizei>(source.size()), nullptr, source.data());
+        EXPECT_TRUE(source.ends_with(std::string("\n") + '\0')) << source;
+    }
+    EXPECT_EQ(types, (std::multiset<GLint>{GL_VERTEX_SHADER, GL_VERTEX_SHADER, GL_TESS_CONTROL_SHADER, GL_TESS_EVALUATION_SHADER,
+                         GL_GEOMETRY_SHADER, GL_FRAGMENT_SHADER}));
+}
+
+struct EndedLoad {
+    std::string text; // of the .shader file
+    std::string log;  // all of it
+};
+
+TEST_F(LibraryLoadersTest, ALoadThatEndsEarlyGivesOneErrorAndRegistersNothing)
+{
+    const std::string compiled = "DEBUG | Compile Shader ...\n";
+    std::filesystem::create_directory("folder");
+    const EndedLoad rows[] = {
+        {"VERTEX_SHADER absent.vert FRAGMENT_SHADER Shader/plain.frag", "ERROR | couldn't open file: absent.vert\n"},
+        {"VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER absent.frag", compiled + "ERROR | couldn't open file: absent.frag\n"},
+        {"VERTEX_SHADER folder", "ERROR | couldn't open file: folder\n"},
+        {"VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER", compiled + "ERROR | couldn't open file: \n"},
+        {"PIXEL_SHADER Shader/plain.frag", "ERROR | unknown shader stage \"PIXEL_SHADER\" in any.shader\n"},
+        {"VERTEX_SHADER Shader/plain.vert fragment_shader x", compiled + "ERROR | unknown shader stage \"fragment_shader\" in any.shader\n"},
+        {std::string("\x89PNG\x02\xff") + std::string(500, '\xe4'),
+            "ERROR | unknown shader stage \"?PNG" + std::string(36, '?') + "\" in any.shader\n"},
+    };
+    for (const EndedLoad& row : rows) {
+        const std::string name = freshName();
+        data.write("any.shader", row.text);
+        CapturedLog log;
+        library.loadShader(name, "any.shader");
+        EXPECT_EQ(log.text(), row.log);
+        EXPECT_EQ(library.getShaderprogram(name, false), nullptr);
+    }
+    CapturedLog log;
+    library.loadShader("Absent", "Shader/absent.shader");
+    EXPECT_EQ(library.getShaderprogram("Absent"), nullptr);
+    EXPECT_EQ(log.text(), "ERROR | couldn't open file: Shader/absent.shader\nWARNING | Absent is not in Library\n");
+}
+
+TEST_F(LibraryLoadersTest, SpoiledStagesAreNamedAndTheProgramIsRegisteredUnusable)
+{
+    CompilerErrorsExpected spoiled;
+    data.write("any.shader", "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER spoiled.frag");
+    std::string bytes(4096, '\0');
+    unsigned state = 1;
+    for (char& byte : bytes) byte = static_cast<char>((state = state * 1664525u + 1013904223u) >> 24);
+    for (const std::string& content : {std::string(), bytes, std::string(100000, '('), std::string(3, '\0'), kFragment.substr(0, 40)}) {
+        data.write("spoiled.frag", content);
+        const std::string name = freshName();
+        CapturedLog log;
+        library.loadShader(name, "any.shader");
+        EXPECT_LE(log.count("ERROR | couldn't compile shader: spoiled.frag\n"), 1);
+        EXPECT_EQ(log.count("ERROR | couldn't link program: any.shader\n"), 1);
+        EXPECT_LE(log.count("ERROR | "), 2);
+        const Shaderprogram* program = library.getShaderprogram(name);
+        ASSERT_TRUE(program);
+        EXPECT_FALSE(program->isUsable());
+    }
+}
+
+TEST_F(LibraryLoadersTest, AnEmptyShaderFileIsLinkedAndRegistered)
+{
+    for (const char* text : {"", " \n \n"}) {
+        const std::string name = freshName();
+        data.write("empty.shader", text);
+        CapturedLog log;
+        library.loadShader(name, "empty.shader");
+        EXPECT_TRUE(log.text().starts_with("Linking program\n"));
+        EXPECT_EQ(log.count("ERROR | "), 1);
+        EXPECT_TRUE(library.getShaderprogram(name));
+    }
+}
+
+TEST_F(LibraryLoadersTest, AReloadKeepsTheObjectThroughABadFileAndBack)
+{
+    const std::string good = "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER Shader/plain.frag";
+    const std::string name = freshName();
+    data.write("Shader/any.shader", good);
+    library.loadShader(name, "Shader/any.shader");
+    Shaderprogram* program = library.getShaderprogram(name);
+    const std::vector<GLuint> oldStages = stagesOf(*program);
+
+    for (const char* bad : {"VERTEX_SHADER absent.vert", "NO_SHADER x", ""}) {
+        data.write("Shader/any.shader", bad);
+        library.loadShader(name, "Shader/any.shader");
+        EXPECT_EQ(library.getShaderprogram(name), program);
+        EXPECT_FALSE(program->isUsable());
+        EXPECT_TRUE(glIsProgram(program->getHandle())) << "a fresh, empty program object";
+        EXPECT_TRUE(stagesOf(*program).empty());
+    }
+    EXPECT_FALSE(std::any_of(oldStages.begin(), oldStages.end(), [](GLuint stage) { return glIsShader(stage); }));
+
+    data.write("Shader/any.shader", good);
+    library.loadShader(name, "Shader/any.shader");
+    EXPECT_EQ(library.getShaderprogram(name), program);
+    EXPECT_TRUE(program->isUsable());
+}
+
+TEST_F(LibraryLoadersTest, TexturesAreRegisteredBadFileOrNotAndListedByKindInNameOrder)
+{
+    data.writeTga("picture.tga", 4, 4, 3, [](int, int, int) { return 50; });
+    library.loadTexture("Smoke", "picture.tga");
+    library.loadTexture("Font", "absent.tga");
+    library.insert("Shape", new Mesh());
+    data.write("any.shader", "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER Shader/plain.frag");
+    library.loadShader("Paint", "any.shader");
+
+    Texture* smoke = library.getTexture("Smoke");
+    Texture* font = library.getTexture("Font");
+    ASSERT_TRUE(smoke && font);
+    EXPECT_EQ(library.getAll<Texture>(), (std::vector<Texture*>{font, smoke}));
+
+    library.loadTexture("Smoke", "absent.tga");
+    EXPECT_EQ(library.getTexture("Smoke"), smoke);
+    library.loadTexture("Font", "picture.tga");
+    EXPECT_EQ(library.getTexture("Font"), font);
+    Mesh second;
+    EXPECT_FALSE(library.insert("Shape", &second));
+    EXPECT_NE(library.getMesh("Shape"), &second);
+}
+
+} // namespace

@@ -1,0 +1,181 @@
+#include "Collada.h"
+#include "assets/Library.h"
+#include "assets/ModelImport.h"
+#include "assets/Uniform_AttachableTransformation.h"
+#include "scene/Camera.h"
+#include "scene/Mesh.h"
+#include "scene/SceneGraph.h"
+#include "support/DataCapturedLog.h"
+#include "support/DataScratch.h"
+#include "support/Near.h"
+
+#include <algorithm>
+
+namespace {
+
+const ColladaMesh kTriangle{"1 2 3 4 5 6 7 8 10", "", "0 1 2"};
+
+class ModelImportTest : public testing::Test {
+protected:
+    DataScratch data;
+    Library& library = *Library::getInstance();
+};
+
+TEST_F(ModelImportTest, PositionsAreMirroredInZAndWhatTheFileLacksGetsItsDefault)
+{
+    data.write("Models/plain.dae", colladaDocument({kTriangle}));
+    CapturedLog log;
+    library.loadModel("Plain", "Models/plain.dae");
+    EXPECT_EQ(log.text(), "DEBUG | Library load Model: Models/plain.dae > Plain\nDEBUG | Vertices: 3\nDEBUG | Faces: 1\n");
+
+    const Mesh* mesh = library.getMesh("Plain");
+    ASSERT_TRUE(mesh);
+    ASSERT_EQ(mesh->getVertexCount(), 3u);
+    EXPECT_EQ(mesh->positions[0], glm::vec3(1, 2, -3)) << "no trace of the node's own transformation";
+    EXPECT_EQ(mesh->positions[2], glm::vec3(7, 8, -10));
+    EXPECT_EQ(mesh->indices, (std::vector<unsigned short>{0, 1, 2})) << "the windings are not flipped";
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_NEAR(glm::length(mesh->normals[i]), 1.0f, 1e-5f) << "smooth normals are made";
+        EXPECT_EQ(mesh->tangents[i], glm::vec3(1, 0, 0));
+        EXPECT_EQ(mesh->bitangents[i], glm::vec3(0, 0, 1));
+        EXPECT_EQ(mesh->texcoords[i], glm::vec2(0, 0));
+    }
+}
+
+TEST_F(ModelImportTest, AMeshWithoutFacesOfItsOwnKeepsTheDefaultNormal)
+{
+    data.write("line.obj", "v 0 0 0\nv 1 0 0\nv 2 0 5\nl 1 2\nl 2 3\n");
+    const auto mesh = importMesh("line.obj");
+    ASSERT_TRUE(mesh);
+    for (const glm::vec3& normal : mesh->normals) EXPECT_EQ(normal, glm::vec3(0, 1, 0));
+    EXPECT_EQ(mesh->normals.size(), mesh->positions.size());
+}
+
+TEST_F(ModelImportTest, TextureCoordinatesComeWithTangentsAndSharedCornersAreJoined)
+{
+    // a square in the xy plane whose u runs along y; one corner is listed twice
+    data.write("square.dae",
+        colladaDocument({{"0 0 0 1 0 0 1 1 0 0 1 0 1 1 0", "0 0 0 1 1 1 1 0 1 1", "0 1 2 0 4 3"}}));
+    const auto mesh = importMesh("square.dae");
+    ASSERT_TRUE(mesh);
+    EXPECT_EQ(mesh->getVertexCount(), 4u);
+    EXPECT_EQ(mesh->indices.size(), 6u);
+    for (std::size_t i = 0; i < mesh->positions.size(); ++i) {
+        const glm::vec3& position = mesh->positions[i];
+        EXPECT_TRUE(isNear(mesh->texcoords[i], glm::vec2(position.y, position.x)));
+        EXPECT_TRUE(isNear(mesh->tangents[i], glm::vec3(0, 1, 0)));
+        EXPECT_NEAR(std::abs(mesh->bitangents[i].x), 1.0f, 1e-4f);
+    }
+}
+
+TEST_F(ModelImportTest, OnlyTheFirstMeshOfAFileCountsAndTheFirstFileOfAName)
+{
+    data.write("two.dae", colladaDocument({kTriangle, {"0 0 0 1 0 0 1 1 0 0 1 0", "", "0 1 2 0 2 3"}}));
+    data.write("other.dae", colladaDocument({{"5 5 5 6 6 6 7 7 8", "", "0 1 2"}}));
+    library.loadModel("Two", "two.dae");
+    Mesh* first = library.getMesh("Two");
+    ASSERT_TRUE(first);
+    EXPECT_EQ(first->getVertexCount(), 3u);
+
+    library.loadModel("Two", "other.dae");
+    EXPECT_EQ(library.getMesh("Two"), first);
+    EXPECT_EQ(first->positions[0], glm::vec3(1, 2, -3));
+}
+
+TEST_F(ModelImportTest, Md5MeshesAreStoodUpByTheCaseSensitiveEndOfTheirPath)
+{
+    const std::string model = "MD5Version 10\ncommandline \"\"\n\nnumJoints 1\nnumMeshes 1\n\njoints {\n\t\"origin\" -1 ( 0 0 0 ) ( 0 0 0 )\n}\n\n"
+                              "mesh {\n\tshader \"none\"\n\n\tnumverts 3\n\tvert 0 ( 0 0 ) 0 1\n\tvert 1 ( 1 0 ) 1 1\n\tvert 2 ( 0 1 ) 2 1\n\n"
+                              "\tnumtris 1\n\ttri 0 0 1 2\n\n\tnumweights 3\n\tweight 0 0 1 ( 1 2 3 )\n\tweight 1 0 1 ( 4 5 6 )\n"
+                              "\tweight 2 0 1 ( 7 8 10 )\n}\n";
+    data.write("knight.md5mesh", model);
+    data.write("knight.MD5MESH", model);
+    const auto stood = importMesh("knight.md5mesh"), lying = importMesh("knight.MD5MESH");
+    ASSERT_TRUE(stood);
+    ASSERT_TRUE(lying);
+    ASSERT_EQ(stood->getVertexCount(), lying->getVertexCount());
+    for (std::size_t i = 0; i < lying->positions.size(); ++i) {
+        const glm::vec3 file = lying->positions[i];
+        EXPECT_EQ(stood->positions[i], glm::vec3(file.x, -file.z, file.y));
+        EXPECT_EQ(stood->normals[i], lying->normals[i]) << "normals stay as they are";
+    }
+}
+
+/// A mesh of so many vertices, all in use and no two alike.
+std::string stripOf(int vertices)
+{
+    std::string file;
+    for (int i = 0; i < vertices; ++i) file += "v " + std::to_string(i / 2) + " " + std::to_string(i % 2) + " 0\n";
+    for (int i = 1; i + 2 <= vertices; ++i)
+        file += "f " + std::to_string(i) + " " + std::to_string(i + 1) + " " + std::to_string(i + 2) + "\n";
+    return file;
+}
+
+TEST_F(ModelImportTest, AMeshOfMoreVerticesThanIndicesReachIsRefused)
+{
+    data.write("largest.obj", stripOf(65536));
+    data.write("tooLarge.obj", stripOf(65537));
+    const auto largest = importMesh("largest.obj");
+    ASSERT_TRUE(largest);
+    ASSERT_EQ(largest->getVertexCount(), 65536u);
+    EXPECT_EQ(*std::max_element(largest->indices.begin(), largest->indices.end()), 65535);
+
+    CapturedLog log;
+    library.loadModel("TooLarge", "tooLarge.obj");
+    EXPECT_EQ(log.count("ERROR | "), 1);
+    EXPECT_TRUE(log.contains("ERROR | mesh has more than 65536 vertices: tooLarge.obj\n"));
+    EXPECT_EQ(library.getMesh("TooLarge", false), nullptr);
+}
+
+TEST_F(ModelImportTest, AFileWithoutAMeshGivesOneWarningThatNamesItAndRegistersNothing)
+{
+    const std::string whole = colladaDocument({kTriangle});
+    data.write("empty.dae", "");
+    data.write("garbage.dae", std::string("\x7f" "ELF\0\x01\xff<COLLADA <<<", 16) + std::string(5000, '\xc3'));
+    data.write("words.dae", "this is a shopping list");
+    data.write("noGeometry.dae", colladaDocument({}));
+    data.write("noIndex.dae", colladaDocument({{"1 2 3 4 5 6 7 8 10", "", "0 1 77"}}));
+    data.write("picture.tga", "no model at all");
+    data.write("cut.dae", whole.substr(0, whole.size() / 2));
+    std::filesystem::create_directory("folder.dae");
+    for (const char* path : {"absent.dae", "empty.dae", "garbage.dae", "words.dae", "noGeometry.dae", "noIndex.dae", "picture.tga", "cut.dae", "folder.dae"}) {
+        SCOPED_TRACE(path);
+        CapturedLog log;
+        library.loadModel("Spoiled", path);
+        EXPECT_EQ(log.count("WARNING | "), 1) << log.text();
+        EXPECT_EQ(log.count(path), 2) << "once announcing the load, once in the warning: " << log.text();
+        EXPECT_EQ(library.getMesh("Spoiled", false), nullptr);
+    }
+    CapturedLog log;
+    EXPECT_EQ(library.getMesh("Spoiled"), nullptr);
+    EXPECT_EQ(log.text(), "WARNING | Spoiled is not in Library\n");
+}
+
+TEST_F(ModelImportTest, AFileCutAnywhereEitherGivesAWholeMeshOrNone)
+{
+    const std::string whole = colladaDocument({{"0 0 0 1 0 0 1 1 0 0 1 0", "0 0 0 1 1 1 1 0", "0 1 2 0 2 3"}});
+    CapturedLog quiet;
+    for (std::size_t length = 0; length < whole.size(); length += 13) {
+        data.write("cut.dae", whole.substr(0, length));
+        const auto mesh = importMesh("cut.dae");
+        if (!mesh) continue;
+        for (const unsigned short index : mesh->indices) EXPECT_LT(index, mesh->getVertexCount()) << "cut at " << length;
+    }
+}
+
+TEST(Uniform_AttachableTransformationTest, ReadsTheNodeWhenItIsAsked)
+{
+    Camera attachable(45, 1, 0.1f, 10, glm::vec3(0));
+    Uniform_AttachableTransformation source(&attachable);
+    EXPECT_EQ(source.get(), glm::mat4(1.0f)) << "before it hangs anywhere";
+
+    SceneGraph graph;
+    Node& node = *graph.getRoot()->createChild("carrier");
+    node.attach(&attachable);
+    node.setTransform(glm::mat4(3.0f));
+    EXPECT_EQ(source.get(), glm::mat4(1.0f)) << "the world transform is as old as the last update";
+    graph.update();
+    EXPECT_EQ(source.get(), glm::mat4(3.0f));
+}
+
+} // namespace

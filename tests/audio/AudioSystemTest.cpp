@@ -1,0 +1,143 @@
+#include "audio/AudioSystem.h"
+
+#include "audio/Listening.h"
+#include "support/TemporaryFolder.h"
+
+namespace {
+
+class AudioSystemTest : public testing::Test {
+protected:
+    std::string toneFile(double hertz, double amplitude = 0.25)
+    {
+        const std::string path = (folder.path() / (std::to_string(hertz) + ".wav")).string();
+        writeWave(path, tone(hertz, kRate, amplitude));
+        return path;
+    }
+
+    Samples listenFor(double seconds) { return listen(audio.getOutput(), static_cast<int>(seconds * kRate)); }
+
+    template <class Action>
+    std::string printedBy(Action action)
+    {
+        testing::internal::CaptureStdout();
+        action();
+        return testing::internal::GetCapturedStdout();
+    }
+
+    TemporaryFolder folder;
+    AudioSystem audio{SoundTarget::Loopback};
+};
+
+TEST_F(AudioSystemTest, PlaysRegisteredSoundsByName)
+{
+    EXPECT_EQ(printedBy([this] {
+        audio.init({{"low", toneFile(500)}, {"high", toneFile(900)}});
+        audio.play("low", true, 1.0f);
+        audio.play("high", false, 0.4f);
+    }), "");
+    Samples heard = listenFor(1);
+    EXPECT_NEAR(amplitudeAt(heard, 500), 0.25, 0.001);
+    EXPECT_NEAR(amplitudeAt(heard, 900), 0.1, 0.001);
+    heard = listenFor(1);
+    EXPECT_NEAR(amplitudeAt(heard, 500), 0.25, 0.001) << "a looping sound ended";
+    EXPECT_NEAR(amplitudeAt(heard, 900), 0.0, 0.001) << "a sound that does not loop was repeated";
+}
+
+TEST_F(AudioSystemTest, WarnsOfNamesThatWereNeverRegistered)
+{
+    EXPECT_EQ(printedBy([this] { audio.play("moo", false, 1.0f); }), "WARNING | Sound does not exist: moo\n") << "before init";
+    audio.init({});
+    const std::unique_ptr<Sound> engine = audio.createSound("engine", toneFile(500));
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(printedBy([this] { audio.play("engine", false, 1.0f); }), "WARNING | Sound does not exist: engine\n");
+    }
+    EXPECT_EQ(listenFor(0.1).peak(), 0.0f);
+}
+
+TEST_F(AudioSystemTest, KeepsTheSecondOfTwoSoundsOfOneName)
+{
+    audio.init({{"duck", toneFile(500)}});
+    audio.addSound("duck", toneFile(900));
+    audio.play("duck", true, 1.0f);
+    const Samples heard = listenFor(1);
+    EXPECT_NEAR(amplitudeAt(heard, 500), 0.0, 0.001);
+    EXPECT_NEAR(amplitudeAt(heard, 900), 0.25, 0.001);
+}
+
+TEST_F(AudioSystemTest, GlidesThePitchByOneStepPerCall)
+{
+    audio.init({});
+    const std::unique_ptr<Sound> engine = audio.createSound("engine", toneFile(1000));
+    engine->play(true, 0.6f);
+
+    const auto expectHeard = [this](double hertz) {
+        listenFor(0.1);
+        EXPECT_NEAR(amplitudeAt(listenFor(1), hertz), 0.15, 0.001) << hertz;
+    };
+    const auto glide = [&engine](float target, int calls) {
+        for (int call = 0; call < calls; ++call) engine->setPitch(target);
+    };
+    expectHeard(1000); // before the first call, at the file's own speed
+    glide(0.0f, 1);
+    expectHeard(3000);
+    glide(0.05f, 4);
+    expectHeard(3040);
+    glide(0.05f, 1);
+    expectHeard(3050);
+    for (int frame = 0; frame < 3; ++frame) {
+        glide(0.05f, 1);
+        expectHeard(3050); // stays
+    }
+    glide(1.0f, 200);
+    expectHeard(4000);
+    glide(-1.0f, 300);
+    expectHeard(2000);
+}
+
+TEST_F(AudioSystemTest, ReportsABrokenSoundAndGoesOn)
+{
+    const std::string missing = (folder.path() / "nothing.wav").string();
+    const std::string reported = printedBy([&] { audio.init({{"bang", missing}, {"duck", toneFile(500)}}); });
+    EXPECT_NE(reported.find("ERROR | Error, initializing Sound: bang\n"), std::string::npos) << reported;
+    EXPECT_EQ(reported.find("duck"), std::string::npos) << reported;
+    EXPECT_EQ(printedBy([this] { audio.play("bang", false, 0.3f); }), "ERROR | Error, looping sound: bang\n");
+
+    std::unique_ptr<Sound> engine;
+    printedBy([&] { engine = audio.createSound("engine", missing); });
+    EXPECT_EQ(printedBy([&] { for (int frame = 0; frame < 10; ++frame) engine->setPitch(1.0f); }), "") << "a line every frame";
+
+    audio.play("duck", true, 1.0f);
+    EXPECT_NEAR(amplitudeAt(listenFor(1), 500), 0.25, 0.001);
+}
+
+TEST_F(AudioSystemTest, SaysWhyASoundIsNotPlayed)
+{
+    audio.init({{"duck", toneFile(500, 0.01)}});
+    for (int i = 0; i < 32; ++i) audio.play("duck", true, 1.0f);
+    EXPECT_EQ(printedBy([this] { audio.play("duck", false, 1.0f); }), "ERROR | Error, playing sound: duck\n");
+}
+
+TEST_F(AudioSystemTest, DoesNotClipInTheLoudestMomentOfAMatch)
+{
+    const std::string sounds = DATA_FOLDER "Audio/";
+    audio.init({{"musik", sounds + "quackdash.mp3"}, {"duck", sounds + "duck.wav"}, {"bang", sounds + "bang.wav"}});
+    audio.play("musik", true, 1.0f);
+    std::vector<std::unique_ptr<Sound>> engines;
+    for (int i = 0; i < 6; ++i) {
+        engines.push_back(audio.createSound("engine", sounds + "engine.wav"));
+        engines.back()->play(true, 0.6f);
+        engines.back()->setPitch(0.0f);
+    }
+    float peak = 0;
+    for (int frame = 0; frame < 12 * 60; ++frame) { // standing for six seconds, then full throttle
+        for (const auto& engine : engines) engine->setPitch(frame < 6 * 60 ? 0.0f : 1.0f);
+        if (frame % 60 == 0) {
+            for (int shot = 0; shot < 10; ++shot) audio.play("bang", false, 0.3f);
+        }
+        peak = std::max(peak, listen(audio.getOutput(), kRate / 60).peak());
+    }
+    EXPECT_LT(peak, 1.0f);
+    EXPECT_GT(peak, 0.5f) << "not everything was heard";
+}
+
+} // namespace

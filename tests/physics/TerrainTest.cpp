@@ -1,0 +1,136 @@
+#include "scene/SceneGraph.h"
+#include "support/DataCapturedLog.h"
+#include "support/Near.h"
+#include "support/WorldFixture.h"
+
+#include <PxPhysicsAPI.h>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+const glm::vec3 kCorner(-256, 0, -256); // of the field, in world space
+
+/// Height of the physical ground at (x, z); nothing where there is none.
+std::optional<float> groundHeight(const PhysxManager& world, float x, float z)
+{
+    physx::PxRaycastBuffer hit;
+    const bool found = world.getScene().raycast(physx::PxVec3(x, 200, z), physx::PxVec3(0, -1, 0), 400, hit);
+    if (!found) return std::nullopt;
+    return hit.block.position.y;
+}
+
+/// Hills without any symmetry: exchanged axes, a mirrored picture and the other diagonal all give another ground.
+int unevenHeight(int x, int y)
+{
+    return (x * 3 + y * 7 + (x / 8) * (y / 8) * 5) % 200;
+}
+
+glm::vec3 worldVertex(const std::vector<glm::vec3>& vertices, unsigned short index)
+{
+    return vertices[index] + kCorner;
+}
+
+struct FlatField {
+    int byte;
+    float height;
+};
+
+class FlatTerrain : public testing::TestWithParam<FlatField> {};
+
+} // namespace
+
+TEST_P(FlatTerrain, LiesAtTheHeightOfItsPicture)
+{
+    WorldFixture world;
+    const Terrain& terrain = world.flatGround(GetParam().byte);
+    for (const glm::vec3& vertex : terrain.getVertices()) ASSERT_NEAR(vertex.y, GetParam().height, 1e-4f);
+    EXPECT_NEAR(groundHeight(world.manager, 3.3f, -71.2f).value_or(-1), GetParam().height, 1e-3f);
+}
+
+INSTANTIATE_TEST_SUITE_P(BlackAndWhite, FlatTerrain, testing::Values(FlatField{0, 0.0f}, FlatField{255, 50.0f}, FlatField{204, 40.0f}));
+
+TEST(Terrain, TakesEveryEighthPixelAndStandsAroundTheOrigin)
+{
+    WorldFixture world;
+    Terrain& terrain = world.ground([](int x, int y) { return x == 8 && y == 8 ? 128 : 0; });
+    const std::vector<glm::vec3> vertices = terrain.getVertices();
+    EXPECT_TRUE(isNear(worldVertex(vertices, 65), glm::vec3(-248, 25.098f, -248), 1e-3f));
+    EXPECT_EQ(std::count_if(vertices.begin(), vertices.end(), [](const glm::vec3& v) { return v.y != 0; }), 1);
+
+    SceneGraph graph;
+    graph.getRoot()->addChild(terrain.getNode());
+    graph.update();
+    EXPECT_EQ(terrain.getNode()->getName(), "Map");
+    EXPECT_TRUE(isNear(terrain.getNode()->getWorldPosition(), kCorner));
+    EXPECT_EQ(terrain.getSize(), 512);
+}
+
+TEST(Terrain, CoversTheFieldAndNoMore)
+{
+    WorldFixture world;
+    world.flatGround();
+    struct Place {
+        float x, z;
+        bool ground;
+    };
+    for (const Place& place : {Place{-255.5f, -255.5f, true}, Place{247.5f, 247.5f, true}, Place{247.5f, -255.5f, true},
+             Place{-256.5f, 0, false}, Place{248.5f, 0, false}, Place{0, -256.5f, false}, Place{0, 248.5f, false}}) {
+        EXPECT_EQ(groundHeight(world.manager, place.x, place.z).has_value(), place.ground) << place.x << ", " << place.z;
+    }
+}
+
+TEST(Terrain, DrawnTrianglesLieOnThePhysicalGround)
+{
+    WorldFixture world;
+    const Terrain& terrain = world.ground(unevenHeight);
+    const std::vector<glm::vec3> vertices = terrain.getVertices();
+    const std::vector<unsigned short> indices = terrain.getIndices();
+    ASSERT_EQ(indices.size(), 23814u);
+    ASSERT_LT(*std::max_element(indices.begin(), indices.end()), vertices.size());
+
+    // Shares of a triangle's corners: near each of them and in the middle.
+    const glm::vec3 spots[] = {{0.98f, 0.01f, 0.01f}, {0.01f, 0.98f, 0.01f}, {0.01f, 0.01f, 0.98f}, {0.33f, 0.33f, 0.34f}, {0.48f, 0.04f, 0.48f}};
+    for (std::size_t first = 0; first < indices.size(); first += 3 * 7) {
+        const glm::vec3 a = worldVertex(vertices, indices[first]), b = worldVertex(vertices, indices[first + 1]),
+                        c = worldVertex(vertices, indices[first + 2]);
+        ASSERT_LT(glm::cross(b - a, c - a).y, 0) << "triangle " << first / 3 << " is not clockwise seen from above";
+        for (const glm::vec3& share : spots) {
+            const glm::vec3 drawn = share.x * a + share.y * b + share.z * c;
+            const std::optional<float> ground = groundHeight(world.manager, drawn.x, drawn.z);
+            ASSERT_TRUE(ground) << glm::to_string(drawn);
+            ASSERT_NEAR(*ground, drawn.y, 0.02f) << "triangle " << first / 3 << " at " << glm::to_string(drawn);
+        }
+    }
+}
+
+TEST(Terrain, AnUnusablePictureIsReportedOnceAndGivesAFlatField)
+{
+    struct Case {
+        const char* name;
+        std::function<void(const DataScratch&)> prepare;
+    };
+    const Case cases[] = {
+        {"missing", [](const DataScratch&) {}},
+        {"garbage", [](const DataScratch& folder) { folder.write("Textures/map.tga", "this is no picture"); }},
+        {"empty", [](const DataScratch& folder) { folder.write("Textures/map.tga", ""); }},
+        {"small", [](const DataScratch& folder) { folder.writeTga("Textures/map.tga", 512, 256, 1, [](int, int, int) { return 9; }); }},
+    };
+    for (const Case& unusable : cases) {
+        SCOPED_TRACE(unusable.name);
+        WorldFixture world;
+        const DataScratch folder;
+        unusable.prepare(folder);
+        CapturedLog log;
+        const Terrain& terrain = *world.manager.createTerrain();
+        EXPECT_EQ(log.count("\n"), 1) << log.text();
+        EXPECT_TRUE(log.contains("ERROR")) << log.text();
+        EXPECT_TRUE(log.contains("Textures/map.tga")) << log.text();
+
+        const std::vector<glm::vec3> vertices = terrain.getVertices();
+        EXPECT_TRUE(std::all_of(vertices.begin(), vertices.end(), [&](const glm::vec3& v) { return v.y == vertices[0].y; }));
+        EXPECT_NEAR(groundHeight(world.manager, 10, 10).value_or(-1), vertices[0].y, 1e-3f);
+        EXPECT_LT(vertices[0].y, 50) << "cars enter at height 50";
+    }
+}
