@@ -112,8 +112,10 @@ TEST_F(XBOXControllerTest, ARumbleStopsOnTheFirstUpdateAfterItsEnd)
         pass(passed);
         EXPECT_EQ(pad.rumbles.size(), passed > 300 ? 2u : 1u) << passed << " ms after the request";
         pass(1000);
+        EXPECT_EQ(pad.rumbles, std::vector<Motors>({{60000, 50000}, {0, 0}}));
+        pads.rumble(0, 100, 100);
         pass(1000);
-        EXPECT_EQ(pad.rumbles, std::vector<Motors>({{60000, 50000}, {0, 0}})) << "ends once, and for good";
+        EXPECT_EQ(pad.rumbles.back(), Motors(100, 100)) << "what has ended once leaves the motors alone";
         pad.unplug();
         pass();
     }
