@@ -84,7 +84,8 @@ TEST_P(SpoiledData, IsNamedInTheLogAndTheGameGoesOn)
             if (!mustBeReported(file, GetParam())) continue;
             EXPECT_TRUE(log.find("ERROR | ") != std::string::npos && log.find(file) != std::string::npos) << file << " is not named:\n" << log;
         }
-        EXPECT_EQ(game.countInLog("OpenGL Error:"), 0) << log;
+        // The driver's compiler may say what it thinks of a spoiled shader; nothing may be drawn wrongly because of it.
+        EXPECT_EQ(game.countInLog("OpenGL Error:"), game.countInLog("[Source = Shader Compiler,")) << log;
         EXPECT_LT(game.countInLog("\n") - linesAtStart, 30) << "a line per frame:\n" << log;
     }
 }
