@@ -13,7 +13,7 @@ HellknightModel::HellknightModel()
     const Mesh* mesh = Library::getInstance()->getMesh("Hellknight");
     if (!mesh) return;
     geometry = std::make_unique<MeshGeometry>(
-        *mesh, std::initializer_list{MeshAttribute::Position, MeshAttribute::Normal, MeshAttribute::Texcoord});
+        *mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal, MeshAttribute::Texcoord});
     setGeometry(*geometry);
 }
 

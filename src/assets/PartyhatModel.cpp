@@ -24,7 +24,7 @@ PartyhatModel::PartyhatModel(const glm::vec4& hatColor, QKD_Game* game)
     uniforms["model"] = &transformation;
     if (!mesh) return;
     rebuildNormals(*mesh);
-    geometry = std::make_unique<MeshGeometry>(*mesh, std::initializer_list{MeshAttribute::Position, MeshAttribute::Normal});
+    geometry = std::make_unique<MeshGeometry>(*mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal});
     setGeometry(*geometry);
 }
 

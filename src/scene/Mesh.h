@@ -8,7 +8,7 @@
 
 /// Geometry on the CPU: per-vertex arrays of equal length and a list of 16-bit triangle indices. Imported meshes are shared through
 /// the asset library; generated ones belong to their maker.
-class Mesh : public ILibraryObject {
+class Mesh final : public ILibraryObject {
 public:
     std::vector<glm::vec3> positions;
     std::vector<glm::vec3> normals;

@@ -79,11 +79,12 @@ TEST_F(LibraryLoadersTest, EveryKeywordSelectsItsStageAndRepeatsAreAttachedToo)
     const std::string version = "#version 430 core\n";
     data.write("a.vert", version + "vec4 place(); void main() { gl_Position = place(); }");
     data.write("b.vert", version + "in vec3 position; vec4 place() { return vec4(position, 1.0); } // no line feed at the end");
-    data.write("c.tcs", version + "layout(vertices = 3) out; void main() { gl_out[gl_InvocationID].gl_Position = gl_in[gl_InvocationID].gl_Position;"
-                                  "gl_TessLevelInner[0] = 1.0; gl_TessLevelOuter[0] = gl_TessLevelOuter[1] = gl_TessLevelOuter[2] = 1.0; }");
+    data.write("c.tcs", version + "layout(vertices = 3) out; void main() {\n"
+                                  "gl_out[gl_InvocationID].gl_Position = gl_in[gl_InvocationID].gl_Position;\n"
+                                  "gl_TessLevelInner[0] = gl_TessLevelOuter[0] = gl_TessLevelOuter[1] = gl_TessLevelOuter[2] = 1.0; }");
     data.write("d.tes", version + "layout(triangles) in; void main() { gl_Position = gl_TessCoord.x * gl_in[0].gl_Position; }");
-    data.write("e.geom", version + "layout(triangles) in; layout(points, max_vertices = 1) out; void main() { gl_Position = gl_in[0].gl_Position;"
-                                   "EmitVertex(); }");
+    data.write("e.geom", version + "layout(triangles) in; layout(points, max_vertices = 1) out;\n"
+                                   "void main() { gl_Position = gl_in[0].gl_Position; EmitVertex(); }");
     data.write("all.shader", "VERTEX_SHADER a.vert VERTEX_SHADER b.vert TESS_CONTROL_SHADER c.tcs TESS_EVALUATION_SHADER d.tes\n"
                              "GEOMETRY_SHADER e.geom FRAGMENT_SHADER Shader/plain.frag");
     const std::string name = freshName();

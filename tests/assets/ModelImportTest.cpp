@@ -84,7 +84,8 @@ TEST_F(ModelImportTest, OnlyTheFirstMeshOfAFileCountsAndTheFirstFileOfAName)
 
 TEST_F(ModelImportTest, Md5MeshesAreStoodUpByTheCaseSensitiveEndOfTheirPath)
 {
-    const std::string model = "MD5Version 10\ncommandline \"\"\n\nnumJoints 1\nnumMeshes 1\n\njoints {\n\t\"origin\" -1 ( 0 0 0 ) ( 0 0 0 )\n}\n\n"
+    const std::string model = "MD5Version 10\ncommandline \"\"\n\nnumJoints 1\nnumMeshes 1\n\n"
+                              "joints {\n\t\"origin\" -1 ( 0 0 0 ) ( 0 0 0 )\n}\n\n"
                               "mesh {\n\tshader \"none\"\n\n\tnumverts 3\n\tvert 0 ( 0 0 ) 0 1\n\tvert 1 ( 1 0 ) 1 1\n\tvert 2 ( 0 1 ) 2 1\n\n"
                               "\tnumtris 1\n\ttri 0 0 1 2\n\n\tnumweights 3\n\tweight 0 0 1 ( 1 2 3 )\n\tweight 1 0 1 ( 4 5 6 )\n"
                               "\tweight 2 0 1 ( 7 8 10 )\n}\n";

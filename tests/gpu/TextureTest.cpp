@@ -121,7 +121,8 @@ TEST_F(TextureTest, ABadFileGivesOneLineAndATextureThatSamplesAsBlackWithoutAnyM
         {"folder.tga", "ERROR | couldn't open file: folder.tga\n"},
     };
     const auto program = makeProgram({kPlainVertex,
-        {GL_FRAGMENT_SHADER, "uniform sampler2D tex; out vec4 colour; void main() { colour = vec4(texture(tex, vec2(0.5)).rgb, 1.0) + vec4(0.0, 0.5, 0.0, 0.0); }"}});
+        {GL_FRAGMENT_SHADER, "uniform sampler2D tex; out vec4 colour;"
+                             "void main() { colour = vec4(texture(tex, vec2(0.5)).rgb, 1.0) + vec4(0.0, 0.5, 0.0, 0.0); }"}});
     VertexAttributeList layout;
     layout.addAttribute({ATTRIBUTE_VEC3, "position"});
     VertexBuffer triangle(&layout, 3);
