@@ -2,6 +2,7 @@
 
 #include "app/base/Assert.h"
 #include "app/base/Logger.h"
+#include "assets/ColladaCheck.h"
 #include "scene/Mesh.h"
 
 #include <assimp/Importer.hpp>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int kMaxBoneWeights = 4;       // a vertex
 constexpr unsigned kMaxVertices = 65536; // what 16-bit indices reach
+constexpr std::size_t kLongestReason = 200; // characters
 constexpr unsigned kSteps = aiProcess_CalcTangentSpace | aiProcess_JoinIdenticalVertices | aiProcess_MakeLeftHanded | aiProcess_Triangulate
     | aiProcess_GenSmoothNormals | aiProcess_LimitBoneWeights | aiProcess_SortByPType;
 
@@ -21,11 +23,11 @@ glm::vec3 toVec3(const aiVector3D& v)
     return {v.x, v.y, v.z};
 }
 
-/// The importer's reason, in one line that names the file.
+/// The importer's reason, in one line that names the file. It may quote a whole array of the file, of which the start will do.
 void reportFailure(const std::string& path, const std::string& reason)
 {
     const bool namesFile = reason.find(path) != std::string::npos;
-    logLine(1) << (namesFile ? "" : path + ": ") << reason << std::endl;
+    logLine(1) << (namesFile ? "" : path + ": ") << reason.substr(0, kLongestReason) << std::endl;
 }
 
 void copyVertices(const aiMesh& source, Mesh& mesh)
@@ -68,6 +70,10 @@ void copyIndices(const aiMesh& source, Mesh& mesh)
 
 std::unique_ptr<Mesh> importMesh(const std::string& path)
 {
+    if (const std::string fault = colladaFault(path); !fault.empty()) {
+        reportFailure(path, fault);
+        return nullptr;
+    }
     Assimp::Importer importer;
     importer.SetPropertyInteger(AI_CONFIG_PP_LBW_MAX_WEIGHTS, kMaxBoneWeights);
     importer.SetPropertyBool(AI_CONFIG_IMPORT_NO_SKELETON_MESHES, true); // no stand-in for a file that holds nodes only
