@@ -83,13 +83,21 @@ void Texture::load(const std::string& path)
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_REPEAT);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
-    if (image) glGenerateMipmap(GL_TEXTURE_2D);
     unbind();
 }
 
+/// The whole chain of mipmaps, each half as large as the one before, as glGenerateMipmap would make it. That call has a software driver
+/// compile a program for each format first, which takes longer than loading everything else.
 void Texture::uploadImage(const Image& image)
 {
     const GLenum format = image.channels == 4 ? GL_RGBA : GL_RGB;
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(format), image.width, image.height, 0, format, GL_UNSIGNED_BYTE, image.pixels.data());
+    Image half;
+    const Image* next = &image;
+    for (GLint level = 0;; ++level) {
+        glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(format), next->width, next->height, 0, format, GL_UNSIGNED_BYTE, next->pixels.data());
+        if (next->width == 1 && next->height == 1) return;
+        half = halved(*next);
+        next = &half;
+    }
 }

@@ -3,6 +3,7 @@
 #include <stb/stb_image.h>
 #include <stb/stb_image_resize.h>
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <filesystem>
@@ -97,4 +98,23 @@ Image resampledToPowersOfTwo(Image image)
     stbir_resize_uint8_generic(image.pixels.data(), image.width, image.height, 0, result.pixels.data(), width, height, 0, image.channels,
         STBIR_ALPHA_CHANNEL_NONE, 0, STBIR_EDGE_CLAMP, STBIR_FILTER_TRIANGLE, STBIR_COLORSPACE_LINEAR, nullptr);
     return result;
+}
+
+Image halved(const Image& image)
+{
+    Image half{std::max(image.width / 2, 1), std::max(image.height / 2, 1), image.channels, {}};
+    const int stepX = image.width / half.width, stepY = image.height / half.height; // 2, or 1 along a side that is used up
+    half.pixels.reserve(static_cast<std::size_t>(half.width) * static_cast<std::size_t>(half.height) * static_cast<std::size_t>(half.channels));
+    for (int y = 0; y < half.height; ++y) {
+        for (int x = 0; x < half.width; ++x) {
+            const unsigned char* low = image.at(x * stepX, y * stepY);
+            const unsigned char* high = image.at(x * stepX, y * stepY + stepY - 1);
+            const int right = (stepX - 1) * image.channels;
+            for (int i = 0; i < image.channels; ++i) {
+                const int sum = low[i] + low[i + right] + high[i] + high[i + right];
+                half.pixels.push_back(static_cast<unsigned char>((sum + 2) / 4));
+            }
+        }
+    }
+    return half;
 }

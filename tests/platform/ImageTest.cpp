@@ -145,4 +145,19 @@ TEST(ImageTest, PowersOfTwoStayAsTheyAre)
     EXPECT_EQ(same.pixels, image.pixels);
 }
 
+TEST(ImageTest, HalvesBySidesThatAreLeftAndRoundsTheMean)
+{
+    const Image image{4, 2, 1, {1, 3, 10, 20, 5, 8, 30, 41}};
+    const Image half = halved(image);
+    EXPECT_EQ(half.width, 2);
+    EXPECT_EQ(half.height, 1);
+    EXPECT_EQ(half.pixels, (std::vector<unsigned char>{4, 25}));
+    const Image last = halved(half); // one row is left: only the width shrinks
+    EXPECT_EQ(last.width, 1);
+    EXPECT_EQ(last.height, 1);
+    EXPECT_EQ(last.pixels, (std::vector<unsigned char>{15}));
+    const Image colours{2, 1, 3, {10, 20, 30, 20, 40, 60}};
+    EXPECT_EQ(halved(colours).pixels, (std::vector<unsigned char>{15, 30, 45}));
+}
+
 } // namespace
