@@ -17,15 +17,14 @@ bool BenchGame::start()
     return true;
 }
 
-void BenchGame::showPlayers(int count)
+void BenchGame::startMatch(int humans, int participants)
 {
-    while (getHumanPlayerCount() < count) {
-        devices.push_back(std::make_unique<WanderingDevice>(static_cast<unsigned>(devices.size())));
+    for (int i = 0; i < humans; ++i) {
+        devices.push_back(std::make_unique<WanderingDevice>(static_cast<unsigned>(i)));
         addPlayer(devices.back().get());
     }
-    GameStateManager* states = getCore()->getStateManager();
-    states->changeState("DebugGamestate"); // entering the match lays out the screen for those who have joined by then
-    states->changeState("PlayGamestate");
+    while (getActorCount() < participants) addComputerPlayer();
+    getCore()->getStateManager()->changeState("PlayGamestate");
 }
 
 void BenchGame::pass()

@@ -16,8 +16,8 @@ public:
     /// Opens the window, loads everything and builds the world. False when there is no display.
     [[nodiscard]] bool start();
 
-    /// Has players join until there are that many, and starts (or starts anew) the match with the screen split for them.
-    void showPlayers(int count);
+    /// Has that many people join, each with a viewport, and computer players up to `participants` in all; starts the match.
+    void startMatch(int humans, int participants);
 
     void pass(); ///< one pass of the main loop, without its sleep
     void updateOnly();

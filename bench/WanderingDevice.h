@@ -4,12 +4,12 @@
 
 #include <cmath>
 
-/// A driver for benchmarks: full throttle, swerving slowly, each in its own rhythm.
+/// A driver for benchmarks: full throttle, swerving slowly, each in its own rhythm, and always shooting.
 class WanderingDevice : public InputDevice {
 public:
     explicit WanderingDevice(unsigned slot) : phase(static_cast<float>(slot)) {}
 
-    bool isPressed(int) override { return false; }
+    bool isPressed(int button) override { return button == kShoot; }
     float getAxis(int axis) override
     {
         if (axis == kThrottleAxis) return 1.0f;

@@ -1,6 +1,7 @@
-// What a frame costs: the real renderer over the real world, with cars driving on the terrain. Run by hand, on the (virtual) display
-// that is to be measured:
-//     xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench_frame [frames]
+// What a frame costs: the real renderer over the real world, in a match with smoke, hats and balls in flight. Run by hand, on the (virtual)
+// display that is to be measured:
+//     xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench_frame [FRAMES [CARS]]
+// FRAMES: of each measurement, 100 unless given. CARS: participants, 16 unless given; at least one for each viewport takes part.
 //
 // For each number of viewports it prints a table of the steps of a frame (medians of wall and processor time; each step ended by a GL
 // finish) and then one line for scripts, of frames measured as a whole without those finishes: `views 2 frame_ms 43.1 p95_ms 50.2`.
@@ -9,9 +10,12 @@
 #include "BenchGame.h"
 #include "app/base/FrameTimer.h"
 #include "render/FrameProbe.h"
+#include "players/Ball.h"
 #include "render/Renderer.h"
 
 #include <GL/glew.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -35,8 +39,9 @@ struct Moment {
     }
 };
 
-constexpr int kWarmUpFrames = 90; // long enough for the cars to have landed
+constexpr int kWarmUpFrames = 150; // long enough for the cars to have landed and the first shots to have hit
 constexpr int kDefaultFrames = 100;
+constexpr int kDefaultCars = 16;
 
 double percentile(std::vector<double> samples, double part)
 {
@@ -74,9 +79,12 @@ private:
     std::map<std::string, std::vector<double>> wall, processor;
 };
 
-void measure(BenchGame& game, int views, int frames)
+/// Runs in a process of its own: participants cannot leave a match. Returns the exit status.
+int measure(int views, int frames, int cars)
 {
-    game.showPlayers(views);
+    BenchGame game;
+    if (!game.start()) return 1;
+    game.startMatch(views, std::max(cars, views));
     for (int i = 0; i < kWarmUpFrames; ++i) game.pass();
 
     std::vector<double> whole, processor;
@@ -99,11 +107,14 @@ void measure(BenchGame& game, int views, int frames)
     }
     game.getRenderer().setFrameProbe(nullptr);
 
-    std::printf("%d viewport%s, %d frames\n", views, views == 1 ? "" : "s", frames);
+    std::printf("%d viewport%s, %d cars, %zu balls in flight, %d frames\n", views, views == 1 ? "" : "s", game.getActorCount(),
+        game.getBalls().size(), frames);
     steps.print();
     std::printf("  %-14s %7.2f ms, processor %7.2f ms\n", "whole frame", percentile(whole, 0.5), percentile(processor, 0.5));
     std::printf("views %d frame_ms %.1f p95_ms %.1f\n", views, percentile(whole, 0.5), percentile(whole, 0.95));
     std::fflush(stdout);
+    game.getRenderer().terminate();
+    return 0;
 }
 
 } // namespace
@@ -111,9 +122,13 @@ void measure(BenchGame& game, int views, int frames)
 int main(int argc, char** argv)
 {
     const int frames = argc > 1 ? std::max(1, std::atoi(argv[1])) : kDefaultFrames;
-    BenchGame game;
-    if (!game.start()) return 1;
-    for (int views : {1, 2, 4, 6}) measure(game, views, frames);
-    game.getRenderer().terminate();
+    const int cars = argc > 2 ? std::clamp(std::atoi(argv[2]), 0, 16) : kDefaultCars;
+    for (const int views : {1, 2, 4, 6}) {
+        const pid_t child = fork();
+        if (child == 0) std::_Exit(measure(views, frames, cars));
+        int status = 0;
+        waitpid(child, &status, 0);
+        if (status != 0) return 1;
+    }
     return 0;
 }
