@@ -43,7 +43,10 @@ struct QKD_Game::Sky {
 
 QKD_Game::QKD_Game() : renderer(*getCore()->getRenderer()), stage(this, renderer) {}
 
-QKD_Game::~QKD_Game() = default;
+QKD_Game::~QKD_Game()
+{
+    removeShots();
+}
 
 Viewport::Rect QKD_Game::getWindowRect() const
 {

@@ -4,6 +4,7 @@
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
 #include "physics/Terrain.h"
+#include "physics/VehicleHandle.h"
 #include "platform/DataFolder.h"
 #include "players/IStage.h"
 #include "players/Player.h"
@@ -67,7 +68,6 @@ public:
         FrameTimer::getInstance()->tick();
         graph.update();
     }
-    ~HeadlessMatch() { delete PhysxManager::instance(); }
     HeadlessMatch(const HeadlessMatch&) = delete;
     HeadlessMatch& operator=(const HeadlessMatch&) = delete;
 
@@ -76,6 +76,20 @@ public:
         rules.addPlayer(&device);
         graph.update();
         return *rules.getPlayers().back();
+    }
+
+    Player& addComputerPlayer()
+    {
+        rules.addComputerPlayer();
+        graph.update();
+        return *static_cast<Player*>(rules.getActors().back());
+    }
+
+    /// Puts a car there, upright and facing +z.
+    void place(Player& player, const glm::vec3& position)
+    {
+        player.getVehicle()->placeAt(position);
+        graph.update();
     }
 
     /// One pass of the match as the main loop makes it, of 1/120 s.
@@ -97,7 +111,17 @@ public:
     SteppedClock clock;
     SilentStage stage;
     SceneGraph graph;
+
+private:
+    /// Takes the physics world down after the rules, whose shots in flight give their bodies back to it.
+    struct WorldEnd {
+        ~WorldEnd() { delete PhysxManager::instance(); }
+    } worldEnd;
+
+public:
     MatchRules rules;
+
+    const Terrain& getTerrain() const { return *terrain; }
 
 private:
     void createTerrain(Ground ground)
@@ -110,8 +134,10 @@ private:
         } else {
             enterDataFolder();
         }
-        const Terrain* terrain = PhysxManager::instance()->createTerrain();
+        terrain = PhysxManager::instance()->createTerrain();
         graph.getRoot()->addChild(terrain->getNode());
         rules.setTerrain(terrain);
     }
+
+    const Terrain* terrain = nullptr; // the physics world's
 };

@@ -137,6 +137,12 @@ void MatchRules::updateRanking(Player& shooter)
     }
 }
 
+void MatchRules::removeShots()
+{
+    balls.clear();
+    ballHits.clear();
+}
+
 bool MatchRules::hasLeftPlay(const Ball& ball) const
 {
     const auto limit = static_cast<float>(terrain->getSize() / 2 + kFlightMargin);

@@ -74,6 +74,10 @@ public:
     void onTrigger(physx::PxTriggerPair*, physx::PxU32) override {}
     void onAdvance(const physx::PxRigidBody* const*, const physx::PxTransform*, physx::PxU32) override {}
 
+protected:
+    /// Removes the shots in flight. For a game whose stage goes before the rules do: shots have their pictures from it.
+    void removeShots();
+
 private:
     void updateParticipants();
     void resolveHits();

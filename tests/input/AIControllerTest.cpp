@@ -1,0 +1,262 @@
+#include "input/AIController.h"
+#include "support/SteppedClock.h"
+
+#include <glm/gtc/matrix_transform.hpp>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+constexpr int kButtons = 7;
+constexpr int kAxes = 4;
+
+/// A car that stands where a test puts it, facing +z unless turned; the driver's right is -x.
+struct FakePilot : IPilot {
+    glm::vec3 getPosition() const override { return position; }
+    glm::mat4 getChassisTransform() const override { return glm::translate(glm::mat4(1.0f), position) * attitude; }
+    glm::mat4 getLaunchTransform() const override { return getChassisTransform() * glm::translate(glm::mat4(1.0f), glm::vec3(0, 2, 3)); }
+    float getForwardSpeed() const override { return speed; }
+    int getDeaths() const override { return deaths; }
+
+    glm::vec3 position{0.0f};
+    glm::mat4 attitude{1.0f};
+    float speed = 0;
+    int deaths = 0;
+};
+
+/// One opponent, which is found unless it is excluded.
+struct FakeHunt : IHunt {
+    const IPilot* findTarget(const IPilot&, const IPilot* excluded) const override
+    {
+        ++searches;
+        lastExcluded = excluded;
+        return prey == excluded ? nullptr : prey;
+    }
+
+    const IPilot* prey = nullptr;
+    mutable int searches = 0;
+    mutable const IPilot* lastExcluded = nullptr;
+};
+
+class AIControllerTest : public testing::Test {
+protected:
+    AIControllerTest()
+    {
+        FrameTimer::getInstance()->tick();
+        controller = std::make_unique<AIController>(0);
+        controller->take(own, hunt);
+        hunt.prey = &prey;
+    }
+
+    /// The opponent stands that many degrees to the driver's right of straight ahead.
+    void preyAt(float degreesRight, float distance)
+    {
+        const float radians = glm::radians(degreesRight);
+        prey.position = own.position + glm::vec3(-std::sin(radians), 0, std::cos(radians)) * distance;
+    }
+
+    /// A fresh look at the opponent, whatever was held before.
+    void lookAfresh()
+    {
+        controller = std::make_unique<AIController>(0);
+        controller->take(own, hunt);
+        controller->update();
+    }
+
+    void nextFrame()
+    {
+        FrameTimer::getInstance()->tick();
+        controller->update();
+    }
+
+    float steering() { return controller->getAxis(InputDevice::kSteeringAxis); }
+    float throttle() { return controller->getAxis(InputDevice::kThrottleAxis); }
+    bool shoots() { return controller->isPressed(InputDevice::kShoot); }
+    bool handBrakes() { return controller->isPressed(InputDevice::kHandBrake); }
+
+    void expectIdle(const char* when)
+    {
+        for (int axis = 0; axis < kAxes; ++axis) EXPECT_EQ(controller->getAxis(axis), 0) << when << ", axis " << axis;
+        for (int button = 0; button < kButtons; ++button) EXPECT_FALSE(controller->isPressed(button)) << when << ", button " << button;
+    }
+
+    SteppedClock clock;
+    FakePilot own, prey;
+    FakeHunt hunt;
+    std::unique_ptr<AIController> controller;
+};
+
+struct BearingRow {
+    float degreesRight, steering, throttle;
+    bool shoots;
+};
+
+TEST_F(AIControllerTest, SteersTowardsTheTargetAndShootsAtWhatIsAhead)
+{
+    const BearingRow rows[] = {
+        {1, 0.30389f, 1 - 1.0f / 360, true},
+        {-19, -0.37389f, 1 - 19.0f / 360, true},
+        {21, 0.38167f, 1 - 21.0f / 360, false},
+        {45, 0.475f, 1 - 45.0f / 360, false},
+        {-59, -0.52944f, 1 - 59.0f / 360, false},
+        {-61, -0.53722f, 1, false},
+        {90, 0.65f, 1, false},
+        {-170, -0.96111f, 1, false},
+    };
+    own.position = {30, 12, -80};
+    for (const BearingRow& row : rows) {
+        preyAt(row.degreesRight, 40);
+        prey.position.y = own.position.y + 25; // how high it stands does not matter
+        lookAfresh();
+        EXPECT_NEAR(steering(), row.steering, 1e-4f) << row.degreesRight << " degrees";
+        EXPECT_NEAR(throttle(), row.throttle, 1e-4f) << row.degreesRight << " degrees";
+        EXPECT_EQ(shoots(), row.shoots) << row.degreesRight << " degrees";
+    }
+}
+
+TEST_F(AIControllerTest, MeasuresInTheFrameOfTheTurnedCar)
+{
+    own.attitude = glm::rotate(glm::mat4(1.0f), glm::radians(90.0f), glm::vec3(0, 1, 0)); // faces +x, right is +z
+    prey.position = {0, 0, 50};
+    lookAfresh();
+    EXPECT_NEAR(steering(), 0.65f, 1e-4f);
+    prey.position = {50, 0, -1};
+    lookAfresh();
+    EXPECT_LT(steering(), 0);
+    EXPECT_TRUE(shoots());
+}
+
+TEST_F(AIControllerTest, PointBlankItShootsInAnyDirection)
+{
+    preyAt(150, 1.9f);
+    lookAfresh();
+    EXPECT_TRUE(shoots());
+    preyAt(150, 2.1f);
+    lookAfresh();
+    EXPECT_FALSE(shoots());
+    preyAt(150, 1.9f);
+    prey.position.y += 1.9f; // the distance, unlike the angle, counts height
+    lookAfresh();
+    EXPECT_FALSE(shoots());
+}
+
+TEST_F(AIControllerTest, HandBrakesInSharpTurnsAtSpeed)
+{
+    struct { float degreesRight, speed; bool brakes; } const rows[] = {{91, 8.1f, true}, {-91, 8.1f, true}, {91, 7.9f, false}, {89, 20, false}, {91, -20, false}};
+    for (const auto& row : rows) {
+        own.speed = row.speed;
+        preyAt(row.degreesRight, 40);
+        lookAfresh();
+        EXPECT_EQ(handBrakes(), row.brakes) << row.degreesRight << " degrees at " << row.speed;
+    }
+}
+
+TEST_F(AIControllerTest, ATargetStraightBehindGivesFullThrottleAndNoSteering)
+{
+    own.speed = 9;
+    prey.position = {0, 0, -40};
+    lookAfresh();
+    EXPECT_EQ(steering(), 0);
+    EXPECT_EQ(throttle(), 1);
+    EXPECT_TRUE(handBrakes());
+}
+
+TEST_F(AIControllerTest, ATargetStraightAboveOrBelowIsNoTrouble)
+{
+    for (const float height : {30.0f, -30.0f, 0.0f}) {
+        prey.position = {0, height, 0};
+        lookAfresh();
+        EXPECT_EQ(steering(), 0) << "from height " << height;
+        EXPECT_TRUE(std::isfinite(throttle())) << "from height " << height;
+    }
+    // The same for a car that stands on its nose.
+    own.attitude = glm::rotate(glm::mat4(1.0f), glm::radians(90.0f), glm::vec3(1, 0, 0));
+    preyAt(30, 40);
+    lookAfresh();
+    EXPECT_TRUE(std::isfinite(steering()));
+    EXPECT_TRUE(std::isfinite(throttle()));
+}
+
+TEST_F(AIControllerTest, OnlyThrottleSteeringShotAndHandBrakeAreEverUsed)
+{
+    own.speed = 20;
+    for (const float degrees : {0.0f, 60.0f, 120.0f}) {
+        preyAt(degrees, 1);
+        lookAfresh();
+        for (const int axis : {InputDevice::kBrakeAxis + 0, InputDevice::kStickVerticalAxis + 0, -1, 4}) EXPECT_EQ(controller->getAxis(axis), 0) << axis;
+        for (const int button : {-1, 0, 1, 2, 3, 6, 7}) EXPECT_FALSE(controller->isPressed(button)) << button;
+    }
+}
+
+TEST_F(AIControllerTest, WithoutATargetNothingIsPressed)
+{
+    expectIdle("before the first look");
+    hunt.prey = nullptr;
+    lookAfresh();
+    expectIdle("nobody there");
+}
+
+TEST_F(AIControllerTest, OnlyATargetAheadRenewsItsPatience)
+{
+    preyAt(19, 40);
+    nextFrame(); // found, and seen
+    controller->update();
+    EXPECT_NE(steering(), 0);
+    EXPECT_EQ(hunt.searches, 1);
+
+    preyAt(21, 40);
+    nextFrame();
+    nextFrame(); // found again, but last seen two frames ago
+    ASSERT_NE(steering(), 0);
+    controller->update();
+    EXPECT_EQ(hunt.lastExcluded, &prey) << "another one is wanted";
+    expectIdle("nobody else is there");
+}
+
+TEST_F(AIControllerTest, PatienceLastsForTwoMilliseconds)
+{
+    preyAt(120, 40);
+    lookAfresh();
+    const int searches = hunt.searches;
+    controller->update(); // no time has passed since
+    EXPECT_EQ(hunt.searches, searches);
+    EXPECT_NE(steering(), 0);
+
+    FakePilot other;
+    other.position = {0, 0, 30};
+    hunt.prey = &other;
+    nextFrame();
+    EXPECT_EQ(hunt.lastExcluded, &prey);
+    EXPECT_TRUE(shoots()) << "the other one is straight ahead";
+}
+
+TEST_F(AIControllerTest, ATargetThatDiedIsDroppedAndExcludedForThatUpdateOnly)
+{
+    preyAt(0, 40);
+    lookAfresh();
+    ASSERT_TRUE(shoots());
+
+    ++prey.deaths;
+    controller->update();
+    EXPECT_EQ(hunt.lastExcluded, &prey);
+    expectIdle("after the target's death");
+
+    controller->update();
+    EXPECT_EQ(hunt.lastExcluded, nullptr);
+    EXPECT_TRUE(shoots()) << "found again, with its new death count";
+    const int searches = hunt.searches;
+    controller->update();
+    EXPECT_EQ(hunt.searches, searches);
+}
+
+TEST_F(AIControllerTest, IsAlwaysThereAndNamedByTheIndexBefore)
+{
+    EXPECT_TRUE(controller->isConnected());
+    EXPECT_EQ(controller->getName(), "AI-Controller -1");
+    EXPECT_EQ(AIController(3).getName(), "AI-Controller 2");
+    EXPECT_FALSE(controller->isStartPressed() || controller->isBackPressed());
+}
+
+} // namespace
