@@ -44,7 +44,8 @@ protected:
         std::array<int, 3> result{-1, -1, -1};
         for (int place = kGold; place <= kBronze; ++place) {
             for (int i = 0; i < 4; ++i) {
-                if (match.rules.getHats().getNode(place)->getParent() == player(i).getChassisNode()) result.at(static_cast<std::size_t>(place)) = i;
+                const Node* wearer = match.rules.getHats().getNode(place)->getParent();
+                if (wearer == player(i).getChassisNode()) result.at(static_cast<std::size_t>(place)) = i;
             }
         }
         return result;

@@ -200,7 +200,11 @@ TEST_F(Shots, KillingALeaderIsWorthMore)
 
 TEST_F(Shots, EveryBeginningTouchOfABallAndACarIsOneHit)
 {
-    struct { PxPairFlag::Enum event; bool ballFirst; int times; int damage; } const rows[] = {
+    struct {
+        PxPairFlag::Enum event;
+        bool ballFirst;
+        int times, damage;
+    } const rows[] = {
         {PxPairFlag::eNOTIFY_TOUCH_FOUND, false, 1, 20},
         {PxPairFlag::eNOTIFY_TOUCH_FOUND, true, 1, 20},
         {PxPairFlag::eNOTIFY_TOUCH_FOUND, true, 3, 20},

@@ -52,6 +52,11 @@ public:
     glm::vec3 emitterPosition{0.0f}; ///< of whoever smoked last
 };
 
+/// Takes the physics world down as it goes: after the rules, whose shots in flight give their bodies back to the world.
+struct WorldEnd {
+    ~WorldEnd() { delete PhysxManager::instance(); }
+};
+
 /// A whole match without a window: the real rules, physics, ground and scene, a keyboard to hold keys on and a clock that runs only when
 /// passes are made. The physics world goes with it.
 class HeadlessMatch {
@@ -112,13 +117,7 @@ public:
     SilentStage stage;
     SceneGraph graph;
 
-private:
-    /// Takes the physics world down after the rules, whose shots in flight give their bodies back to it.
-    struct WorldEnd {
-        ~WorldEnd() { delete PhysxManager::instance(); }
-    } worldEnd;
-
-public:
+    WorldEnd worldEnd;
     MatchRules rules;
 
     const Terrain& getTerrain() const { return *terrain; }
