@@ -1,8 +1,7 @@
 #pragma once
 
-#include "scene/INodeVisitor.h"
+#include "render/ModelRegistry.h"
 
-#include <set>
 #include <vector>
 
 class Camera;
@@ -11,18 +10,9 @@ class Renderer;
 
 /// Draws the scene's models into one viewport, with what shaders need to look up the shadows. Owned by the renderer, which walks the
 /// scene with it before each render(): the walk only adds models, releaseModel withdraws one.
-class ModelRenderer final : public INodeVisitor {
+class ModelRenderer final : public ModelRegistry {
 public:
     explicit ModelRenderer(Renderer* owner) : renderer(owner) {}
-
-    void visitModel(Model* model) override { registry.insert(model); }
-    void visitCamera(Camera*) override {}
-    void visitAttachable(Attachable*) override {}
-    void visitNode(Node*) override {}
-    void releaseModel(Model* model) override { registry.erase(model); }
-    void releaseCamera(Camera*) override {}
-    void releaseAttachable(Attachable*) override {}
-    void releaseNode(Node*) override {}
 
     /// Draws what the camera may see, by render order, into the framebuffer and viewport that are set, and queues the text "culled: "
     /// with the number of models left out.
@@ -33,5 +23,4 @@ private:
     void drawModel(Model& model);
 
     Renderer* renderer;
-    std::set<Model*> registry; // borrowed
 };
