@@ -12,10 +12,10 @@
 
 namespace {
 
-constexpr std::size_t kTrailPasses = 360;   // three simulated seconds of 1/120 s
-constexpr float kStuckDistance = 2.0f;      // world units
+constexpr std::size_t kTrailPasses = 360; // three simulated seconds of 1/120 s
+constexpr float kStuckDistance = 2.0f;    // world units
 constexpr float kThrottleGiven = 0.1f;
-constexpr float kFallenBelow = -25.0f;      // world y: on the way out of the world
+constexpr float kFallenBelow = -25.0f; // world y: on the way out of the world
 
 float horizontalDistance(const glm::vec3& a, const glm::vec3& b)
 {

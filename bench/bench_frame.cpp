@@ -9,8 +9,8 @@
 
 #include "BenchGame.h"
 #include "app/base/FrameTimer.h"
-#include "render/FrameProbe.h"
 #include "players/Ball.h"
+#include "render/FrameProbe.h"
 #include "render/Renderer.h"
 
 #include <GL/glew.h>
@@ -70,7 +70,8 @@ public:
     void print() const
     {
         for (const char* step : {"scene update", "shadow pass", "model passes", "text", "Blur", "CelPostProc", "swap"}) {
-            std::printf("  %-14s %7.2f ms, processor %7.2f ms\n", step, percentile(wall.at(step), 0.5), percentile(processor.at(step), 0.5));
+            std::printf("  %-14s %7.2f ms, processor %7.2f ms\n", step, percentile(wall.at(step), 0.5),
+                percentile(processor.at(step), 0.5));
         }
     }
 

@@ -42,11 +42,8 @@ private:
 class CarStage::Dress final : public ICarDress {
 public:
     Dress(QKD_Game* game, const CarNodes& nodes, const glm::vec4& colour, bool isHeard, MeshGeometry& geometry)
-        : driver(game, colour),
-          driverTransformation(&driver),
-          driverColour(colour),
-          smoke(Library::getInstance()->getShaderprogram("ParticleMovement")),
-          smokeTransformation(&smoke),
+        : driver(game, colour), driverTransformation(&driver), driverColour(colour),
+          smoke(Library::getInstance()->getShaderprogram("ParticleMovement")), smokeTransformation(&smoke),
           smokeTexture(Library::getInstance()->getTexture("Smoke"), 0)
     {
         dressDriver(*nodes.driver);

@@ -36,12 +36,8 @@ FreeFlight::Mouse mouseIn(const AppWindow& window)
 } // namespace
 
 DebugGamestate::DebugGamestate(const std::string& stateName, QKD_Game& ownGame)
-    : IGameState(stateName),
-      game(ownGame),
-      window(ownGame.getCore()->getRenderer()->getWindow()),
-      cameraNode(createCameraNode(ownGame)),
-      view(ownGame.getWindowRect(), cameraNode),
-      flight(*cameraNode)
+    : IGameState(stateName), game(ownGame), window(ownGame.getCore()->getRenderer()->getWindow()), cameraNode(createCameraNode(ownGame)),
+      view(ownGame.getWindowRect(), cameraNode), flight(*cameraNode)
 {
 }
 

@@ -152,7 +152,10 @@ void QKD_Game::createHats()
 void QKD_Game::bindFunctionKeys()
 {
     using When = FunctionKeys::When;
-    functionKeys.bind(7, When::kHeld, [this] { loadTextures(); loadShaders(); });
+    functionKeys.bind(7, When::kHeld, [this] {
+        loadTextures();
+        loadShaders();
+    });
     functionKeys.bind(3, When::kPressed, [this] { renderer.toggleWireframe(); });
     functionKeys.bind(9, When::kPressed, [this] { renderer.toggleBlending(); });
     functionKeys.bind(4, When::kPressed, [this] { renderer.toggleMagFilter(); });

@@ -14,8 +14,7 @@ const glm::vec4 kClearColour(0.8f, 0.8f, 0.8f, 1.0f);
 } // namespace
 
 StateView::StateView(const Viewport::Rect& rect, Node* node)
-    : camera(kFov, kAspect, kNear, kFar, kInitialTranslation),
-      viewport(rect.x, rect.y, rect.width, rect.height)
+    : camera(kFov, kAspect, kNear, kFar, kInitialTranslation), viewport(rect.x, rect.y, rect.width, rect.height)
 {
     viewport.camera = &camera;
     viewport.clearColour = kClearColour;

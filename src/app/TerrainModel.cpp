@@ -23,11 +23,8 @@ Mesh meshOf(const Terrain& terrain)
 TerrainModel::TerrainModel(const Terrain& terrain) : TerrainModel(meshOf(terrain)) {}
 
 TerrainModel::TerrainModel(const Mesh& mesh)
-    : geometry(mesh, {MeshAttribute::Position, MeshAttribute::Normal}),
-      culler(mesh, kIndicesPerRun),
-      transformation(this),
-      grass(Library::getInstance()->getTexture("Grass"), 0),
-      dirt(Library::getInstance()->getTexture("Dirt"), 1)
+    : geometry(mesh, {MeshAttribute::Position, MeshAttribute::Normal}), culler(mesh, kIndicesPerRun), transformation(this),
+      grass(Library::getInstance()->getTexture("Grass"), 0), dirt(Library::getInstance()->getTexture("Dirt"), 1)
 {
     shader = Library::getInstance()->getShaderprogram("TerrainShader");
     setName("Heightfield");

@@ -12,8 +12,8 @@ HellknightModel::HellknightModel()
     shader = Library::getInstance()->getShaderprogram("TextureShader");
     const Mesh* mesh = Library::getInstance()->getMesh("Hellknight");
     if (!mesh) return;
-    geometry = std::make_unique<MeshGeometry>(
-        *mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal, MeshAttribute::Texcoord});
+    geometry = std::make_unique<MeshGeometry>(*mesh,
+        std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal, MeshAttribute::Texcoord});
     setGeometry(*geometry);
 }
 

@@ -61,11 +61,11 @@ public:
     IndexBuffer* indexBuffer = nullptr; ///< null draws the vertices as they stand
     GLuint vao = 0;                     ///< for `shader` and `vertexBuffer`
     std::string name;
-    bool cullable = true;          ///< may be skipped when its node's origin is out of view
+    bool cullable = true; ///< may be skipped when its node's origin is out of view
     bool blended = false;
     bool castsShadow = true;
-    std::uint32_t renderOrder = 0; ///< ascending
+    std::uint32_t renderOrder = 0;         ///< ascending
     ModelLayer layer = ModelLayer::Things; ///< among models of equal renderOrder
-    bool isStatic = false;         ///< its node never moves: its shadow is drawn once and kept
-    float boundingRadius = 0;      ///< around the node's origin, in the model's own units; 0 when unknown
+    bool isStatic = false;                 ///< its node never moves: its shadow is drawn once and kept
+    float boundingRadius = 0;              ///< around the node's origin, in the model's own units; 0 when unknown
 };

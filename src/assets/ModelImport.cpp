@@ -12,11 +12,11 @@
 
 namespace {
 
-constexpr int kMaxBoneWeights = 4;       // a vertex
-constexpr unsigned kMaxVertices = 65536; // what 16-bit indices reach
+constexpr int kMaxBoneWeights = 4;          // a vertex
+constexpr unsigned kMaxVertices = 65536;    // what 16-bit indices reach
 constexpr std::size_t kLongestReason = 200; // characters
-constexpr unsigned kSteps = aiProcess_CalcTangentSpace | aiProcess_JoinIdenticalVertices | aiProcess_MakeLeftHanded | aiProcess_Triangulate
-    | aiProcess_GenSmoothNormals | aiProcess_LimitBoneWeights | aiProcess_SortByPType;
+constexpr unsigned kSteps = aiProcess_CalcTangentSpace | aiProcess_JoinIdenticalVertices | aiProcess_MakeLeftHanded |
+    aiProcess_Triangulate | aiProcess_GenSmoothNormals | aiProcess_LimitBoneWeights | aiProcess_SortByPType;
 
 glm::vec3 toVec3(const aiVector3D& v)
 {

@@ -40,7 +40,8 @@ std::optional<GLenum> stageOf(const std::string& keyword)
 std::string quotable(std::string word)
 {
     if (word.size() > kQuotedCharacters) word.resize(kQuotedCharacters);
-    std::replace_if(word.begin(), word.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
+    std::replace_if(
+        word.begin(), word.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
     return word;
 }
 

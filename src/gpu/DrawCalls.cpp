@@ -26,12 +26,14 @@ void drawVertexArray(GLuint vao, GLenum mode, const VertexBuffer* vertices, cons
     glBindVertexArray(0);
 }
 
-void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, const std::vector<GLsizei>& counts, const std::vector<unsigned>& firsts)
+void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, const std::vector<GLsizei>& counts,
+    const std::vector<unsigned>& firsts)
 {
     if (vao == 0 || counts.empty() || !isReadyToDraw(mode)) return;
 
     std::vector<const void*> offsets; // bytes into the bound index buffer
-    for (const unsigned first : firsts) offsets.push_back(reinterpret_cast<const void*>(static_cast<std::uintptr_t>(first * sizeof(GLushort))));
+    for (const unsigned first : firsts)
+        offsets.push_back(reinterpret_cast<const void*>(static_cast<std::uintptr_t>(first * sizeof(GLushort))));
     glBindVertexArray(vao);
     indices.bind();
     glMultiDrawElements(mode, counts.data(), GL_UNSIGNED_SHORT, offsets.data(), static_cast<GLsizei>(counts.size()));

@@ -18,7 +18,8 @@ bool isReadyToDraw(GLenum mode);
 void drawVertexArray(GLuint vao, GLenum mode, const VertexBuffer* vertices, const IndexBuffer* indices);
 
 /// Draws stretches of the index buffer only, in one call (glMultiDrawElements): firsts and counts in indices. Otherwise the same.
-void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, const std::vector<GLsizei>& counts, const std::vector<unsigned>& firsts);
+void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, const std::vector<GLsizei>& counts,
+    const std::vector<unsigned>& firsts);
 
 /// Deletes a vertex array object; 0 is ignored.
 void deleteVertexArray(GLuint vao);

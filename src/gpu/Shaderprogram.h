@@ -47,8 +47,8 @@ public:
     /// How many times it was linked: tells a reloaded program from the one before, which the GL may have given the same name.
     unsigned getLinkCount() const { return linkCount; }
 
-    void use() const;     ///< makes this the current program, or none when it is not usable
-    static void unuse();  ///< makes no program current
+    void use() const;    ///< makes this the current program, or none when it is not usable
+    static void unuse(); ///< makes no program current
 
     /// The program made current by use(); null when there is none.
     static const Shaderprogram* current();

@@ -95,7 +95,8 @@ void Texture::uploadImage(const Image& image)
     Image half;
     const Image* next = &image;
     for (GLint level = 0;; ++level) {
-        glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(format), next->width, next->height, 0, format, GL_UNSIGNED_BYTE, next->pixels.data());
+        glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(format), next->width, next->height, 0, format, GL_UNSIGNED_BYTE,
+            next->pixels.data());
         if (next->width == 1 && next->height == 1) return;
         half = halved(*next);
         next = &half;

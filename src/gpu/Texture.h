@@ -19,7 +19,7 @@ public:
     /// Puts a fresh texture object in place of the old one, which is deleted.
     void generate();
 
-    void bind() const;   ///< on the active unit
+    void bind() const; ///< on the active unit
     void unbind() const;
     GLuint getHandle() const { return handle; } ///< 0 before the first generate()
 

@@ -7,13 +7,13 @@
 
 namespace {
 
-constexpr float kAheadAngle = 20.0f;       // degrees to either side within which a target counts as ahead
-constexpr float kPointBlank = 2.0f;        // world units; so close, it shoots in any direction
+constexpr float kAheadAngle = 20.0f;        // degrees to either side within which a target counts as ahead
+constexpr float kPointBlank = 2.0f;         // world units; so close, it shoots in any direction
 constexpr float kFullThrottleAngle = 60.0f; // degrees; beyond it the car turns with full throttle
-constexpr float kHandBrakeAngle = 90.0f;   // degrees
-constexpr float kHandBrakeSpeed = 8.0f;    // units per second
-constexpr double kPatience = 2.0;          // milliseconds out of sight after which another target is looked for
-constexpr float kLeastSteering = 0.3f;     // at angle 0; rises to 1 at 180 degrees
+constexpr float kHandBrakeAngle = 90.0f;    // degrees
+constexpr float kHandBrakeSpeed = 8.0f;     // units per second
+constexpr double kPatience = 2.0;           // milliseconds out of sight after which another target is looked for
+constexpr float kLeastSteering = 0.3f;      // at angle 0; rises to 1 at 180 degrees
 
 glm::vec3 flattened(const glm::vec3& vector)
 {

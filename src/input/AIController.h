@@ -29,9 +29,9 @@ private:
     const IPilot* pilot = nullptr;
     const IHunt* hunt = nullptr;
     const IPilot* target = nullptr;
-    float angle = 0;        // degrees, 0 to 180: between the car's front and the target, seen from above
-    float side = 0;         // positive: the target is to the right
-    float distance = 0;     // world units
-    int targetDeaths = -1;  // the target's deaths when it was chosen
-    double lastSeen;        // milliseconds of the frame timer: when the target was last ahead
+    float angle = 0;       // degrees, 0 to 180: between the car's front and the target, seen from above
+    float side = 0;        // positive: the target is to the right
+    float distance = 0;    // world units
+    int targetDeaths = -1; // the target's deaths when it was chosen
+    double lastSeen;       // milliseconds of the frame timer: when the target was last ahead
 };

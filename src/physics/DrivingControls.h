@@ -4,9 +4,9 @@ class VehicleHandle;
 
 /// What a driver's device says in one pass.
 struct DriverInput {
-    float accel = 0;        ///< 0 to 1
-    float brake = 0;        ///< -1 (pressed) to 0
-    float steer = 0;        ///< -1 (left) to +1 (right)
+    float accel = 0; ///< 0 to 1
+    float brake = 0; ///< -1 (pressed) to 0
+    float steer = 0; ///< -1 (left) to +1 (right)
     bool handBrake = false;
 };
 

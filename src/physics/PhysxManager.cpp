@@ -27,8 +27,8 @@ constexpr std::size_t kGameMaterial = 1; // cars and ground; the cars' tires gri
 constexpr float kWheelWidth = 0.35f;
 constexpr float kWheelRadius = 0.45f;
 constexpr PxU32 kWheelCirclePoints = 8;
-constexpr float kChassisRise = 0.2f;   // of the collision box above the chassis origin
-constexpr float kChassisMass = 1500;   // kilograms
+constexpr float kChassisRise = 0.2f; // of the collision box above the chassis origin
+constexpr float kChassisMass = 1500; // kilograms
 constexpr float kVehicleStartHeight = 5;
 constexpr int kVehicleStartRange = 10; // a car starts at a whole x from 0 to 9
 
@@ -135,7 +135,8 @@ void PhysxManager::cookVehicleMeshes()
     wheelCentreOffsets = {PxVec3(-0.9193479f, -0.7525774f, 1.51114f), PxVec3(0.9193479f, -0.7525774f, 1.51114f),
         PxVec3(-0.9193479f, -0.7525774f, -1.51114f), PxVec3(0.9193479f, -0.7525774f, -1.51114f)};
     chassisConvexMesh = createCuboidConvexMesh(PxVec3(1, 1, 1), kChassisRise, *physics, *cooking);
-    for (PxConvexMesh*& mesh : wheelConvexMeshes) mesh = createWheelConvexMesh(kWheelWidth, kWheelRadius, kWheelCirclePoints, *physics, *cooking);
+    for (PxConvexMesh*& mesh : wheelConvexMeshes)
+        mesh = createWheelConvexMesh(kWheelWidth, kWheelRadius, kWheelCirclePoints, *physics, *cooking);
 }
 
 void PhysxManager::connectVisualDebugger()
@@ -178,7 +179,8 @@ PxMaterial& PhysxManager::getBallMaterial()
 
 PhysicNode* PhysxManager::createBall()
 {
-    PxRigidDynamic* actor = PxCreateDynamic(*physics, PxTransform(kBallStart), PxSphereGeometry(kBallRadius), getBallMaterial(), kBallDensity);
+    PxRigidDynamic* actor =
+        PxCreateDynamic(*physics, PxTransform(kBallStart), PxSphereGeometry(kBallRadius), getBallMaterial(), kBallDensity);
     std::array<PxShape*, 16> shapeBuffer;
     const PxU32 count = actor->getShapes(shapeBuffer.data(), static_cast<PxU32>(shapeBuffer.size()));
     for (PxU32 i = 0; i < count; ++i) {

@@ -14,7 +14,7 @@ using namespace physx;
 namespace {
 
 constexpr const char* kHeightImage = "Textures/map.tga";
-constexpr int kImageSide = 512; // pixels that the field is sampled from, and its edge length in world units
+constexpr int kImageSide = 512;    // pixels that the field is sampled from, and its edge length in world units
 constexpr PxI16 kFlatHeight = 204; // height 40: cars enter at 50, and a longer fall turns some of them over
 
 } // namespace
@@ -96,7 +96,8 @@ std::vector<unsigned short> Terrain::getIndices() const
         for (int column = 0; column + 1 < columns; ++column) {
             const int b = row * columns + column;
             // The diagonal is the one along which the physics library splits a cell whose tessellation flag is clear.
-            for (int corner : {b, b + columns, b + 1, b + columns, b + columns + 1, b + 1}) indices.push_back(static_cast<unsigned short>(corner));
+            for (int corner : {b, b + columns, b + 1, b + columns, b + columns + 1, b + 1})
+                indices.push_back(static_cast<unsigned short>(corner));
         }
     }
     return indices;

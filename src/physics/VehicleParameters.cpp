@@ -18,7 +18,7 @@ const PxVec3 kChassisCMOffset(0, -kChassisHeight * 0.5f + 0.65f, 0.25f); // cent
 // Of a box 2.4758029 wide with 1500 kg, turning more readily (0.8) about the vertical axis than a box does; kilograms x units squared.
 const PxVec3 kChassisMOI(3371.8037f, 2968.3728f, 1193.7377f);
 
-constexpr float kWheelMass = 80;            // kilograms
+constexpr float kWheelMass = 80;             // kilograms
 constexpr float kWheelRadiusFactor = 0.975f; // rolling radius over the mesh's
 constexpr float kRearHandBrakeTorque = 4000;
 constexpr float kMaxSteer = std::numbers::pi_v<float> * 0.3333f; // radians, front wheels
@@ -32,8 +32,8 @@ constexpr float kMaxDroop = 0.1f;        // units below rest
 constexpr float kForceAppPointY = -0.3f; // suspension and tire forces act this far below the centre of mass
 
 constexpr float kEnginePeakTorque = 500;
-constexpr float kEngineMaxOmega = 600;   // radians per second
-constexpr float kGearSwitchTime = 0.5f;  // seconds of game time
+constexpr float kEngineMaxOmega = 600;  // radians per second
+constexpr float kGearSwitchTime = 0.5f; // seconds of game time
 constexpr float kClutchStrength = 10;
 constexpr float kAckermannAccuracy = 1;
 

@@ -162,7 +162,8 @@ void GamePads::openArrivals()
         if (handles.count(id) != 0 || !SDL_IsGameController(deviceIndex)) continue;
         Handle handle(SDL_GameControllerOpen(deviceIndex));
         if (!handle) {
-            logLine(1) << "Cannot open game-pad " << textOf(SDL_GameControllerNameForIndex(deviceIndex)) << ": " << SDL_GetError() << std::endl;
+            logLine(1) << "Cannot open game-pad " << textOf(SDL_GameControllerNameForIndex(deviceIndex)) << ": " << SDL_GetError()
+                       << std::endl;
             continue;
         }
         plugged.push_back(describe(id, handle.get()));

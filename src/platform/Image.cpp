@@ -104,7 +104,8 @@ Image halved(const Image& image)
 {
     Image half{std::max(image.width / 2, 1), std::max(image.height / 2, 1), image.channels, {}};
     const int stepX = image.width / half.width, stepY = image.height / half.height; // 2, or 1 along a side that is used up
-    half.pixels.reserve(static_cast<std::size_t>(half.width) * static_cast<std::size_t>(half.height) * static_cast<std::size_t>(half.channels));
+    half.pixels.reserve(static_cast<std::size_t>(half.width) * static_cast<std::size_t>(half.height) *
+        static_cast<std::size_t>(half.channels));
     for (int y = 0; y < half.height; ++y) {
         for (int x = 0; x < half.width; ++x) {
             const unsigned char* low = image.at(x * stepX, y * stepY);

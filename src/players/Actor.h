@@ -21,8 +21,8 @@ public:
     Actor& operator=(const Actor&) = delete;
 
     virtual std::string getName() const = 0;
-    virtual void update() = 0;           ///< once per drawn frame of the match
-    virtual bool isPlayer() const = 0;   ///< true for those who drive, and are a Player
+    virtual void update() = 0;                 ///< once per drawn frame of the match
+    virtual bool isPlayer() const = 0;         ///< true for those who drive, and are a Player
     virtual glm::vec3 getPosition() const = 0; ///< world space, as of the last scene update
 
     int getNumber() const { return number; } ///< the participants that were there before this one

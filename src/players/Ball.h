@@ -11,8 +11,8 @@ class SceneGraph;
 /// What stays of it afterwards is its scene node (some 250 bytes), detached: nodes are never freed. Its body and its picture go with it.
 class Ball {
 public:
-    static constexpr int kDamage = 20;     ///< of a car's 100 health points
-    static constexpr int kLifetime = 5000; ///< milliseconds of the frame timer
+    static constexpr int kDamage = 20;      ///< of a car's 100 health points
+    static constexpr int kLifetime = 5000;  ///< milliseconds of the frame timer
     static constexpr float kSpeed = 150.0f; ///< units per second, along the car's front
 
     Ball(SceneGraph& scene, IStage& stage, Player& owner);

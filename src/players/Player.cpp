@@ -23,10 +23,10 @@ constexpr double kShotInterval = 700; // milliseconds that must pass between two
 constexpr float kShotVolume = 0.3f;
 constexpr float kQuackVolume = 1.0f;
 constexpr float kFaintQuackVolume = 0.2f; // of those who are not heard otherwise
-constexpr unsigned kChassisShape = 4; // a car's shapes: four wheels, then the chassis
-constexpr float kDriverScale = 0.015f; // the duck's mesh is about 130 units long
-constexpr float kRespawnHeight = 50.0f; // world units
-constexpr int kRespawnRange = 200; // world units, the edge of the square around the origin
+constexpr unsigned kChassisShape = 4;     // a car's shapes: four wheels, then the chassis
+constexpr float kDriverScale = 0.015f;    // the duck's mesh is about 130 units long
+constexpr float kRespawnHeight = 50.0f;   // world units
+constexpr int kRespawnRange = 200;        // world units, the edge of the square around the origin
 
 struct Rumble {
     int milliseconds;
@@ -36,8 +36,12 @@ constexpr Rumble kHitRumble{300, 60000};
 constexpr Rumble kRespawnRumble{600, 30000};
 
 const glm::vec4 kColours[] = {
-    {0.9f, 0.2f, 0.1f, 1}, {0.2f, 0.9f, 0.1f, 1}, {0.1f, 0.2f, 0.9f, 1},
-    {0.9f, 0.9f, 0.2f, 1}, {0.2f, 0.9f, 0.9f, 1}, {0.9f, 0.2f, 0.9f, 1},
+    {0.9f, 0.2f, 0.1f, 1},
+    {0.2f, 0.9f, 0.1f, 1},
+    {0.1f, 0.2f, 0.9f, 1},
+    {0.9f, 0.9f, 0.2f, 1},
+    {0.2f, 0.9f, 0.9f, 1},
+    {0.9f, 0.2f, 0.9f, 1},
 };
 
 glm::mat4 rotation(float degrees, const glm::vec3& axis)

@@ -46,7 +46,7 @@ public:
     glm::mat4 getLaunchTransform() const override;
     glm::mat4 getChassisTransform() const override;
     float getForwardSpeed() const override;
-    float getHeight() const;                           ///< world y of the chassis
+    float getHeight() const; ///< world y of the chassis
 
 private:
     void createCar();

@@ -19,9 +19,9 @@
 namespace {
 
 constexpr const char* kTitle = "Quackdash";
-constexpr int kWindowX = 300, kWindowY = 30;  // pixels from the screen's upper-left corner
-constexpr int kFpsInterval = 1000;            // milliseconds between two texts
-constexpr double kFpsX = -0.8, kFpsY = -0.8;  // normalised device coordinates
+constexpr int kWindowX = 300, kWindowY = 30; // pixels from the screen's upper-left corner
+constexpr int kFpsInterval = 1000;           // milliseconds between two texts
+constexpr double kFpsX = -0.8, kFpsY = -0.8; // normalised device coordinates
 
 void setArea(int x, int y, int width, int height)
 {
@@ -45,8 +45,9 @@ void apply(const Viewport& viewport)
 } // namespace
 
 Renderer::Renderer()
-    : modelRenderer(this), viewMatrix(this), projectionMatrix(this), normalMatrix(this),
-      globalUniforms{{"viewMatrix", &viewMatrix}, {"projectionMatrix", &projectionMatrix}, {"normalMatrix", &normalMatrix}}
+    : modelRenderer(this), viewMatrix(this), projectionMatrix(this),
+      normalMatrix(this), globalUniforms{
+                              {"viewMatrix", &viewMatrix}, {"projectionMatrix", &projectionMatrix}, {"normalMatrix", &normalMatrix}}
 {
     IRenderServices::setCurrent(this);
 }

@@ -76,8 +76,8 @@ void ShadowCache::drawStatic(const std::vector<Model*>& casters)
 void ShadowCache::restore(const Rect& rect) const
 {
     if (rect.width <= 0 || rect.height <= 0) return;
-    glCopyImageSubData(staticTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x, rect.y, 0,
-        lightTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x, rect.y, 0, rect.width, rect.height, 1);
+    glCopyImageSubData(staticTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x, rect.y, 0, lightTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x,
+        rect.y, 0, rect.width, rect.height, 1);
 }
 
 ShadowCache::Rect ShadowCache::wholeTexture() const

@@ -27,7 +27,9 @@ public:
     void invalidate() { valid = false; }
 
 private:
-    struct Rect { int x = 0, y = 0, width = 0, height = 0; }; ///< texels
+    struct Rect {
+        int x = 0, y = 0, width = 0, height = 0;
+    }; ///< texels
 
     /// What a static caster looked like when it was drawn.
     struct Snapshot {

@@ -46,8 +46,9 @@ void TextRenderer::addText(const std::string& text, double x, double y)
         const float left = static_cast<float>(x) + static_cast<float>(k) * kGlyph, right = left + kGlyph;
         const auto [u, v] = cellOf(text[k]);
         const float u1 = u + kGlyph, v1 = v + kGlyph;
-        queue.insert(queue.end(), {{left, top, u, v}, {right, bottom, u1, v1}, {left, bottom, u, v1},
-                                      {left, top, u, v}, {right, top, u1, v}, {right, bottom, u1, v1}});
+        queue.insert(queue.end(),
+            {{left, top, u, v}, {right, bottom, u1, v1}, {left, bottom, u, v1}, {left, top, u, v}, {right, top, u1, v},
+                {right, bottom, u1, v1}});
     }
     if (queue.empty()) return;
     glBindBuffer(GL_ARRAY_BUFFER, vertexBuffer);

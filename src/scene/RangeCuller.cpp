@@ -30,7 +30,8 @@ RangeCuller::RangeCuller(const Mesh& mesh, unsigned indicesPerRun)
     QKD_ASSERT(indicesPerRun >= 3 && indicesPerRun % 3 == 0, "a run holds whole triangles");
     const auto total = static_cast<unsigned>(mesh.indices.size());
     for (unsigned first = 0; first < total; first += indicesPerRun) {
-        Run run{{first, std::min(indicesPerRun, total - first)}, glm::vec3(std::numeric_limits<float>::max()), glm::vec3(std::numeric_limits<float>::lowest())};
+        Run run{{first, std::min(indicesPerRun, total - first)}, glm::vec3(std::numeric_limits<float>::max()),
+            glm::vec3(std::numeric_limits<float>::lowest())};
         for (unsigned i = first; i < first + run.range.count; ++i) {
             run.min = glm::min(run.min, mesh.positions[mesh.indices[i]]);
             run.max = glm::max(run.max, mesh.positions[mesh.indices[i]]);

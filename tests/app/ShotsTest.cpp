@@ -204,13 +204,9 @@ TEST_F(Shots, EveryBeginningTouchOfABallAndACarIsOneHit)
         PxPairFlag::Enum event;
         bool ballFirst;
         int times, damage;
-    } const rows[] = {
-        {PxPairFlag::eNOTIFY_TOUCH_FOUND, false, 1, 20},
-        {PxPairFlag::eNOTIFY_TOUCH_FOUND, true, 1, 20},
-        {PxPairFlag::eNOTIFY_TOUCH_FOUND, true, 3, 20},
-        {PxPairFlag::eNOTIFY_TOUCH_PERSISTS, true, 1, 0},
-        {PxPairFlag::eNOTIFY_TOUCH_LOST, true, 1, 0},
-    };
+    } const rows[] = {{PxPairFlag::eNOTIFY_TOUCH_FOUND, false, 1, 20}, {PxPairFlag::eNOTIFY_TOUCH_FOUND, true, 1, 20},
+        {PxPairFlag::eNOTIFY_TOUCH_FOUND, true, 3, 20}, {PxPairFlag::eNOTIFY_TOUCH_PERSISTS, true, 1, 0},
+        {PxPairFlag::eNOTIFY_TOUCH_LOST, true, 1, 0}};
     Player& shooter = join();
     Player& victim = join();
     for (const auto& row : rows) {
@@ -305,11 +301,9 @@ struct LeavingRow {
 
 TEST_F(Shots, BallsBeyondTheFieldAndBelowItAreRemoved)
 {
-    const LeavingRow rows[] = {
-        {{275.5f, 90, 0}, false}, {{276.5f, 90, 0}, true},   {{-275.5f, 90, 0}, false}, {{-276.5f, 90, 0}, true},
-        {{0, 90, 275.5f}, false}, {{0, 90, 276.5f}, true},   {{0, 90, -275.5f}, false}, {{0, 90, -276.5f}, true},
-        {{270, -29, 0}, false},   {{270, -30.5f, 0}, true},
-    };
+    const LeavingRow rows[] = {{{275.5f, 90, 0}, false}, {{276.5f, 90, 0}, true}, {{-275.5f, 90, 0}, false}, {{-276.5f, 90, 0}, true},
+        {{0, 90, 275.5f}, false}, {{0, 90, 276.5f}, true}, {{0, 90, -275.5f}, false}, {{0, 90, -276.5f}, true}, {{270, -29, 0}, false},
+        {{270, -30.5f, 0}, true}};
     Player& shooter = join();
     for (const LeavingRow& row : rows) {
         PhysicNode& ball = *fire(shooter).getNode();

@@ -20,7 +20,8 @@ TEST(IcosphereTest, LiesOnTheSphereAndIsClosedWithEveryFaceClockwiseFromOutside)
     }
     float volume = 0; // of the tetrahedra between the centre and each face: a hole or an overlap would show
     for (std::size_t i = 0; i < mesh.indices.size(); i += 3) {
-        const glm::vec3 &a = mesh.positions[mesh.indices[i]], &b = mesh.positions[mesh.indices[i + 1]], &c = mesh.positions[mesh.indices[i + 2]];
+        const glm::vec3 &a = mesh.positions[mesh.indices[i]], &b = mesh.positions[mesh.indices[i + 1]],
+                        &c = mesh.positions[mesh.indices[i + 2]];
         const float tetrahedron = glm::dot(a, glm::cross(b, c)) / 6.0f;
         EXPECT_LT(tetrahedron, 0) << "triangle " << i / 3 << " would be culled where it should be seen";
         volume -= tetrahedron;

@@ -79,14 +79,19 @@ TEST_F(LibraryLoadersTest, EveryKeywordSelectsItsStageAndRepeatsAreAttachedToo)
     const std::string version = "#version 430 core\n";
     data.write("a.vert", version + "vec4 place(); void main() { gl_Position = place(); }");
     data.write("b.vert", version + "in vec3 position; vec4 place() { return vec4(position, 1.0); } // no line feed at the end");
-    data.write("c.tcs", version + "layout(vertices = 3) out; void main() {\n"
-                                  "gl_out[gl_InvocationID].gl_Position = gl_in[gl_InvocationID].gl_Position;\n"
-                                  "gl_TessLevelInner[0] = gl_TessLevelOuter[0] = gl_TessLevelOuter[1] = gl_TessLevelOuter[2] = 1.0; }");
+    data.write("c.tcs",
+        version +
+            "layout(vertices = 3) out; void main() {\n"
+            "gl_out[gl_InvocationID].gl_Position = gl_in[gl_InvocationID].gl_Position;\n"
+            "gl_TessLevelInner[0] = gl_TessLevelOuter[0] = gl_TessLevelOuter[1] = gl_TessLevelOuter[2] = 1.0; }");
     data.write("d.tes", version + "layout(triangles) in; void main() { gl_Position = gl_TessCoord.x * gl_in[0].gl_Position; }");
-    data.write("e.geom", version + "layout(triangles) in; layout(points, max_vertices = 1) out;\n"
-                                   "void main() { gl_Position = gl_in[0].gl_Position; EmitVertex(); }");
-    data.write("all.shader", "VERTEX_SHADER a.vert VERTEX_SHADER b.vert TESS_CONTROL_SHADER c.tcs TESS_EVALUATION_SHADER d.tes\n"
-                             "GEOMETRY_SHADER e.geom FRAGMENT_SHADER Shader/plain.frag");
+    data.write("e.geom",
+        version +
+            "layout(triangles) in; layout(points, max_vertices = 1) out;\n"
+            "void main() { gl_Position = gl_in[0].gl_Position; EmitVertex(); }");
+    data.write("all.shader",
+        "VERTEX_SHADER a.vert VERTEX_SHADER b.vert TESS_CONTROL_SHADER c.tcs TESS_EVALUATION_SHADER d.tes\n"
+        "GEOMETRY_SHADER e.geom FRAGMENT_SHADER Shader/plain.frag");
     const std::string name = freshName();
     library.loadShader(name, "all.shader");
     const Shaderprogram* program = library.getShaderprogram(name);
@@ -101,8 +106,9 @@ TEST_F(LibraryLoadersTest, EveryKeywordSelectsItsStageAndRepeatsAreAttachedToo)
         glGetShaderSource(stage, static_cast<GLsizei>(source.size()), nullptr, source.data());
         EXPECT_TRUE(source.ends_with(std::string("\n") + '\0')) << source;
     }
-    EXPECT_EQ(types, (std::multiset<GLint>{GL_VERTEX_SHADER, GL_VERTEX_SHADER, GL_TESS_CONTROL_SHADER, GL_TESS_EVALUATION_SHADER,
-                         GL_GEOMETRY_SHADER, GL_FRAGMENT_SHADER}));
+    EXPECT_EQ(types,
+        (std::multiset<GLint>{GL_VERTEX_SHADER, GL_VERTEX_SHADER, GL_TESS_CONTROL_SHADER, GL_TESS_EVALUATION_SHADER, GL_GEOMETRY_SHADER,
+            GL_FRAGMENT_SHADER}));
 }
 
 struct EndedLoad {
@@ -120,7 +126,8 @@ TEST_F(LibraryLoadersTest, ALoadThatEndsEarlyGivesOneErrorAndRegistersNothing)
         {"VERTEX_SHADER folder", "ERROR | couldn't open file: folder\n"},
         {"VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER", compiled + "ERROR | couldn't open file: \n"},
         {"PIXEL_SHADER Shader/plain.frag", "ERROR | unknown shader stage \"PIXEL_SHADER\" in any.shader\n"},
-        {"VERTEX_SHADER Shader/plain.vert fragment_shader x", compiled + "ERROR | unknown shader stage \"fragment_shader\" in any.shader\n"},
+        {"VERTEX_SHADER Shader/plain.vert fragment_shader x",
+            compiled + "ERROR | unknown shader stage \"fragment_shader\" in any.shader\n"},
         {std::string("\x89PNG\x02\xff") + std::string(500, '\xe4'),
             "ERROR | unknown shader stage \"?PNG" + std::string(36, '?') + "\" in any.shader\n"},
     };

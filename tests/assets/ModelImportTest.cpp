@@ -1,6 +1,6 @@
+#include "assets/ModelImport.h"
 #include "Collada.h"
 #include "assets/Library.h"
-#include "assets/ModelImport.h"
 #include "assets/Uniform_AttachableTransformation.h"
 #include "scene/Camera.h"
 #include "scene/Mesh.h"
@@ -54,8 +54,7 @@ TEST_F(ModelImportTest, AMeshWithoutFacesOfItsOwnKeepsTheDefaultNormal)
 TEST_F(ModelImportTest, TextureCoordinatesComeWithTangentsAndSharedCornersAreJoined)
 {
     // a square in the xy plane whose u runs along y; one corner is listed twice
-    data.write("square.dae",
-        colladaDocument({{"0 0 0 1 0 0 1 1 0 0 1 0 1 1 0", "0 0 0 1 1 1 1 0 1 1", "0 1 2 0 4 3"}}));
+    data.write("square.dae", colladaDocument({{"0 0 0 1 0 0 1 1 0 0 1 0 1 1 0", "0 0 0 1 1 1 1 0 1 1", "0 1 2 0 4 3"}}));
     const auto mesh = importMesh("square.dae");
     ASSERT_TRUE(mesh);
     EXPECT_EQ(mesh->getVertexCount(), 4u);
@@ -84,11 +83,12 @@ TEST_F(ModelImportTest, OnlyTheFirstMeshOfAFileCountsAndTheFirstFileOfAName)
 
 TEST_F(ModelImportTest, Md5MeshesAreStoodUpByTheCaseSensitiveEndOfTheirPath)
 {
-    const std::string model = "MD5Version 10\ncommandline \"\"\n\nnumJoints 1\nnumMeshes 1\n\n"
-                              "joints {\n\t\"origin\" -1 ( 0 0 0 ) ( 0 0 0 )\n}\n\n"
-                              "mesh {\n\tshader \"none\"\n\n\tnumverts 3\n\tvert 0 ( 0 0 ) 0 1\n\tvert 1 ( 1 0 ) 1 1\n\tvert 2 ( 0 1 ) 2 1\n\n"
-                              "\tnumtris 1\n\ttri 0 0 1 2\n\n\tnumweights 3\n\tweight 0 0 1 ( 1 2 3 )\n\tweight 1 0 1 ( 4 5 6 )\n"
-                              "\tweight 2 0 1 ( 7 8 10 )\n}\n";
+    const std::string model =
+        "MD5Version 10\ncommandline \"\"\n\nnumJoints 1\nnumMeshes 1\n\n"
+        "joints {\n\t\"origin\" -1 ( 0 0 0 ) ( 0 0 0 )\n}\n\n"
+        "mesh {\n\tshader \"none\"\n\n\tnumverts 3\n\tvert 0 ( 0 0 ) 0 1\n\tvert 1 ( 1 0 ) 1 1\n\tvert 2 ( 0 1 ) 2 1\n\n"
+        "\tnumtris 1\n\ttri 0 0 1 2\n\n\tnumweights 3\n\tweight 0 0 1 ( 1 2 3 )\n\tweight 1 0 1 ( 4 5 6 )\n"
+        "\tweight 2 0 1 ( 7 8 10 )\n}\n";
     data.write("knight.md5mesh", model);
     data.write("knight.MD5MESH", model);
     const auto stood = importMesh("knight.md5mesh"), lying = importMesh("knight.MD5MESH");
@@ -140,7 +140,11 @@ TEST_F(ModelImportTest, AFileWithoutAMeshGivesOneWarningThatNamesItAndRegistersN
 {
     const std::string whole = colladaDocument({kTriangle});
     data.write("empty.dae", "");
-    data.write("garbage.dae", std::string("\x7f" "ELF\0\x01\xff<COLLADA <<<", 16) + std::string(5000, '\xc3'));
+    data.write("garbage.dae",
+        std::string("\x7f"
+                    "ELF\0\x01\xff<COLLADA <<<",
+            16) +
+            std::string(5000, '\xc3'));
     data.write("words.dae", "this is a shopping list");
     data.write("noGeometry.dae", colladaDocument({}));
     data.write("noIndex.dae", colladaDocument({{"1 2 3 4 5 6 7 8 10", "", "0 1 77"}}));

@@ -26,8 +26,8 @@ ImportedMesh import(const std::string& file)
 {
     Assimp::Importer importer;
     const aiScene* scene = importer.ReadFile(DATA_FOLDER "Models/" + file,
-        aiProcess_CalcTangentSpace | aiProcess_JoinIdenticalVertices | aiProcess_MakeLeftHanded | aiProcess_Triangulate
-            | aiProcess_GenSmoothNormals | aiProcess_LimitBoneWeights | aiProcess_SortByPType);
+        aiProcess_CalcTangentSpace | aiProcess_JoinIdenticalVertices | aiProcess_MakeLeftHanded | aiProcess_Triangulate |
+            aiProcess_GenSmoothNormals | aiProcess_LimitBoneWeights | aiProcess_SortByPType);
     ImportedMesh result;
     EXPECT_TRUE(scene && scene->mNumMeshes == 1) << file << ": " << importer.GetErrorString();
     if (!scene || scene->mNumMeshes == 0) return result;
@@ -69,7 +69,10 @@ struct Bounds {
     }
 };
 
-struct Budget { const char* file; std::size_t triangles; };
+struct Budget {
+    const char* file;
+    std::size_t triangles;
+};
 class Models : public testing::TestWithParam<Budget> {};
 
 TEST_P(Models, KeepToTheirBudgetAndShowTheirOutside)

@@ -27,7 +27,10 @@ int difference(const Image& image, int x, int y, int otherX, int otherY)
     return largest;
 }
 
-struct Picture { const char* file; int channels; };
+struct Picture {
+    const char* file;
+    int channels;
+};
 class Pictures : public testing::TestWithParam<Picture> {};
 
 TEST_P(Pictures, AreUploadedWithoutResampling)
@@ -37,8 +40,9 @@ TEST_P(Pictures, AreUploadedWithoutResampling)
     EXPECT_TRUE(std::has_single_bit(static_cast<unsigned>(image.width)) && std::has_single_bit(static_cast<unsigned>(image.height)))
         << image.width << " x " << image.height;
 }
-INSTANTIATE_TEST_SUITE_P(OfTheManifest, Pictures, testing::Values(Picture{"Models/skybox.tga", 3}, Picture{"Textures/Dirt.tga", 3},
-    Picture{"Textures/Grass.tga", 3}, Picture{"Textures/Smoke.tga", 4}, Picture{"Textures/font.tga", 4}));
+INSTANTIATE_TEST_SUITE_P(OfTheManifest, Pictures,
+    testing::Values(Picture{"Models/skybox.tga", 3}, Picture{"Textures/Dirt.tga", 3}, Picture{"Textures/Grass.tga", 3},
+        Picture{"Textures/Smoke.tga", 4}, Picture{"Textures/font.tga", 4}));
 
 class Grounds : public testing::TestWithParam<const char*> {};
 
@@ -97,7 +101,9 @@ TEST_F(FontTest, GlyphsKeepOffTheirNeighbours)
     const auto isRim = [side](int at) { return at % side == 0 || at % side == side - 1; };
     for (int y = 0; y < font.height; ++y) {
         for (int x = 0; x < font.width; ++x) {
-            if (isRim(x) || isRim(y)) { ASSERT_LT(font.at(x, y)[3], kDrawnFrom) << x << ", " << y; }
+            if (isRim(x) || isRim(y)) {
+                ASSERT_LT(font.at(x, y)[3], kDrawnFrom) << x << ", " << y;
+            }
         }
     }
 }
@@ -112,7 +118,10 @@ TEST_F(SkyTest, FacesMeet)
 {
     constexpr int kTolerance = 30; // of 255: half the step from sky to hill, which clouds crossing a seam stay below
     const int top = cell - 1;
-    struct Seam { const char* name; std::function<int(int)> step; };
+    struct Seam {
+        const char* name;
+        std::function<int(int)> step;
+    };
     const Seam seams[] = {
         {"-X to +Z", [&](int i) { return difference(sky, cell - 1, i, cell, i); }},
         {"+Z to +X", [&](int i) { return difference(sky, 2 * cell - 1, i, 2 * cell, i); }},
@@ -138,10 +147,10 @@ TEST_F(SkyTest, FloorAndWhatFilteringMixesIntoItAreOfOneColour)
 
 TEST(HeightImage, LiesHighAndGentleWhereCarsEnter)
 {
-    constexpr int kSamples = 64, kSpacing = 8;      // per side; pixels and world units
+    constexpr int kSamples = 64, kSpacing = 8; // per side; pixels and world units
     constexpr float kUnitsAByte = 50.0f / 255.0f;
-    constexpr float kLow = 36.0f, kHigh = 46.0f;    // cars drop in from 50; a longer fall ends on the roof
-    constexpr float kSteepest = 0.36f;              // 20 degrees; computer players never brake
+    constexpr float kLow = 36.0f, kHigh = 46.0f; // cars drop in from 50; a longer fall ends on the roof
+    constexpr float kSteepest = 0.36f;           // 20 degrees; computer players never brake
     const Image map = read("Textures/map.tga");
     ASSERT_GE(map.width, 512);
     ASSERT_GE(map.height, 512);

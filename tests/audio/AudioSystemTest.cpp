@@ -34,7 +34,8 @@ TEST_F(AudioSystemTest, PlaysRegisteredSoundsByName)
         audio.init({{"low", toneFile(500)}, {"high", toneFile(900)}});
         audio.play("low", true, 1.0f);
         audio.play("high", false, 0.4f);
-    }), "");
+    }),
+        "");
     Samples heard = listenFor(1);
     EXPECT_NEAR(amplitudeAt(heard, 500), 0.25, 0.001);
     EXPECT_NEAR(amplitudeAt(heard, 900), 0.1, 0.001);
@@ -104,7 +105,11 @@ TEST_F(AudioSystemTest, ReportsABrokenSoundAndGoesOn)
 
     std::unique_ptr<Sound> engine;
     printedBy([&] { engine = audio.createSound("engine", missing); });
-    EXPECT_EQ(printedBy([&] { for (int frame = 0; frame < 10; ++frame) engine->setPitch(1.0f); }), "") << "a line every frame";
+    EXPECT_EQ(printedBy([&] {
+        for (int frame = 0; frame < 10; ++frame) engine->setPitch(1.0f);
+    }),
+        "")
+        << "a line every frame";
 
     audio.play("duck", true, 1.0f);
     EXPECT_NEAR(amplitudeAt(listenFor(1), 500), 0.25, 0.001);

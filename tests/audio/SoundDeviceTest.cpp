@@ -22,8 +22,8 @@ TEST_P(SoundDevices, AreReportedOnceAndNeverStopTheGame)
 {
     const TemporaryFolder folder;
     const std::string settings = folder.write("full.conf", "[wave]\nfile=/dev/full\n");
-    const std::string command = "ALSOFT_CONF='" + settings + "' ALSOFT_DRIVERS=" + GetParam().driver
-        + " '" SOUND_DEVICE_PROBE "' '" DATA_FOLDER "' " + GetParam().errors;
+    const std::string command = "ALSOFT_CONF='" + settings + "' ALSOFT_DRIVERS=" + GetParam().driver +
+        " '" SOUND_DEVICE_PROBE "' '" DATA_FOLDER "' " + GetParam().errors;
 
     std::string printed;
     std::FILE* pipe = popen(command.c_str(), "r");
@@ -33,10 +33,10 @@ TEST_P(SoundDevices, AreReportedOnceAndNeverStopTheGame)
     EXPECT_EQ(printed, GetParam().printed) << GetParam().what;
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, SoundDevices, testing::Values(
-    Machine{"a device that works, and is given back at the end", "null", "2>&1", ""},
-    Machine{"no device", "nosuch", "2>/dev/null", "ERROR | Error, initializing Audiosystem!\n"},
-    Machine{"a device that goes away: its disk is full", "wave", "2>/dev/null",
-        "ERROR | The sound device is gone; going on without sound\n"}));
+INSTANTIATE_TEST_SUITE_P(Table, SoundDevices,
+    testing::Values(Machine{"a device that works, and is given back at the end", "null", "2>&1", ""},
+        Machine{"no device", "nosuch", "2>/dev/null", "ERROR | Error, initializing Audiosystem!\n"},
+        Machine{"a device that goes away: its disk is full", "wave", "2>/dev/null",
+            "ERROR | The sound device is gone; going on without sound\n"}));
 
 } // namespace

@@ -54,19 +54,19 @@ TEST_P(BrokenSoundFiles, AreRefusedWithALineThatNamesThem)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, BrokenSoundFiles, testing::Values(
-    BrokenFile{"missing", [](const TemporaryFolder&, const std::string&) {}},
-    BrokenFile{"empty", [](const TemporaryFolder& folder, const std::string& name) { folder.write(name, ""); }},
-    BrokenFile{"a folder", [](const TemporaryFolder& folder, const std::string& name) { fs::create_directory(folder.path() / name); }},
-    BrokenFile{"text", [](const TemporaryFolder& folder, const std::string& name) { folder.write(name, std::string(5000, 'x')); }},
-    BrokenFile{"zeros", [](const TemporaryFolder& folder, const std::string& name) { folder.write(name, std::string(5000, '\0')); }},
-    BrokenFile{"cut within its header",
-        [](const TemporaryFolder& folder, const std::string& name) { folder.write(name, gameFile("bang.wav").substr(0, 30)); }},
-    BrokenFile{"no samples",
-        [](const TemporaryFolder& folder, const std::string& name) { writeWave((folder.path() / name).string(), {}); }},
-    BrokenFile{"six channels", [](const TemporaryFolder& folder, const std::string& name) {
-        writeWave((folder.path() / name).string(), std::vector<float>(600), 6);
-    }}));
+INSTANTIATE_TEST_SUITE_P(Table, BrokenSoundFiles,
+    testing::Values(BrokenFile{"missing", [](const TemporaryFolder&, const std::string&) {}},
+        BrokenFile{"empty", [](const TemporaryFolder& folder, const std::string& name) { folder.write(name, ""); }},
+        BrokenFile{"a folder", [](const TemporaryFolder& folder, const std::string& name) { fs::create_directory(folder.path() / name); }},
+        BrokenFile{"text", [](const TemporaryFolder& folder, const std::string& name) { folder.write(name, std::string(5000, 'x')); }},
+        BrokenFile{"zeros", [](const TemporaryFolder& folder, const std::string& name) { folder.write(name, std::string(5000, '\0')); }},
+        BrokenFile{"cut within its header",
+            [](const TemporaryFolder& folder, const std::string& name) { folder.write(name, gameFile("bang.wav").substr(0, 30)); }},
+        BrokenFile{
+            "no samples", [](const TemporaryFolder& folder, const std::string& name) { writeWave((folder.path() / name).string(), {}); }},
+        BrokenFile{"six channels", [](const TemporaryFolder& folder, const std::string& name) {
+                       writeWave((folder.path() / name).string(), std::vector<float>(600), 6);
+                   }}));
 
 struct CutFile {
     const char* name;

@@ -29,8 +29,10 @@ void GameSession::launch(const std::vector<std::string>& environment, const std:
 bool GameSession::start()
 {
     launch();
-    return waitForLog("Enter RegisterPlayersGamestate", 1, kStartSeconds) && display.waitForWindow("Quackdash", kStartSeconds)
-        && waitUntil(kStartSeconds, [this] { return detailShare(display.look(), {0, 0, 200, 200}) > 0.01 || !process->isRunning(); });
+    return waitForLog("Enter RegisterPlayersGamestate", 1, kStartSeconds) && display.waitForWindow("Quackdash", kStartSeconds) &&
+        waitUntil(kStartSeconds, [this] {
+            return detailShare(display.look(), {0, 0, 200, 200}) > 0.01 || !process->isRunning();
+        });
 }
 
 void GameSession::tap(const std::string& key)

@@ -19,7 +19,8 @@ protected:
 
     void expectCleanLog()
     {
-        for (const char* text : {"OpenGL Error:", " is not in Library", "ERROR | ", "WARNING | "}) EXPECT_EQ(game.countInLog(text), 0) << text;
+        for (const char* text : {"OpenGL Error:", " is not in Library", "ERROR | ", "WARNING | "})
+            EXPECT_EQ(game.countInLog(text), 0) << text;
     }
 
     /// The share of a region's pixels that change within less than half a second.
@@ -49,8 +50,9 @@ TEST_F(Match, TwoPlayersJoinSplitTheScreenAndDrive)
 {
     const std::string log = game.log();
     std::size_t at = 0;
-    for (const char* line : {"DEBUG | Library load Model: Models/duck.dae > Duck", "DEBUG | Initialize Renderer", "DEBUG | Glfw initialized",
-             "DEBUG | Create Window", "DEBUG | Glew initialized", "DEBUG | Compile Shader ...", "DEBUG | Enter RegisterPlayersGamestate"}) {
+    for (const char* line :
+        {"DEBUG | Library load Model: Models/duck.dae > Duck", "DEBUG | Initialize Renderer", "DEBUG | Glfw initialized",
+            "DEBUG | Create Window", "DEBUG | Glew initialized", "DEBUG | Compile Shader ...", "DEBUG | Enter RegisterPlayersGamestate"}) {
         const std::size_t found = log.find(line, at);
         ASSERT_NE(found, std::string::npos) << line;
         at = found;
@@ -88,7 +90,8 @@ TEST_F(Match, FunctionKeysDoTheirWorkAndLeaveTheLogClean)
     const ScreenArea fpsText{100, 665, 400, 30};
     before = game.screen().lookAt(fpsText);
     game.tap("F2");
-    EXPECT_TRUE(waitUntil(10, [&] { return changedShare(before, game.screen().lookAt(fpsText), before.whole()) > 0.05; })) << "no frame rate";
+    EXPECT_TRUE(waitUntil(10, [&] { return changedShare(before, game.screen().lookAt(fpsText), before.whole()) > 0.05; }))
+        << "no frame rate";
     game.tap("F2");
 
     before = game.screen().look();

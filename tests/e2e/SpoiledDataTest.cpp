@@ -106,6 +106,7 @@ TEST_P(SpoiledData, IsNamedInTheLogAndTheGameGoesOn)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Manifest, SpoiledData, testing::Values(Spoiling::Removed, Spoiling::Empty, Spoiling::Truncated, Spoiling::Garbage));
+INSTANTIATE_TEST_SUITE_P(Manifest, SpoiledData,
+    testing::Values(Spoiling::Removed, Spoiling::Empty, Spoiling::Truncated, Spoiling::Garbage));
 
 } // namespace

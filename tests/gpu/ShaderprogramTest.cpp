@@ -148,8 +148,9 @@ TEST_F(ShaderprogramTest, AProgramThatDoesNotLinkIsReportedAndHarmless)
         {"no stages", {}},
         {"a stage of garbage", {kPlainVertex, kGarbage}},
         {"an empty stage", {kPlainVertex, {GL_FRAGMENT_SHADER, ""}}},
-        {"stages that disagree", {{GL_VERTEX_SHADER, "out vec3 a; void main() { a = vec3(1.0); gl_Position = vec4(a, 1.0); }"},
-                                     {GL_FRAGMENT_SHADER, "in vec2 a; out vec4 c; void main() { c = a.xyxy; }"}}},
+        {"stages that disagree",
+            {{GL_VERTEX_SHADER, "out vec3 a; void main() { a = vec3(1.0); gl_Position = vec4(a, 1.0); }"},
+                {GL_FRAGMENT_SHADER, "in vec2 a; out vec4 c; void main() { c = a.xyxy; }"}}},
         {"evaluation without control and fragment", {{GL_TESS_CONTROL_SHADER, "layout(vertices = 3) out; void main() {}"}}},
     };
     for (const Spoiled& row : rows) {

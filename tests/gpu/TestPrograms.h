@@ -35,4 +35,6 @@ inline const Stage kPlainVertex{GL_VERTEX_SHADER, "in vec3 position; void main()
 /// Paints white.
 inline const Stage kWhiteFragment{GL_FRAGMENT_SHADER, "out vec4 colour; void main() { colour = vec4(1.0); }"};
 
-inline const Stage kGarbage{GL_FRAGMENT_SHADER, "\x7f" "ELF \x01\x02 this is no shader"};
+inline const Stage kGarbage{GL_FRAGMENT_SHADER,
+    "\x7f"
+    "ELF \x01\x02 this is no shader"};

@@ -33,7 +33,8 @@ protected:
 
     static std::vector<glm::u8vec4> texelsOf(const Texture& texture)
     {
-        std::vector<glm::u8vec4> texels(static_cast<std::size_t>(level(texture, 0, GL_TEXTURE_WIDTH) * level(texture, 0, GL_TEXTURE_HEIGHT)));
+        std::vector<glm::u8vec4> texels(static_cast<std::size_t>(level(texture, 0, GL_TEXTURE_WIDTH) *
+            level(texture, 0, GL_TEXTURE_HEIGHT)));
         texture.bind();
         glGetTexImage(GL_TEXTURE_2D, 0, GL_RGBA, GL_UNSIGNED_BYTE, texels.data());
         texture.unbind();
@@ -121,8 +122,9 @@ TEST_F(TextureTest, ABadFileGivesOneLineAndATextureThatSamplesAsBlackWithoutAnyM
         {"folder.tga", "ERROR | couldn't open file: folder.tga\n"},
     };
     const auto program = makeProgram({kPlainVertex,
-        {GL_FRAGMENT_SHADER, "uniform sampler2D tex; out vec4 colour;"
-                             "void main() { colour = vec4(texture(tex, vec2(0.5)).rgb, 1.0) + vec4(0.0, 0.5, 0.0, 0.0); }"}});
+        {GL_FRAGMENT_SHADER,
+            "uniform sampler2D tex; out vec4 colour;"
+            "void main() { colour = vec4(texture(tex, vec2(0.5)).rgb, 1.0) + vec4(0.0, 0.5, 0.0, 0.0); }"}});
     VertexAttributeList layout;
     layout.addAttribute({ATTRIBUTE_VEC3, "position"});
     VertexBuffer triangle(&layout, 3);

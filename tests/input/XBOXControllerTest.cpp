@@ -1,6 +1,6 @@
 #include "input/XBOXController.h"
-#include "support/SteppedClock.h"
 #include "VirtualPad.h"
+#include "support/SteppedClock.h"
 
 #include <array>
 #include <deque>
@@ -42,7 +42,8 @@ protected:
     PadLibrary library;
     SteppedClock clock;
     GamePads pads;
-    std::array<XBOXController, 4> controllers{XBOXController{1, pads}, XBOXController{2, pads}, XBOXController{3, pads}, XBOXController{4, pads}};
+    std::array<XBOXController, 4> controllers{
+        XBOXController{1, pads}, XBOXController{2, pads}, XBOXController{3, pads}, XBOXController{4, pads}};
     XBOXController& first = controllers[0];
 };
 
@@ -83,13 +84,13 @@ TEST_F(XBOXControllerTest, TriggersAndStickMoveTheirAxesOutsideTheDeadZone)
     constexpr auto kX = SDL_CONTROLLER_AXIS_LEFTX, kY = SDL_CONTROLLER_AXIS_LEFTY;
     constexpr auto kLeft = SDL_CONTROLLER_AXIS_TRIGGERLEFT, kRight = SDL_CONTROLLER_AXIS_TRIGGERRIGHT;
     constexpr int kThrottle = 0, kBrake = 1, kSteering = 2, kVertical = 3;
-    const AxisRow rows[] = {{kRight, 32767, kThrottle, 1.0f}, {kRight, -32768 + 128 * 257, kThrottle, 128 / 255.0f}, {kRight, -32768, kThrottle, 0.0f},
-        {kLeft, 32767, kBrake, -1.0f}, {kLeft, -32768 + 257, kBrake, -1 / 255.0f}, {kLeft, -32768, kBrake, 0.0f},
-        {kX, 32767, kSteering, 32767 / 32768.0f}, {kX, 7849, kSteering, 7849 / 32768.0f}, {kX, 7848, kSteering, 0.0f},
-        {kX, -32768, kSteering, -1.0f}, {kX, -7849, kSteering, -7849 / 32768.0f}, {kX, -7848, kSteering, 0.0f},
+    const AxisRow rows[] = {{kRight, 32767, kThrottle, 1.0f}, {kRight, -32768 + 128 * 257, kThrottle, 128 / 255.0f},
+        {kRight, -32768, kThrottle, 0.0f}, {kLeft, 32767, kBrake, -1.0f}, {kLeft, -32768 + 257, kBrake, -1 / 255.0f},
+        {kLeft, -32768, kBrake, 0.0f}, {kX, 32767, kSteering, 32767 / 32768.0f}, {kX, 7849, kSteering, 7849 / 32768.0f},
+        {kX, 7848, kSteering, 0.0f}, {kX, -32768, kSteering, -1.0f}, {kX, -7849, kSteering, -7849 / 32768.0f}, {kX, -7848, kSteering, 0.0f},
         {kY, -32768, kVertical, 32767 / 32768.0f}, {kY, -7850, kVertical, 7849 / 32768.0f}, {kY, -7849, kVertical, 0.0f},
-        {kY, 32767, kVertical, -1.0f}, {kY, 7848, kVertical, -7849 / 32768.0f}, {kY, 7847, kVertical, 0.0f},
-        {kX, 0, kSteering, 0.0f}, {kY, 0, kVertical, 0.0f}, {SDL_CONTROLLER_AXIS_RIGHTX, 32767, 4, 0.0f}};
+        {kY, 32767, kVertical, -1.0f}, {kY, 7848, kVertical, -7849 / 32768.0f}, {kY, 7847, kVertical, 0.0f}, {kX, 0, kSteering, 0.0f},
+        {kY, 0, kVertical, 0.0f}, {SDL_CONTROLLER_AXIS_RIGHTX, 32767, 4, 0.0f}};
     VirtualPad pad;
     pass();
     for (const AxisRow& row : rows) {

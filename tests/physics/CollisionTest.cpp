@@ -89,7 +89,8 @@ TEST(CollisionFilter, AddsWhatTheRecordsAskFor)
     const Case cases[] = {
         {"no groups at all", {0, 0, 0, 0}, {0, 0, 0, 0}, resolved},
         {"only one lists the other", {4, 16, 0, 0}, {16, 0, 0, 0}, resolved},
-        {"swept contacts asked for by one", {4, 4, 0, 0}, {4, 4, 0, 1}, resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND | PxPairFlag::eDETECT_CCD_CONTACT},
+        {"swept contacts asked for by one", {4, 4, 0, 0}, {4, 4, 0, 1},
+            resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND | PxPairFlag::eDETECT_CCD_CONTACT},
         {"other bits of word3", {4, 4, 0, 2}, {4, 4, 0, 0xFFFF0000}, resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND},
         {"extra flags of both", {4, 4, PxPairFlag::eNOTIFY_TOUCH_LOST, 0}, {4, 4, PxPairFlag::eNOTIFY_TOUCH_PERSISTS, 0},
             resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND | PxPairFlag::eNOTIFY_TOUCH_LOST | PxPairFlag::eNOTIFY_TOUCH_PERSISTS},

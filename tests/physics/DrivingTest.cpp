@@ -119,7 +119,8 @@ TEST_F(DrivingTest, TheBrakeControlAtSpeedBrakesBeforeItReverses)
     EXPECT_FALSE(controls.isReversing());
     EXPECT_LT(speed(), before - 1);
     EXPECT_GT(speed(), 0);
-    EXPECT_TRUE(world.runUntil(600, [&] { return controls.isReversing(); }, [&] { controls.apply(brake, car); }));
+    EXPECT_TRUE(world.runUntil(
+        600, [&] { return controls.isReversing(); }, [&] { controls.apply(brake, car); }));
     EXPECT_LT(speed(), 0.001f);
 }
 
@@ -147,7 +148,8 @@ TEST_F(DrivingTest, ThrottleAndBrakeAtRestEndInFirstGear)
 
 TEST_F(DrivingTest, ShiftsUpByItself)
 {
-    EXPECT_TRUE(world.runUntil(1200, [&] { return gear() > Gears::eFIRST; }, [&] { controls.apply(throttle, car); }));
+    EXPECT_TRUE(world.runUntil(
+        1200, [&] { return gear() > Gears::eFIRST; }, [&] { controls.apply(throttle, car); }));
 }
 
 TEST_F(DrivingTest, TheHandBrakeSlowsOnlyTheRearWheels)

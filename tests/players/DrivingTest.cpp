@@ -18,7 +18,10 @@ public:
         EXPECT_LT(std::abs(speed()), 0.1f);
     }
 
-    glm::vec3 axis(int column) const { return glm::vec3(match.graph.getRoot()->find("PlayerCamera0")->getParent()->getWorldTransform()[column]); }
+    glm::vec3 axis(int column) const
+    {
+        return glm::vec3(match.graph.getRoot()->find("PlayerCamera0")->getParent()->getWorldTransform()[column]);
+    }
     glm::vec3 up() const { return axis(1); }
     glm::vec3 forward() const { return axis(2); }
     float speed() const { return player.getVehicle()->computeForwardSpeed(); }

@@ -4,8 +4,8 @@
 #include "support/Near.h"
 #include "support/ScriptedDevice.h"
 
-#include <vehicle/PxVehicleDrive4W.h>
 #include <PxRigidDynamic.h>
+#include <vehicle/PxVehicleDrive4W.h>
 
 #include <gtest/gtest.h>
 
@@ -125,9 +125,7 @@ TEST_F(PlayerTest, LabelsStandAtTheViewportsLeftEdgeAndNeverAboveTheWindow)
     Player& player = match.addPlayer(device);
     player.addScore(12);
     const LabelRow rows[] = {
-        {{0, 0, 1024, 768}, -0.95, 0.9},
-        {{512, 384, 512, 384}, 0.05, 0.9},
-        {{512, 0, 512, 384}, 0.05, 0.9},
+        {{0, 0, 1024, 768}, -0.95, 0.9}, {{512, 384, 512, 384}, 0.05, 0.9}, {{512, 0, 512, 384}, 0.05, 0.9},
         {{681, 384, 340, 384}, 2.0 * 681 / 1024 - 0.95, 0.9},
         {{256, 576, 256, 192}, -0.45, 0.5}, // a lower edge high up pulls the label down
     };

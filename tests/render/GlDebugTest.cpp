@@ -22,7 +22,8 @@ std::string lineFor(GLenum source, GLenum type, GLenum severity)
 
 std::string expected(const char* source, const char* type, const char* severity)
 {
-    return std::string("ERROR | OpenGL Error: text [Source = ") + source + ", Type = " + type + ", Severity = " + severity + ", ID = 1281]\n";
+    return std::string("ERROR | OpenGL Error: text [Source = ") + source + ", Type = " + type + ", Severity = " + severity +
+        ", ID = 1281]\n";
 }
 
 TEST(GlDebugMessage, IsOneErrorLineWithNamesForEveryPart)
@@ -36,11 +37,11 @@ TEST(GlDebugMessage, IsOneErrorLineWithNamesForEveryPart)
     for (const Name& row : sources)
         EXPECT_EQ(lineFor(row.value, GL_DEBUG_TYPE_ERROR, GL_DEBUG_SEVERITY_HIGH), expected(row.name, "Error", "High"));
 
-    const Name types[] = {{GL_DEBUG_TYPE_DEPRECATED_BEHAVIOR, "Deprecated Behavior"}, {GL_DEBUG_CATEGORY_DEPRECATION_AMD, "Deprecated Behavior"},
-        {GL_DEBUG_TYPE_UNDEFINED_BEHAVIOR, "Undefined Behavior"}, {GL_DEBUG_CATEGORY_UNDEFINED_BEHAVIOR_AMD, "Undefined Behavior"},
-        {GL_DEBUG_TYPE_PORTABILITY, "Portability"}, {GL_DEBUG_TYPE_PERFORMANCE, "Performance"},
-        {GL_DEBUG_CATEGORY_PERFORMANCE_AMD, "Performance"}, {GL_DEBUG_TYPE_OTHER, "Other"}, {GL_DEBUG_CATEGORY_OTHER_AMD, "Other"},
-        {GL_DEBUG_TYPE_MARKER, "Unknown"}};
+    const Name types[] = {{GL_DEBUG_TYPE_DEPRECATED_BEHAVIOR, "Deprecated Behavior"},
+        {GL_DEBUG_CATEGORY_DEPRECATION_AMD, "Deprecated Behavior"}, {GL_DEBUG_TYPE_UNDEFINED_BEHAVIOR, "Undefined Behavior"},
+        {GL_DEBUG_CATEGORY_UNDEFINED_BEHAVIOR_AMD, "Undefined Behavior"}, {GL_DEBUG_TYPE_PORTABILITY, "Portability"},
+        {GL_DEBUG_TYPE_PERFORMANCE, "Performance"}, {GL_DEBUG_CATEGORY_PERFORMANCE_AMD, "Performance"}, {GL_DEBUG_TYPE_OTHER, "Other"},
+        {GL_DEBUG_CATEGORY_OTHER_AMD, "Other"}, {GL_DEBUG_TYPE_MARKER, "Unknown"}};
     for (const Name& row : types)
         EXPECT_EQ(lineFor(GL_DEBUG_SOURCE_API, row.value, GL_DEBUG_SEVERITY_LOW), expected("API", row.name, "Low"));
 

@@ -26,7 +26,8 @@ std::vector<Particle> particlesOf(const ParticleSystem& system)
 /// A movement whose k-th state can be told: x grows by Time, ttl counts the steps, velocity repeats the emitter.
 void buildCountingMovement(Shaderprogram& program)
 {
-    Shader vertex(GL_VERTEX_SHADER, "#version 430 core\n"
+    Shader vertex(GL_VERTEX_SHADER,
+        "#version 430 core\n"
         "in vec3 position; in float ttl; in vec3 velocity; uniform float Time; uniform vec3 emitter_pos;\n"
         "out vec3 vPosition; out float vTtl; out vec3 vVelocity;\n"
         "void main() { vPosition = position + vec3(Time, 0, 0); vTtl = ttl + 1.0; vVelocity = emitter_pos + 0.0 * velocity; }");
@@ -60,7 +61,8 @@ TEST_F(ParticleSystemTest, AfterKUpdatesTheKthStateIsThereAndDrawn)
         passOf(0.02, system);
         const std::vector<Particle> state = particlesOf(system);
         for (std::size_t i = 0; i < state.size(); ++i) {
-            ASSERT_NEAR(state[i].position.x, start[i].position.x + 0.06f * static_cast<float>(k), 1e-5f) << "a step is three times the pass";
+            ASSERT_NEAR(state[i].position.x, start[i].position.x + 0.06f * static_cast<float>(k), 1e-5f)
+                << "a step is three times the pass";
             ASSERT_EQ(state[i].position.y, start[i].position.y);
             ASSERT_EQ(state[i].ttl, start[i].ttl + static_cast<float>(k));
             ASSERT_EQ(state[i].velocity, glm::vec3(1, 2, 3));

@@ -66,8 +66,8 @@ void loadAssets()
 {
     if (!enterDataFolder()) throw std::runtime_error("no data folder");
     Library* library = Library::getInstance();
-    for (const char* name : {"ShadowDepth", "Cel", "Blur", "CelPostProc", "TextShader", "ParticleMovement", "ParticleRender", "SkyboxShader",
-             "ColorShader", "WireframeShader"}) {
+    for (const char* name : {"ShadowDepth", "Cel", "Blur", "CelPostProc", "TextShader", "ParticleMovement", "ParticleRender",
+             "SkyboxShader", "ColorShader", "WireframeShader"}) {
         library->loadShader(name, std::string("Shader/") + name + ".shader");
     }
     library->loadTexture("Font", "Textures/font.tga");
@@ -196,8 +196,8 @@ std::vector<RenderTest::Line> RenderTest::queuedLines() const
     for (std::size_t i = 0; i < queue.size(); i += 6) {
         const auto& upperLeft = queue[i];
         const float x = upperLeft.x, y = upperLeft.y - kGlyph;
-        const bool continues = !lines.empty() && y == lines.back().y
-            && std::abs(lines.back().x + kGlyph * static_cast<float>(lines.back().text.size()) - x) < kGlyph / 2;
+        const bool continues = !lines.empty() && y == lines.back().y &&
+            std::abs(lines.back().x + kGlyph * static_cast<float>(lines.back().text.size()) - x) < kGlyph / 2;
         if (!continues) lines.push_back({"", x, y});
         const int cell = static_cast<int>(std::lround(upperLeft.v * 16) * 16 + std::lround(upperLeft.u * 16));
         lines.back().text += cell == 96 ? ' ' : static_cast<char>('!' + cell);

@@ -55,10 +55,10 @@ private:
 
 /// What the first start of the renderer did, before any asset was loaded.
 struct FirstStart {
-    std::string log;                  ///< of initialize()
-    bool callbackRegistered = false;  ///< ours, for GL messages
-    std::string emptyFrameLog;        ///< of a frame with an empty asset library, GL messages included
-    glm::ivec4 emptyFramePixel{0};    ///< in the middle of its window
+    std::string log;                 ///< of initialize()
+    bool callbackRegistered = false; ///< ours, for GL messages
+    std::string emptyFrameLog;       ///< of a frame with an empty asset library, GL messages included
+    glm::ivec4 emptyFramePixel{0};   ///< in the middle of its window
 };
 
 /// A scene of its own before the one real renderer, which all tests share: the window is opened before the first, with the game's shaders

@@ -64,7 +64,8 @@ TEST_F(RenderTest, TheStepsOfAFrameComeInOrder)
 {
     addWholeWindow();
     frame();
-    EXPECT_EQ(stepsOfFrame(), (std::vector<std::string>{"scene update", "shadow pass", "model passes", "text", "Blur", "CelPostProc", "swap"}));
+    EXPECT_EQ(stepsOfFrame(),
+        (std::vector<std::string>{"scene update", "shadow pass", "model passes", "text", "Blur", "CelPostProc", "swap"}));
 }
 
 TEST_F(RenderTest, WireframeDrawsOutlinesStraightIntoTheWindowAndComesBack)

@@ -9,8 +9,8 @@ namespace {
 TEST_F(RenderTest, StartsInOrderAndListensToTheDriver)
 {
     std::size_t last = 0;
-    for (const char* line : {"DEBUG | Initialize Renderer\n",
-             "DEBUG | Glfw initialized\n", "DEBUG | Create Window\n", "DEBUG | Glew initialized\n"}) {
+    for (const char* line :
+        {"DEBUG | Initialize Renderer\n", "DEBUG | Glfw initialized\n", "DEBUG | Create Window\n", "DEBUG | Glew initialized\n"}) {
         const std::size_t found = firstStart().log.find(line, last);
         ASSERT_NE(found, std::string::npos) << line << "is missing or too early in\n" << firstStart().log;
         last = found;

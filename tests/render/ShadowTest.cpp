@@ -237,9 +237,8 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
 
     const auto reloadDepthProgram = [&folder](const char* position) {
         const std::string vertex = folder.write("a.vert",
-            std::string("#version 430 core\nlayout(location = 0) in vec3 position; uniform mat4 mvp;\n")
-                + "void main() { gl_Position = mvp * vec4("
-                + position + ", 1.0); }");
+            std::string("#version 430 core\nlayout(location = 0) in vec3 position; uniform mat4 mvp;\n") +
+                "void main() { gl_Position = mvp * vec4(" + position + ", 1.0); }");
         const std::string fragment = folder.write("a.frag", "#version 430 core\nvoid main() {}");
         const std::string program = folder.write("a.shader", "VERTEX_SHADER " + vertex + "\nFRAGMENT_SHADER " + fragment + "\n");
         Library::getInstance()->loadShader("ShadowDepth", program);
@@ -247,7 +246,10 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
     const std::pair<const char*, std::function<void()>> changes[] = {
         {"first frame", [] {}},
         {"nothing", [] {}},
-        {"a static caster moves", [&] { wall.getNode()->setTransform(glm::scale(at(-80, 0, 20), {10, 30, 40})); }},
+        {"a static caster moves",
+            [&] {
+                wall.getNode()->setTransform(glm::scale(at(-80, 0, 20), {10, 30, 40}));
+            }},
         {"a static caster goes", [&] { remove(wall); }},
         {"a static caster comes", [&] { addStatic(glm::scale(at(120, 0, -120), glm::vec3(20))); }},
         {"a static caster casts no more", [&] { ground.castsShadow = false; }},
@@ -256,8 +258,17 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
         {"and it moves", [&] { unknown.getNode()->setTransform(glm::scale(at(90, 0, 0), glm::vec3(12))); }},
         {"and goes", [&] { remove(unknown); }},
         {"a moving caster rests for good", [&] { car.isStatic = true; }},
-        {"and drives off", [&] { car.isStatic = false; car.getNode()->setTransform(glm::scale(at(30, 0, -60), glm::vec3(15))); }},
-        {"somebody else drew", [&] { cached.framebuffer.bind(); glClear(GL_DEPTH_BUFFER_BIT); cache.invalidate(); }},
+        {"and drives off",
+            [&] {
+                car.isStatic = false;
+                car.getNode()->setTransform(glm::scale(at(30, 0, -60), glm::vec3(15)));
+            }},
+        {"somebody else drew",
+            [&] {
+                cached.framebuffer.bind();
+                glClear(GL_DEPTH_BUFFER_BIT);
+                cache.invalidate();
+            }},
         {"another depth program", [&] { reloadDepthProgram("position * 0.5"); }},
         {"one that does not link", [&] { Library::getInstance()->getShaderprogram("ShadowDepth")->createProgram(); }},
         {"the right one again", [&] { Library::getInstance()->loadShader("ShadowDepth", "Shader/ShadowDepth.shader"); }},

@@ -38,8 +38,12 @@ TEST_F(SkyboxTest, IsSeenFromInsideInEveryDirectionWithItsOwnCell)
         int column, row;
     };
     const Row rows[] = {
-        {"-x", {-1, 0, 0}, {0, 1, 0}, 0, 0}, {"+z", {0, 0, 1}, {0, 1, 0}, 1, 0}, {"+x", {1, 0, 0}, {0, 1, 0}, 2, 0},
-        {"-z", {0, 0, -1}, {0, 1, 0}, 3, 0}, {"top", {0, 1, 0}, {0, 0, 1}, 1, 1}, {"bottom", {0, -1, 0}, {0, 0, 1}, 0, 0},
+        {"-x", {-1, 0, 0}, {0, 1, 0}, 0, 0},
+        {"+z", {0, 0, 1}, {0, 1, 0}, 1, 0},
+        {"+x", {1, 0, 0}, {0, 1, 0}, 2, 0},
+        {"-z", {0, 0, -1}, {0, 1, 0}, 3, 0},
+        {"top", {0, 1, 0}, {0, 0, 1}, 1, 1},
+        {"bottom", {0, -1, 0}, {0, 0, 1}, 0, 0},
     };
     const Viewport& view = addWholeWindow();
     for (const Row& row : rows) {

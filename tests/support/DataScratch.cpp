@@ -29,8 +29,8 @@ void DataScratch::write(const std::string& path, const std::string& content) con
     std::ofstream(target, std::ios::binary) << content;
 }
 
-void DataScratch::writeTga(
-    const std::string& path, int width, int height, int channels, const std::function<int(int, int, int)>& component) const
+void DataScratch::writeTga(const std::string& path, int width, int height, int channels,
+    const std::function<int(int, int, int)>& component) const
 {
     const auto byte = [](int value) { return static_cast<char>(static_cast<unsigned char>(value & 0xFF)); };
     std::string file(18, '\0');
@@ -44,7 +44,8 @@ void DataScratch::writeTga(
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
             if (channels == 1) file += byte(component(x, y, 0));
-            else for (const int i : {2, 1, 0}) file += byte(component(x, y, i));
+            else
+                for (const int i : {2, 1, 0}) file += byte(component(x, y, i));
             if (channels == 4) file += byte(component(x, y, 3));
         }
     write(path, file);

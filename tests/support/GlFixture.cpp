@@ -17,7 +17,8 @@ GLuint framebuffer = 0;
 
 void openWindow(int side)
 {
-    if (!window.initialize() || !window.open(side, side, "test")) throw std::runtime_error("no OpenGL 4.3 core context; is there a display?");
+    if (!window.initialize() || !window.open(side, side, "test"))
+        throw std::runtime_error("no OpenGL 4.3 core context; is there a display?");
     windowOpened = true;
     glewExperimental = GL_TRUE;
     if (glewInit() != GLEW_OK) throw std::runtime_error("glewInit failed");

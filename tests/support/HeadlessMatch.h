@@ -48,7 +48,7 @@ public:
     std::vector<Sound> sounds; ///< everything played so far
     float throttle = 0;        ///< of whoever was heard last
     std::vector<glm::vec4> colours;
-    std::vector<Line> lines;        ///< of the last pass
+    std::vector<Line> lines;         ///< of the last pass
     glm::vec3 emitterPosition{0.0f}; ///< of whoever smoked last
 };
 

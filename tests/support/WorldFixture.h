@@ -18,7 +18,7 @@ class WorldFixture {
 public:
     using Heights = std::function<int(int x, int y)>; ///< height byte of pixel (x, y), y from the bottom row up
 
-    static constexpr float kPassSeconds = 1.0f / 120.0f; ///< real time of a pass
+    static constexpr float kPassSeconds = 1.0f / 120.0f;  ///< real time of a pass
     static constexpr float kGameDelta = 3 * kPassSeconds; ///< game time of a pass
 
     explicit WorldFixture(physx::PxSimulationEventCallback* contacts = nullptr) : manager(*PhysxManager::getInstance(contacts)) {}
@@ -63,7 +63,8 @@ public:
     }
 
     /// Passes until the predicate holds; false when it does not within maxPasses. `each` runs before every pass.
-    bool runUntil(int maxPasses, const std::function<bool()>& predicate, const std::function<void()>& each = [] {})
+    bool runUntil(
+        int maxPasses, const std::function<bool()>& predicate, const std::function<void()>& each = [] {})
     {
         for (int i = 0; i < maxPasses; ++i) {
             if (predicate()) return true;
@@ -74,9 +75,11 @@ public:
     }
 
     /// That many seconds by the clock on the wall. `each` runs before every pass.
-    void runSeconds(float seconds, const std::function<void()>& each = [] {})
+    void runSeconds(
+        float seconds, const std::function<void()>& each = [] {})
     {
-        runUntil(static_cast<int>(seconds / kPassSeconds + 0.5f), [] { return false; }, each);
+        runUntil(
+            static_cast<int>(seconds / kPassSeconds + 0.5f), [] { return false; }, each);
     }
 
     static glm::vec3 positionOf(const VehicleHandle& car)

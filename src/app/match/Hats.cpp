@@ -17,8 +17,8 @@ glm::mat4 seat()
 {
     const glm::mat4 identity(1.0f);
     const glm::vec3 xAxis(1, 0, 0);
-    return glm::scale(identity, glm::vec3(0.5f)) * glm::rotate(identity, glm::radians(90.0f), xAxis)
-         * glm::translate(identity, glm::vec3(-0.1f, 1, -7.3f)) * glm::rotate(identity, glm::radians(-180.0f), xAxis);
+    return glm::scale(identity, glm::vec3(0.5f)) * glm::rotate(identity, glm::radians(90.0f), xAxis) *
+        glm::translate(identity, glm::vec3(-0.1f, 1, -7.3f)) * glm::rotate(identity, glm::radians(-180.0f), xAxis);
 }
 
 } // namespace

@@ -25,7 +25,7 @@ constexpr int kFlightMargin = 20;       // world units beyond the field's half e
 constexpr int kMostHits = 10;           // touches after which a ball is spent
 constexpr int kHitPoints = 1;
 constexpr int kKillBonus[Ranking::kPlaces + 1] = {8, 7, 6, 5}; // points by the victim's place; the last for anyone else
-const PxVec3 kVehicleGravity(0, -9.81f, 0); // units per second squared, at the vehicles' own time step
+const PxVec3 kVehicleGravity(0, -9.81f, 0);                    // units per second squared, at the vehicles' own time step
 
 glm::vec3 flatDirection(const glm::vec3& vector)
 {
@@ -147,13 +147,14 @@ bool MatchRules::hasLeftPlay(const Ball& ball) const
 {
     const auto limit = static_cast<float>(terrain->getSize() / 2 + kFlightMargin);
     const glm::vec3 position = ball.getNode()->getWorldPosition();
-    return position.y < kLowestHeight || ball.getHits() >= kMostHits || std::abs(position.x) > limit || std::abs(position.z) > limit
-        || ball.isExpired();
+    return position.y < kLowestHeight || ball.getHits() >= kMostHits || std::abs(position.x) > limit || std::abs(position.z) > limit ||
+        ball.isExpired();
 }
 
 void MatchRules::removeSpentBalls(const std::vector<Ball*>& spent)
 {
-    std::erase_if(balls, [&spent](const std::unique_ptr<Ball>& ball) { return std::find(spent.begin(), spent.end(), ball.get()) != spent.end(); });
+    std::erase_if(balls,
+        [&spent](const std::unique_ptr<Ball>& ball) { return std::find(spent.begin(), spent.end(), ball.get()) != spent.end(); });
 }
 
 void MatchRules::onContact(const PxContactPairHeader& header, const PxContactPair* pairs, PxU32 count)
@@ -167,9 +168,8 @@ void MatchRules::recordTouch(const PxContactPairHeader& header)
 {
     const auto isInPair = [&header](const PxActor* body) { return body == header.actors[0] || body == header.actors[1]; };
 
-    const auto touched = std::find_if(actors.begin(), actors.end(), [&](const Actor* actor) {
-        return actor->isPlayer() && isInPair(static_cast<const Player*>(actor)->getVehicle()->getActor());
-    });
+    const auto touched = std::find_if(actors.begin(), actors.end(),
+        [&](const Actor* actor) { return actor->isPlayer() && isInPair(static_cast<const Player*>(actor)->getVehicle()->getActor()); });
     if (touched != actors.end()) {
         Player* victim = static_cast<Player*>(*touched);
         const PxActor* other = header.actors[0] == victim->getVehicle()->getActor() ? header.actors[1] : header.actors[0];
@@ -177,7 +177,8 @@ void MatchRules::recordTouch(const PxContactPairHeader& header)
         if (hit.second && std::find(ballHits.begin(), ballHits.end(), hit) == ballHits.end()) ballHits.push_back(hit);
     }
 
-    const auto ball = std::find_if(balls.begin(), balls.end(), [&](const auto& candidate) { return isInPair(candidate->getNode()->actor); });
+    const auto ball =
+        std::find_if(balls.begin(), balls.end(), [&](const auto& candidate) { return isInPair(candidate->getNode()->actor); });
     if (ball != balls.end()) (*ball)->registerHit();
 }
 

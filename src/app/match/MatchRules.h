@@ -53,8 +53,8 @@ public:
     /// The cell of the split screen that no player uses, in pixels; nothing when all are used.
     std::optional<Viewport::Rect> freeViewportRect() const;
 
-    std::vector<Player*> getPlayers() const { return players; }       ///< the human players, in order of joining
-    const std::vector<Actor*>& getActors() const { return actors; }   ///< every participant, in order of joining
+    std::vector<Player*> getPlayers() const { return players; }     ///< the human players, in order of joining
+    const std::vector<Actor*>& getActors() const { return actors; } ///< every participant, in order of joining
     const Ranking& getRanking() const { return ranking; }
     const Hats& getHats() const { return hats; }
     const std::vector<std::unique_ptr<Ball>>& getBalls() const { return balls; } ///< the shots in flight
