@@ -16,12 +16,8 @@ struct Winding {
 
 TEST_F(BuffersTest, IndicesAreStoredAndTheirWindingFlippedInPlaceAndGoWithTheirBuffer)
 {
-    const Winding rows[] = {
-        {{0, 1, 2, 3, 4, 5}, false, {0, 1, 2, 3, 4, 5}},
-        {{0, 1, 2, 65535, 4, 5, 6}, true, {0, 2, 1, 65535, 5, 4, 6}},
-        {{0, 1}, true, {0, 1}},
-        {{}, true, {}},
-    };
+    const Winding rows[] = {{{0, 1, 2, 3, 4, 5}, false, {0, 1, 2, 3, 4, 5}}, {{0, 1, 2, 65535, 4, 5, 6}, true, {0, 2, 1, 65535, 5, 4, 6}},
+        {{0, 1}, true, {0, 1}}, {{}, true, {}}};
     GLuint name = 0;
     for (const Winding& row : rows) {
         std::vector<unsigned short> indices = row.given;
@@ -92,39 +88,6 @@ TEST_F(BuffersTest, AVertexArrayLeavesOutWhatTheProgramLacksAtTheFullLayoutsOffs
     GLint stride = 0;
     glGetIntegeri_v(GL_VERTEX_BINDING_STRIDE, 0, &stride);
     EXPECT_EQ(stride, 32);
-    deleteVertexArray(vao);
-}
-
-/// What a particle system does every frame: read one buffer, write the other, exchange them, go on with the same vertex array.
-TEST_F(BuffersTest, TwoBuffersTakeTurnsInTransformFeedback)
-{
-    Shaderprogram program;
-    program.setFeedbackOutputs({"vPosition"});
-    const Stage doubling{GL_VERTEX_SHADER, "in vec3 position; out vec3 vPosition; void main() { vPosition = position * 2.0; }"};
-    build(program, {doubling});
-    program.createProgram(); // outputs must survive a reload
-    build(program, {doubling});
-    ASSERT_TRUE(program.isUsable());
-
-    Positions one({1, 2, 3}), other({0, 0, 0});
-    VertexBuffer &current = one.vertices, &next = other.vertices;
-    const GLuint vao = one.layout.createVAO(&program, &current);
-
-    glEnable(GL_RASTERIZER_DISCARD);
-    for (int step = 0; step < 3; ++step) {
-        program.use();
-        glBindVertexArray(vao);
-        current.bindVertexBuffer(0, 0, 12);
-        next.bindFeedback(0);
-        ASSERT_TRUE(isReadyToDraw(GL_POINTS));
-        glBeginTransformFeedback(GL_POINTS);
-        glDrawArrays(GL_POINTS, 0, 1);
-        glEndTransformFeedback();
-        current.swapStorage(next);
-    }
-    glDisable(GL_RASTERIZER_DISCARD);
-    EXPECT_EQ(contentOf<float>(current.getHandle()), (std::vector<float>{8, 16, 24}));
-    EXPECT_EQ(contentOf<float>(next.getHandle()), (std::vector<float>{4, 8, 12}));
     deleteVertexArray(vao);
 }
 

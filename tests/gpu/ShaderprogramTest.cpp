@@ -120,13 +120,9 @@ TEST_F(ShaderprogramTest, ASetterWritesToTheCurrentProgram)
 /// Programs that cannot be used, whatever the reason, must be reported once and then be harmless.
 TEST_F(ShaderprogramTest, AProgramThatDoesNotLinkIsReportedAndHarmless)
 {
-    const std::vector<Stage> rows[] = {
-        {},
-        {kPlainVertex, kGarbage},
-        {kPlainVertex, {GL_FRAGMENT_SHADER, ""}},
+    const std::vector<Stage> rows[] = {{}, {kPlainVertex, kGarbage}, {kPlainVertex, {GL_FRAGMENT_SHADER, ""}},
         {{GL_VERTEX_SHADER, "out vec3 a; void main() { a = vec3(1.0); gl_Position = vec4(a, 1.0); }"},
-            {GL_FRAGMENT_SHADER, "in vec2 a; out vec4 c; void main() { c = a.xyxy; }"}},
-    };
+            {GL_FRAGMENT_SHADER, "in vec2 a; out vec4 c; void main() { c = a.xyxy; }"}}};
     for (const std::vector<Stage>& stages : rows) {
         SCOPED_TRACE(&stages - rows);
         CompilerErrorsExpected spoiled;
@@ -165,16 +161,6 @@ TEST_F(ShaderprogramTest, AReloadReplacesAndDeletesTheProgramObject)
     program->use();
     EXPECT_EQ(integer(GL_CURRENT_PROGRAM), static_cast<GLint>(program->getHandle()));
     EXPECT_EQ(numberOf(*program, "number"), 0.0f) << "values do not carry over";
-}
-
-TEST_F(ShaderprogramTest, AStagesMessagesGoToTheLogUpToTheirEnd)
-{
-    CompilerErrorsExpected spoiled;
-    CapturedLog log;
-    const Shader shader(GL_VERTEX_SHADER, "#version 430 core\nvoid main() { undeclared = 1; }\n");
-    EXPECT_FALSE(shader.isCompiled());
-    EXPECT_TRUE(log.contains("undeclared")) << log.text();
-    EXPECT_FALSE(log.contains(std::string(1, '\0')));
 }
 
 } // namespace

@@ -51,11 +51,7 @@ struct Picture {
 
 TEST_F(TextureTest, SidesAreRaisedToPowersOfTwoAndTheChannelsDecideTheFormat)
 {
-    const Picture rows[] = {
-        {300, 200, 3, 512, 256, GL_RGB, 10},
-        {256, 256, 4, 256, 256, GL_RGBA, 9},
-        {3, 5, 1, 4, 8, GL_RGB, 4},
-    };
+    const Picture rows[] = {{300, 200, 3, 512, 256, GL_RGB, 10}, {256, 256, 4, 256, 256, GL_RGBA, 9}, {3, 5, 1, 4, 8, GL_RGB, 4}};
     for (const Picture& row : rows) {
         SCOPED_TRACE(row.width);
         data.writeTga("Textures/picture.tga", row.width, row.height, row.channels, [](int, int, int i) { return 40 * (i + 1); });
@@ -98,9 +94,7 @@ TEST_F(TextureTest, ABadFileGivesOneLineAndATextureThatSamplesAsBlackWithoutAnyM
 {
     data.write("garbage.tga", std::string(3000, '\x5a'));
     const std::pair<const char*, const char*> rows[] = {
-        {"absent.tga", "ERROR | couldn't open file: absent.tga\n"},
-        {"garbage.tga", "ERROR | not a TGA picture: garbage.tga\n"},
-    };
+        {"absent.tga", "ERROR | couldn't open file: absent.tga\n"}, {"garbage.tga", "ERROR | not a TGA picture: garbage.tga\n"}};
     const auto program = makeProgram({kPlainVertex,
         {GL_FRAGMENT_SHADER,
             "uniform sampler2D tex; out vec4 colour;"
