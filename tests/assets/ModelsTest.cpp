@@ -152,16 +152,9 @@ TEST_F(ModelsTest, ADriverWhoseMeshFailedToLoadIsNotDrawn)
 
 TEST_F(ModelsTest, AHellknightSetsItsUniformsForTheCameraItself)
 {
-    data.write("texture.vert",
-        "#version 430 core\nin vec3 position; in vec3 normal; in vec2 texcoord; uniform mat4 view, projection, model;\n"
-        "uniform mat3 normalMatrix; out vec2 uv; out vec3 n; void main() { uv = texcoord; n = normalMatrix * normal;\n"
-        "gl_Position = projection * view * model * vec4(position, 1.0); }");
-    data.write("texture.frag",
-        "#version 430 core\nin vec2 uv; in vec3 n; uniform sampler2D tex; out vec4 colour;\n"
-        "void main() { colour = vec4(texture(tex, uv).rg, n.z, 1.0); }");
-    data.write("texture.shader", "VERTEX_SHADER texture.vert FRAGMENT_SHADER texture.frag");
-    data.writeTga("knight.tga", 2, 2, 3, [](int x, int y, int i) { return i == 0 ? 255 * x : i == 1 ? 255 * y : 0; });
-    library.loadShader("TextureShader", "texture.shader");
+    data.copyGameData();
+    data.writeTga("knight.tga", 2, 2, 3, [](int x, int y, int i) { return i == 0 ? 255 * x : i == 1 ? 255 * y : 255; });
+    library.loadShader("TextureShader", "Shader/TextureShader.shader");
     library.loadTexture("Hellknight_Diffuse", "knight.tga");
     Mesh* mesh = new Mesh();
     mesh->positions = {{-1, -1, 0}, {-1, 1, 0}, {1, 1, 0}, {1, -1, 0}}; // clockwise towards +z

@@ -99,11 +99,4 @@ TEST(HatModel, SitsOnTheDucksHead)
     EXPECT_GT(hat.high.y - hat.low.y, hat.high.x - hat.low.x) << "the cone stands upright";
 }
 
-TEST(CameraModel, StaysBehindTheEyeThatItMarks)
-{
-    const Bounds bounds(import("camera.dae").positions);
-    EXPECT_GT(bounds.low.z, 0.0f) << "a camera looks along -z";
-    EXPECT_NEAR(bounds.high.z, 1.0f, 0.3f);
-}
-
 } // namespace

@@ -33,29 +33,4 @@ TEST(MeshTest, BoundsOnlyGrow)
     EXPECT_EQ(max, glm::vec3(1, 5, 3));
 }
 
-struct Axes {
-    bool x, y, z;
-    glm::vec3 swapped, inverted; ///< what becomes of the normal (1, 2, 3)
-};
-
-TEST(MeshTest, ACallSwapsOnePairOfNormalAxesOrInvertsOne)
-{
-    const Axes rows[] = {
-        {false, true, false, {1, 2, 3}, {1, -2, 3}},
-        {false, false, true, {1, 2, 3}, {1, 2, -3}},
-        {true, false, true, {3, 2, 1}, {-1, 2, 3}},
-        {false, true, true, {1, 3, 2}, {1, -2, 3}},
-        {true, true, true, {2, 1, 3}, {-1, 2, 3}},
-    };
-    for (const auto& [x, y, z, swapped, inverted] : rows) {
-        Mesh mesh;
-        mesh.normals = {{1, 2, 3}};
-        mesh.swapNormalAxes(x, y, z);
-        EXPECT_EQ(mesh.normals[0], swapped);
-        mesh.normals = {{1, 2, 3}};
-        mesh.invertNormalAxes(x, y, z);
-        EXPECT_EQ(mesh.normals[0], inverted);
-    }
-}
-
 } // namespace
