@@ -15,14 +15,12 @@ struct Pass {
 
 TEST(FrameTimerTest, PassesLastAtLeastTheirPeriodAndAreMeasuredInWholeMilliseconds)
 {
-    const Pass rows[] = {
-        {"a short pass sleeps for what is left of 1/120 s", 1.0005, 1.0035, 8, true},
+    const Pass rows[] = {{"a short pass sleeps for what is left of 1/120 s", 1.0005, 1.0035, 8, true},
         {"both ends truncated, not rounded, and no sleep", 2.0009, 2.0509, 50, true},
         {"the fraction of a millisecond carries over", 2.0009, 2.0511, 51, true},
         {"a third of a second that spans 333 whole milliseconds", 3.0001, 3.0001 + 1.0 / 3, 333, true},
         {"a third of a second that spans 334 whole milliseconds", 3.0008, 3.0008 + 1.0 / 3, 334, false},
-        {"a long pass", 5.0, 7.5, 2500, false},
-    };
+        {"a long pass", 5.0, 7.5, 2500, false}};
     FrameTimer& timer = *FrameTimer::getInstance();
     for (const Pass& row : rows) {
         SteppedClock clock;

@@ -22,8 +22,7 @@ TEST(DataFolder, IsFoundFrom)
         {"a share folder without games", "opt/bin/quackdash", {"opt/share/quackdash"}, "opt/share/quackdash"},
         {"beside the program", "unpacked/quackdash", {"unpacked/data"}, "unpacked/data"},
         {"the source tree of a build", "tree/build/release/quackdash", {"tree/data"}, "tree/data"},
-        {"nowhere", "tree/build/release/quackdash", {"elsewhere"}, nullptr},
-    };
+        {"nowhere", "tree/build/release/quackdash", {"elsewhere"}, nullptr}};
     for (const Installation& row : rows) {
         SCOPED_TRACE(row.what);
         const TemporaryFolder folder;

@@ -36,16 +36,14 @@ const std::string kRunLengthRows = std::string("\x02") + kLowerRow + "\x82" + "a
 
 TEST(ImageTest, FilesDecodeToRowsFromTheBottomUp)
 {
-    const Picture rows[] = {
-        {"24 bits, lower row first", header(2, 3, 2, 24) + kLowerRow + kUpperRow, 3, kDecoded},
+    const Picture rows[] = {{"24 bits, lower row first", header(2, 3, 2, 24) + kLowerRow + kUpperRow, 3, kDecoded},
         {"24 bits, upper row first", header(2, 3, 2, 24, kTopDown) + kUpperRow + kLowerRow, 3, kDecoded},
         {"run-length encoded", header(10, 3, 2, 24) + kRunLengthRows, 3, "RGBrgbZYXcbacbacba"},
         {"run-length encoded, upper row first", header(10, 3, 2, 24, kTopDown) + kRunLengthRows, 3, "cbacbacbaRGBrgbZYX"},
         {"32 bits", header(2, 3, 2, 32, 8) + "BGRAbgraXYZ0123A456a7890", 4, "RGBArgbaZYX0321A654a9870"},
         {"grey", header(3, 3, 2, 8) + "abcdef", 1, "abcdef"},
         {"colour-mapped", header(1, 3, 2, 8, 0, 2) + "BGRbgr" + std::string("\0\1\0\1\1\1", 6), 3, "RGBrgbRGBrgbrgbrgb"},
-        {"followed by a footer", header(2, 3, 2, 24) + kLowerRow + kUpperRow + std::string(26, '\0'), 3, kDecoded},
-    };
+        {"followed by a footer", header(2, 3, 2, 24) + kLowerRow + kUpperRow + std::string(26, '\0'), 3, kDecoded}};
     const TemporaryFolder folder;
     for (const Picture& row : rows) {
         SCOPED_TRACE(row.what);
@@ -61,20 +59,12 @@ TEST(ImageTest, BadFilesAreRefusedWithAReason)
 {
     const char* const kNoTga = "not a TGA picture";
     const char* const kCutShort = "picture is cut short";
-    const std::pair<std::string, const char*> rows[] = {
-        {"", kNoTga},
-        {header(2, 3, 2, 24).substr(0, 17), kNoTga},
-        {header(2, 3, 2, 24), kCutShort},
-        {header(2, 3, 2, 24) + kLowerRow + kUpperRow.substr(1), kCutShort},
-        {header(10, 3, 2, 24) + kRunLengthRows.substr(0, 12), kCutShort},
-        {header(10, 3, 2, 24) + kRunLengthRows.substr(0, 10), kCutShort},
-        {header(1, 3, 2, 8, 0, 256) + std::string(700, 'x'), kCutShort},
-        {header(10, 16384, 16384, 32) + "abc", kCutShort},
-        {header(2, 0, 2, 24), kNoTga},
-        {header(10, 65535, 65535, 24), kNoTga},
-        {header(2, 3, 2, 17) + kLowerRow + kUpperRow, kNoTga},
-        {"\x89PNG\r\n\x1a\n" + std::string(40, 'x'), kNoTga},
-    };
+    const std::pair<std::string, const char*> rows[] = {{"", kNoTga}, {header(2, 3, 2, 24).substr(0, 17), kNoTga},
+        {header(2, 3, 2, 24), kCutShort}, {header(2, 3, 2, 24) + kLowerRow + kUpperRow.substr(1), kCutShort},
+        {header(10, 3, 2, 24) + kRunLengthRows.substr(0, 12), kCutShort}, {header(10, 3, 2, 24) + kRunLengthRows.substr(0, 10), kCutShort},
+        {header(1, 3, 2, 8, 0, 256) + std::string(700, 'x'), kCutShort}, {header(10, 16384, 16384, 32) + "abc", kCutShort},
+        {header(2, 0, 2, 24), kNoTga}, {header(10, 65535, 65535, 24), kNoTga}, {header(2, 3, 2, 17) + kLowerRow + kUpperRow, kNoTga},
+        {"\x89PNG\r\n\x1a\n" + std::string(40, 'x'), kNoTga}};
     const TemporaryFolder folder;
     std::string error;
     for (const auto& [file, reason] : rows) {
