@@ -44,12 +44,14 @@ private:
     std::map<std::string, UniformVariant> table{{"viewMatrix", &view}, {"projectionMatrix", &projection}, {"normalMatrix", &normalMatrix}};
 };
 
-/// The picture shows red where the pass with "backface" 1 painted, green where the other one did, and the colour's blue in both.
+/// The picture shows red where the pass with "backface" 1 painted the inside of a face, green where the other one did the outside, and
+/// the colour's blue in both.
 const char* const kCelVertex = "#version 430 core\nin vec3 position; in vec3 normal; uniform mat4 view, projection, model;\n"
                                "uniform mat3 normalMatrix; out vec3 n; void main() { n = normalMatrix * normal;\n"
                                "gl_Position = projection * view * model * vec4(position, 1.0); }";
 const char* const kCelFragment = "#version 430 core\nin vec3 n; uniform float backface; uniform vec4 color; out vec4 colour;\n"
-                                 "void main() { colour = vec4(backface, 1.0 - backface, color.b, 1.0) + 0.0001 * n.xyzz; }";
+                                 "void main() { float inside = float(gl_FrontFacing);\n"
+                                 "colour = vec4(backface * inside, (1.0 - backface) * (1.0 - inside), color.b, 1.0) + 0.0001 * n.xyzz; }";
 
 class ModelsTest : public GlTest {
 protected:
