@@ -29,6 +29,11 @@ mkdir "$scratch/archive"
 tar xf "${archives[0]}" -C "$scratch/archive" --strip-components 1
 diff -r "$scratch/deb/usr" "$scratch/archive" || die 'The .deb and the archive differ'
 
+version=$(dpkg-deb -f "${debs[0]}" Version)
+for page in "$project_root"/{CHANGELOG.md,packaging/{changelog.Debian,quackdash.6,*.metainfo.xml}}; do
+    grep -qF "${version%-*}" "$page" || die "$page does not name version ${version%-*}"
+done
+
 cd "$scratch/deb/usr"
 diff -r share/games/quackdash "$project_root/data" || die 'Not the data of this tree'
 strangers=$(find . -type f ! -path './share/games/quackdash/*' ! -path './share/doc/quackdash/*' ! -name 'quackdash*' ! -name '*.metainfo.xml')

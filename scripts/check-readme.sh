@@ -32,13 +32,14 @@ on_display() {
     printf 'xvfb-run -a -s "-screen 0 1400x900x24" bash -c %q' "$1"
 }
 
-# Commands are the lines that stand four columns in.
+# Commands are the lines that stand four columns in, and a few within the text.
+# shellcheck disable=SC2016  # backticks are the README's
 mapfile -t commands < <(sed -n 's/^    \([^ ].*\)/\1/p' README.md; grep -o '`[^`]*cmake --install [^`]*`\|`./test.sh [^`]*`' README.md | tr -d '`')
 ((${#commands[@]} > 0)) || die 'The README has no commands'
 
 for command in "${commands[@]}"; do
     echo "== $command"
-    # shellcheck disable=SC2016  # HOME is for the command to expand
+    # shellcheck disable=SC2088  # the tilde is for the command to expand
     case $command in
         ./test.sh) grep -qx '\./test\.sh' .ci/run || die 'CI does not run it' ;;
         ./play.sh | build/release/quackdash) play "$(on_display "$command")" ;;
