@@ -57,6 +57,13 @@ done >"$scratch/output" || {
 }
 grep '^== ' "$scratch/output"
 
+# What the README says that the game says.
+mapfile -t quotes < <(sed -n 's/^| `ERROR \\| \(.*\)` |.*/\1/p' README.md)
+((${#quotes[@]} > 0)) || die 'The README quotes no log line'
+for quote in "${quotes[@]}"; do
+    grep -rqF "logLine(0) << \"$quote" src || die "The README quotes what the game does not say: $quote"
+done
+
 mapfile -t links < <(grep -oh '](\([^)#]*\))' README.md CONTRIBUTING.md THIRD_PARTY.md docs/*.md | sed 's/^](//; s/)$//' | grep -v '://\|\.png$' | sort -u)
 for link in "${links[@]}"; do
     [[ -e $link || -e docs/$link ]] || die "A page refers to $link, which is not there"
