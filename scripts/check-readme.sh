@@ -58,6 +58,7 @@ done >"$scratch/output" || {
 grep '^== ' "$scratch/output"
 
 # What the README says that the game says.
+# shellcheck disable=SC2016  # backticks are the README's
 mapfile -t quotes < <(sed -n 's/^| `ERROR \\| \(.*\)` |.*/\1/p' README.md)
 ((${#quotes[@]} > 0)) || die 'The README quotes no log line'
 for quote in "${quotes[@]}"; do
