@@ -12,7 +12,8 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 function(quackdash_install_gzipped file name folder)
     set(packed ${CMAKE_BINARY_DIR}/packaging/${name})
     add_custom_command(OUTPUT ${packed} COMMAND ${GZIP_PROGRAM} -9nc ${file} > ${packed} DEPENDS ${file} VERBATIM)
-    add_custom_target(packed_${name} ALL DEPENDS ${packed})
+    add_custom_target(packed_${name} DEPENDS ${packed})
+    add_dependencies(quackdash packed_${name}) # whoever has built the game can install it
     install(FILES ${packed} DESTINATION ${folder})
 endfunction()
 
