@@ -114,6 +114,28 @@ protected:
         game().getSceneGraph()->update();
     }
 
+    /// A pass whose picture is kept.
+    static Screen draw()
+    {
+        Screen screen;
+        game().getRenderer().setFrameProbe(&screen);
+        game().pass();
+        game().getRenderer().setFrameProbe(nullptr);
+        return screen;
+    }
+
+    /// How much of the golden hat a person sees.
+    static int goldenPixels(int i)
+    {
+        const Picture view = draw().cell(viewportCell(kMaxHumanPlayers, i, 1024, 768));
+        int golden = 0;
+        for (std::size_t at = 0; at < view.pixels.size(); at += 3) {
+            const int red = view.pixels[at], green = view.pixels[at + 1], blue = view.pixels[at + 2];
+            golden += red > 100 && green > 0.72 * red && green < 0.95 * red && blue < 0.2 * red;
+        }
+        return golden;
+    }
+
     static bool passesUntil(int most, const std::function<bool()>& condition)
     {
         for (int i = 0; i < most && !condition(); ++i) i % 25 == 0 ? game().pass() : pass();
@@ -146,11 +168,7 @@ TEST_F(FullHouse, StartsAtOnceWithSixteenCarsAndSixViews)
     ASSERT_EQ(game().getActorCount(), 16);
     ASSERT_EQ(game().getHumanPlayerCount(), kMaxHumanPlayers);
 
-    Screen screen;
-    game().getRenderer().setFrameProbe(&screen);
-    game().pass();
-    game().getRenderer().setFrameProbe(nullptr);
-
+    const Screen screen = draw();
     const char* const devices[] = {"XBOX 1", "XBOX 2", "XBOX 3", "XBOX 4", "Pfeil", "WASD"};
     Picture before;
     for (int i = 0; i < kMaxHumanPlayers; ++i) {
@@ -160,6 +178,24 @@ TEST_F(FullHouse, StartsAtOnceWithSixteenCarsAndSixViews)
         EXPECT_TRUE(i == 0 || changedShare(before, view, view.whole()) > 0.1) << "view " << i << " is the one before";
         before = view;
     }
+}
+
+TEST_F(FullHouse, TheLeaderSeesTheGoldenHatOnTheirDuck)
+{
+    Player& leader = player(0);
+    Player& victim = player(1);
+    EXPECT_LT(goldenPixels(0), 30);
+    leader.addScore(1000);
+    const int score = leader.getScore();
+    for (int i = 0; i < 60; ++i) pass();       // the last shot is 700 ms ago
+    leader.getVehicle()->placeAt({0, 150, 0}); // far above everybody else
+    pass();
+    pad(0).press(SDL_CONTROLLER_BUTTON_A);
+    pass();
+    pad(0).release(SDL_CONTROLLER_BUTTON_A);
+    victim.getVehicle()->placeAt({0, 152, 15});
+    ASSERT_TRUE(passesUntil(30, [&] { return leader.getScore() > score; })) << "missed";
+    EXPECT_GT(goldenPixels(0), 300);
 }
 
 TEST_F(FullHouse, EverybodyDrivesTheirOwnCarAndShoots)
