@@ -15,7 +15,7 @@ const ScreenArea kRightGround{518, 420, 110, 260};
 const ScreenArea kLeftLabel{22, 48, 180, 36};
 const ScreenArea kRightLabel{535, 48, 170, 36};
 // Above the duck's head, where its shots leave: a point that stands still in the picture.
-const ScreenArea kLaunchPoint{236, 266, 40, 44};
+const ScreenArea kLaunchPoint{246, 272, 20, 34};
 
 /// Two players on one keyboard, from the first line of the log to the last.
 class Match : public testing::Test {
@@ -34,12 +34,19 @@ protected:
     bool drives(const char* key, const ScreenArea& own, const ScreenArea& other)
     {
         game.screen().pressKey(key);
-        const bool moved = waitUntil(40, [&] {
+        const bool moved = waitUntil(25, [&] {
             const double mine = motion(own);
             return mine > 0.35 && mine > 2 * motion(other);
         });
         game.screen().releaseKey(key);
         return moved;
+    }
+
+    /// Both cars fall in; then each picture moves with its own player. A parked car may creep in the long passes of a slow machine.
+    bool eachDrivesTheirOwnCar()
+    {
+        waitUntil(20, [this] { return motion(kLeftGround) < 0.3 && motion(kRightGround) < 0.3; });
+        return drives("Up", kLeftGround, kRightGround) && drives("w", kRightGround, kLeftGround);
     }
 
     /// Waits until the region holds more dark pixels than that, or no more.
@@ -96,10 +103,14 @@ TEST_F(Match, TwoPlayersJoinSplitTheScreenAndDrive)
     game.tap("Return");
     ASSERT_TRUE(game.waitForLog("DEBUG | Leave RegisterPlayersGamestate\nDEBUG | Enter PlayGamestate"));
 
-    // Both cars fall in; then each picture moves with its own player. A parked car may creep in the long passes of a slow machine.
-    waitUntil(30, [this] { return motion(kLeftGround) < 0.3 && motion(kRightGround) < 0.3; });
-    EXPECT_TRUE(drives("Up", kLeftGround, kRightGround)) << "the arrow half did not drive, or WASD did too";
-    EXPECT_TRUE(drives("w", kRightGround, kLeftGround)) << "WASD did not drive, or the arrow half did too";
+    // In the long passes of a busy machine a car may land on its roof, where nothing rights it: then another match is played.
+    bool bothDrive = eachDrivesTheirOwnCar();
+    for (int retry = 0; retry < 2 && !bothDrive; ++retry) {
+        ASSERT_EQ(game.quit(), 0);
+        ASSERT_TRUE(game.start() && game.startMatch()) << game.log();
+        bothDrive = eachDrivesTheirOwnCar();
+    }
+    EXPECT_TRUE(bothDrive) << "a half of the keyboard did not drive, or the other car too";
 
     EXPECT_EQ(game.quit(), 0);
     EXPECT_EQ(game.complaints(), "");
@@ -127,11 +138,12 @@ TEST_F(Match, FunctionKeysDoTheirWorkAndLeaveTheLogClean)
     EXPECT_TRUE(game.waitForChange(before, kLeftHalf, 0.5)) << "no wire frame";
     game.tap("F3");
 
-    ASSERT_TRUE(waitForDark(kLaunchPoint, 0, false));
+    ASSERT_TRUE(waitForSplitScreen()) << "the wire frame stays";
+    const int horizon = darkPixels(game.screen().look(), kLaunchPoint); // its outline may be there
     game.screen().pressKey("F6");
-    EXPECT_TRUE(waitForDark(kLaunchPoint, 50, true)) << "no marker";
+    EXPECT_TRUE(waitForDark(kLaunchPoint, horizon + 50, true)) << "no marker";
     game.screen().releaseKey("F6");
-    EXPECT_TRUE(waitForDark(kLaunchPoint, 0, false)) << "the marker stays";
+    EXPECT_TRUE(waitForDark(kLaunchPoint, horizon + 20, false)) << "the marker stays";
 
     flyFreelyAndComeBack();
 
