@@ -1,7 +1,8 @@
 // What a frame costs: the real renderer over the real world, in a match with smoke, hats and balls in flight. Run by hand, on the (virtual)
 // display that is to be measured:
-//     xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench_frame [FRAMES [CARS]]
-// FRAMES: of each measurement, 100 unless given. CARS: participants, 16 unless given; at least one for each viewport takes part.
+//     xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench_frame [FRAMES [CARS [VIEWS]]]
+// FRAMES: of each measurement, 100 unless given. CARS: participants, 16 unless given; at least one for each viewport takes part. VIEWS:
+// that many viewports (1 to 6) only; 1, 2, 4 and 6 unless given.
 //
 // For each number of viewports it prints a table of the steps of a frame (medians of wall and processor time; each step ended by a GL
 // finish) and then one line for scripts, of frames measured as a whole without those finishes: `views 2 frame_ms 43.1 p95_ms 50.2`.
@@ -124,7 +125,9 @@ int main(int argc, char** argv)
 {
     const int frames = argc > 1 ? std::max(1, std::atoi(argv[1])) : kDefaultFrames;
     const int cars = argc > 2 ? std::clamp(std::atoi(argv[2]), 0, 16) : kDefaultCars;
-    for (const int views : {1, 2, 4, 6}) {
+    std::vector<int> viewCounts{1, 2, 4, 6};
+    if (argc > 3) viewCounts = {std::clamp(std::atoi(argv[3]), 1, 6)};
+    for (const int views : viewCounts) {
         const pid_t child = fork();
         if (child == 0) std::_Exit(measure(views, frames, cars));
         int status = 0;

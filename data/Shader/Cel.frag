@@ -1,5 +1,6 @@
 #version 430 core
 in vec3 viewNormal;
+in vec3 eyePosition;
 in vec3 viewLight;
 in vec3 shadowPosition;
 
@@ -10,6 +11,7 @@ uniform sampler2D shadow_texture;
 out vec4 fragment;
 
 const float kShadowBias = 0.0035; // of the light's depth range: 0.7 world units, so that small solids do not shade themselves
+const float kAstray = 0.4; // cosine: a normal that lies farther off its face than smoothing takes it, as a hat's does, gives way to the face's
 const vec3 kInk = vec3(0.07, 0.06, 0.10);
 
 void main()
@@ -19,6 +21,8 @@ void main()
         return;
     }
     vec3 n = normalize(viewNormal);
+    vec3 face = normalize(cross(dFdx(eyePosition), dFdy(eyePosition)));
+    if (dot(n, face) < kAstray) n = face;
     float light = dot(n, viewLight);
     ivec2 texel = ivec2(shadowPosition.xy * vec2(textureSize(shadow_texture, 0)));
     if (texelFetch(shadow_texture, texel, 0).r < shadowPosition.z - kShadowBias) light = min(light, 0.1);

@@ -11,6 +11,7 @@ uniform mat4 depthVPMatrix;
 uniform float backface;
 
 out vec3 viewNormal;
+out vec3 eyePosition;
 out vec3 viewLight;
 out vec3 shadowPosition;
 
@@ -26,5 +27,6 @@ void main()
 
     vec4 eye = view * world;
     eye.xyz += viewNormal * (backface * kOutlinePerDistance * clamp(-eye.z, 3.0, 60.0));
+    eyePosition = eye.xyz;
     gl_Position = projection * eye;
 }

@@ -1,8 +1,8 @@
 #version 430 core
 // One step of the exhaust smoke, by transform feedback: rises, drifts, slows, and starts anew at the emitter when its time is over.
-in vec3 position;
-in float ttl; // seconds of game time left
-in vec3 velocity;
+layout(location = 0) in vec3 position;
+layout(location = 1) in float ttl; // seconds of game time left
+layout(location = 2) in vec3 velocity;
 
 uniform float Time; // seconds of game time since the last step
 uniform vec3 emitter_pos;

@@ -11,7 +11,24 @@ out vec4 fragment;
 
 const float kTilesPerUnit = 0.05;  // texture repeats a world unit
 const float kShadowBias = 0.0015;  // of the light's depth range: 0.3 world units
+const float kStripe = 12.0;        // world units: half the period of the mown chequers
+const float kInnerRing = 36.0;     // world units: the worn rings, one around the middle of the arena, one on the way to its rim
+const float kOuterRing = 84.0;
+const float kRingHalfWidth = 2.6;
 const vec3 kToLight = vec3(0.2873479, 0.9578263, 0.0);
+
+// How much light gets here, 0 to 1: the four nearest texels vote by their closeness, so that edges run softly from texel to texel.
+float lit()
+{
+    vec2 at = shadowPosition.xy * vec2(textureSize(shadow_texture, 0)) - 0.5;
+    ivec2 texel = ivec2(floor(at));
+    vec2 part = at - vec2(texel);
+    float depth = shadowPosition.z - kShadowBias;
+    vec4 votes = step(depth, vec4(texelFetch(shadow_texture, texel, 0).r, texelFetch(shadow_texture, texel + ivec2(1, 0), 0).r,
+                                  texelFetch(shadow_texture, texel + ivec2(0, 1), 0).r, texelFetch(shadow_texture, texel + ivec2(1, 1), 0).r));
+    vec2 rows = mix(votes.xz, votes.yw, part.x);
+    return mix(rows.x, rows.y, part.y);
+}
 
 void main()
 {
@@ -19,14 +36,18 @@ void main()
     vec3 grass = texture(tex_grass, uv).rgb;
     vec3 dirt = texture(tex_dirt, uv).rgb;
 
-    // Dirt where it is steep, and on low ground.
-    float steep = smoothstep(0.90, 0.965, worldNormal.y);
-    float high = smoothstep(20.0, 30.0, worldPosition.y);
-    vec3 ground = mix(dirt, grass, steep * high);
+    // Dirt where it is steep, on low ground, and where the rings are worn into the grass, whose tufts fray its edges.
+    float flatness = smoothstep(0.90, 0.965, worldNormal.y);
+    float height = smoothstep(20.0, 30.0, worldPosition.y);
+    float radius = length(worldPosition.xz);
+    float offRing = min(abs(radius - kInnerRing), abs(radius - kOuterRing)) - kRingHalfWidth + 6.0 * (grass.g - 0.66);
+    float green = flatness * height * smoothstep(0.0, 0.9, offRing);
+    vec2 cell = floor(worldPosition.xz / kStripe);
+    float mown = mod(cell.x + cell.y, 2.0) < 0.5 ? 1.0 : 0.93;
+    vec3 ground = mix(dirt, grass * mown, green);
 
     float light = dot(worldNormal, kToLight);
-    ivec2 texel = ivec2(shadowPosition.xy * vec2(textureSize(shadow_texture, 0)));
-    float lit = texelFetch(shadow_texture, texel, 0).r < shadowPosition.z - kShadowBias ? 0.0 : 1.0;
-    float band = 0.62 + lit * (0.22 + 0.16 * smoothstep(0.86, 0.90, light));
-    fragment = vec4(ground * mix(vec3(0.82, 0.86, 1.08), vec3(1.0), lit) * band, 1.0);
+    float sun = lit();
+    float band = 0.62 + sun * (0.22 + 0.16 * smoothstep(0.86, 0.90, light));
+    fragment = vec4(ground * mix(vec3(0.82, 0.86, 1.08), vec3(1.0), sun) * band, 1.0);
 }

@@ -7,11 +7,11 @@ in vec3 controlNormal[];
 
 uniform mat4 view;
 uniform mat4 projection;
+uniform float fineDistance; // world units from the eye within which an edge is split
 
 out vec3 patchPosition[];
 out vec3 patchNormal[];
 
-const float kFineDistance = 28.0; // world units from the eye within which an edge is split
 const float kFineLevel = 3.0;
 
 bool outside(vec4 a, vec4 b, vec4 c)
@@ -26,7 +26,7 @@ bool outside(vec4 a, vec4 b, vec4 c)
 // The same for both patches that share an edge: it depends on the edge's middle alone, so that no cracks open.
 float edgeLevel(vec3 p, vec3 q, vec3 eye)
 {
-    return distance(0.5 * (p + q), eye) < kFineDistance ? kFineLevel : 1.0;
+    return distance(0.5 * (p + q), eye) < fineDistance ? kFineLevel : 1.0;
 }
 
 void main()

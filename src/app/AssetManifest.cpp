@@ -11,6 +11,7 @@ constexpr Asset kShaders[] = {
     {"Shader/ParticleRender.shader", "ParticleRender"},
     {"Shader/ParticleMovement.shader", "ParticleMovement"},
     {"Shader/TerrainShader.shader", "TerrainShader"},
+    {"Shader/TerrainFar.shader", "TerrainFar"},
     {"Shader/PlayerShader.shader", "PlayerShader"},
     {"Shader/SkyboxShader.shader", "SkyboxShader"},
     {"Shader/ColorShader.shader", "ColorShader"},

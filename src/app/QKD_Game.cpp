@@ -127,7 +127,7 @@ void QKD_Game::createTerrain()
     Terrain* ground = PhysxManager::instance()->createTerrain();
     getSceneGraph()->getRoot()->addChild(ground->getNode());
     terrainModel = std::make_unique<TerrainModel>(*ground);
-    ground->getNode()->attach(terrainModel.get());
+    terrainModel->attachTo(*ground->getNode());
     setTerrain(ground);
 }
 

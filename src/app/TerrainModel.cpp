@@ -2,12 +2,15 @@
 
 #include "assets/Library.h"
 #include "gpu/DrawCalls.h"
+#include "gpu/Shaderprogram.h"
 #include "physics/Terrain.h"
 #include "scene/Mesh.h"
+#include "scene/Node.h"
 
 namespace {
 
 constexpr unsigned kIndicesPerRun = 9 * 6; // nine cells of a row, of two triangles each
+constexpr float kFineDistance = 28;        // world units from the eye within which an edge is split
 
 Mesh meshOf(const Terrain& terrain)
 {
@@ -24,30 +27,66 @@ TerrainModel::TerrainModel(const Terrain& terrain) : TerrainModel(meshOf(terrain
 
 TerrainModel::TerrainModel(const Mesh& mesh)
     : geometry(mesh, {MeshAttribute::Position, MeshAttribute::Normal}), culler(mesh, kIndicesPerRun), transformation(this),
-      grass(Library::getInstance()->getTexture("Grass"), 0), dirt(Library::getInstance()->getTexture("Dirt"), 1)
+      grass(Library::getInstance()->getTexture("Grass"), 0), dirt(Library::getInstance()->getTexture("Dirt"), 1), farGround(*this)
 {
-    shader = Library::getInstance()->getShaderprogram("TerrainShader");
+    setUp(*this, "TerrainShader");
     setName("Heightfield");
-    setCullable(false);
-    isStatic = true;
-    layer = ModelLayer::Ground;
     drawMode = GL_PATCHES;
-    setGeometry(geometry);
-    bindCameraUniforms(false);
-    uniforms["model"] = &transformation;
-    uniforms["tex_grass"] = &grass;
-    uniforms["tex_dirt"] = &dirt;
+}
+
+TerrainModel::FarGround::FarGround(TerrainModel& ownGround) : ground(ownGround)
+{
+    ground.setUp(*this, "TerrainFar");
+    castsShadow = false;
+}
+
+void TerrainModel::setUp(Model& model, const char* programName)
+{
+    model.shader = Library::getInstance()->getShaderprogram(programName);
+    model.setCullable(false);
+    model.isStatic = true;
+    model.layer = ModelLayer::Ground;
+    model.setGeometry(geometry);
+    model.bindCameraUniforms(false);
+    model.uniforms["model"] = &transformation;
+    model.uniforms["tex_grass"] = &grass;
+    model.uniforms["tex_dirt"] = &dirt;
+}
+
+void TerrainModel::attachTo(Node& mapNode)
+{
+    mapNode.attach(this);
+    mapNode.attach(&farGround);
 }
 
 void TerrainModel::draw()
 {
-    const glm::mat4 view = boost::get<IUniform<glm::mat4>*>(uniforms["view"])->get();
-    const glm::mat4 projection = boost::get<IUniform<glm::mat4>*>(uniforms["projection"])->get();
+    RangeCuller::Visible ranges = visible();
+    if (!farGround.isDrawable()) ranges.near.insert(ranges.near.end(), ranges.far.begin(), ranges.far.end());
+    shader->setUniform("fineDistance", kFineDistance);
+    draw(*this, ranges.near);
+}
+
+void TerrainModel::FarGround::draw()
+{
+    ground.draw(*this, ground.visible().far);
+}
+
+RangeCuller::Visible TerrainModel::visible() const
+{
+    const glm::mat4 view = boost::get<IUniform<glm::mat4>*>(uniforms.at("view"))->get();
+    const glm::mat4 projection = boost::get<IUniform<glm::mat4>*>(uniforms.at("projection"))->get();
+    const glm::mat4 toEye = view * getNode()->getWorldTransform();
+    return culler.visible(projection * toEye, glm::vec3(glm::inverse(toEye)[3]), kFineDistance);
+}
+
+void TerrainModel::draw(const Model& model, const std::vector<IndexRange>& ranges) const
+{
     std::vector<GLsizei> counts;
     std::vector<unsigned> firsts;
-    for (const IndexRange& range : culler.visible(projection * view * transformation.get())) {
+    for (const IndexRange& range : ranges) {
         counts.push_back(static_cast<GLsizei>(range.count));
         firsts.push_back(range.first);
     }
-    drawVertexArrayRanges(vao, drawMode, geometry.indices, counts, firsts);
+    drawVertexArrayRanges(model.vao, model.drawMode, geometry.indices, counts, firsts);
 }

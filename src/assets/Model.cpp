@@ -32,9 +32,15 @@ void Model::applyUniforms() const
     for (const auto& [uniformName, source] : uniforms) shader->setUniform(uniformName, source);
 }
 
-void Model::createVAO(const VertexAttributeList* layout)
+void Model::createVAO(const VertexAttributeList* attributes)
 {
+    layout = attributes;
     vao = layout->createVAO(shader, vertexBuffer);
+}
+
+void Model::completeVAO()
+{
+    if (vao == 0 && layout) createVAO(layout);
 }
 
 void Model::setGeometry(MeshGeometry& geometry)

@@ -43,8 +43,9 @@ public:
     void bindShader() const;    ///< makes the program current; none when it is missing or not usable
     void applyUniforms() const; ///< every entry of the table, in name order, into the program, which is current
 
-    void createVAO(const VertexAttributeList* layout); ///< for the program and the vertex buffer
-    void setGeometry(MeshGeometry& geometry);          ///< both buffers, and a vertex array for the program
+    void createVAO(const VertexAttributeList* attributes); ///< for the program and the vertex buffer; the list is borrowed
+    void completeVAO();                                    ///< the same once more, for a model that was made while its program was broken
+    void setGeometry(MeshGeometry& geometry);              ///< both buffers, and a vertex array for the program
 
     /// Copies the renderer's sources under the names that shaders use: "view", "projection", "normalMatrix" (the last on demand).
     void bindCameraUniforms(bool withNormalMatrix);
@@ -68,4 +69,7 @@ public:
     ModelLayer layer = ModelLayer::Things; ///< among models of equal renderOrder
     bool isStatic = false;                 ///< its node never moves: its shadow is drawn once and kept
     float boundingRadius = 0;              ///< around the node's origin, in the model's own units; 0 when unknown
+
+private:
+    const VertexAttributeList* layout = nullptr;
 };

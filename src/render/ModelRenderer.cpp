@@ -32,6 +32,7 @@ void ModelRenderer::render(Camera* camera)
             ++culled;
             continue;
         }
+        model->completeVAO();
         if (!model->isDrawable()) continue;
         if (model->shader != current) {
             current = model->shader;

@@ -43,7 +43,7 @@ ParticleSystem::ParticleSystem(Shaderprogram* movementProgram)
         movement->setFeedbackOutputs({"vPosition", "vTtl", "vVelocity"});
         movement->link();
     }
-    vao = format.createVAO(shader, &renderBuffer);
+    createVAO(&format);
     movementVertexArray = format.createVAO(movement, &feedbackBuffer);
 }
 
@@ -64,7 +64,8 @@ VertexAttributeList ParticleSystem::particleLayout()
 
 void ParticleSystem::update()
 {
-    if (!movement || movementVertexArray == 0) return;
+    if (movementVertexArray == 0) movementVertexArray = format.createVAO(movement, &feedbackBuffer);
+    if (movementVertexArray == 0) return;
     glBindVertexArray(movementVertexArray);
     movement->use();
     movement->setUniform("Time", gameDelta());

@@ -23,6 +23,13 @@ bool isOutside(const glm::vec3& min, const glm::vec3& max, const glm::mat4& toCl
     return std::any_of(below, below + 3, [](int n) { return n == 8; }) || std::any_of(above, above + 3, [](int n) { return n == 8; });
 }
 
+void append(const IndexRange& range, std::vector<IndexRange>& ranges)
+{
+    const bool continues = !ranges.empty() && ranges.back().first + ranges.back().count == range.first;
+    if (continues) ranges.back().count += range.count;
+    else ranges.push_back(range);
+}
+
 } // namespace
 
 RangeCuller::RangeCuller(const Mesh& mesh, unsigned indicesPerRun)
@@ -40,13 +47,13 @@ RangeCuller::RangeCuller(const Mesh& mesh, unsigned indicesPerRun)
     }
 }
 
-std::vector<IndexRange> RangeCuller::visible(const glm::mat4& toClip) const
+RangeCuller::Visible RangeCuller::visible(const glm::mat4& toClip, const glm::vec3& eye, float distance) const
 {
-    std::vector<IndexRange> ranges;
+    Visible result;
     for (const Run& run : runs) {
         if (isOutside(run.min, run.max, toClip)) continue;
-        if (!ranges.empty() && ranges.back().first + ranges.back().count == run.range.first) ranges.back().count += run.range.count;
-        else ranges.push_back(run.range);
+        const bool isNear = glm::distance(glm::clamp(eye, run.min, run.max), eye) < distance;
+        append(run.range, isNear ? result.near : result.far);
     }
-    return ranges;
+    return result;
 }

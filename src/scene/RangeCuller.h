@@ -21,8 +21,15 @@ public:
     /// indicesPerRun: a multiple of 3, at least 3. Runs do best when they are compact: some cells of one row of a grid.
     RangeCuller(const Mesh& mesh, unsigned indicesPerRun);
 
-    /// The stretches whose bounds touch the view, in order, neighbours joined. toClip: the mesh's coordinates to clip space.
-    std::vector<IndexRange> visible(const glm::mat4& toClip) const;
+    /// What a view shows, by the distance of the runs' bounds from the eye.
+    struct Visible {
+        std::vector<IndexRange> near; ///< some point of the bounds lies closer than the given distance
+        std::vector<IndexRange> far;  ///< no point does
+    };
+
+    /// The stretches whose bounds touch the view, in order, neighbours joined. toClip: the mesh's coordinates to clip space; the eye's
+    /// place in the mesh's coordinates, the distance in its units.
+    Visible visible(const glm::mat4& toClip, const glm::vec3& eye, float distance) const;
 
 private:
     struct Run {

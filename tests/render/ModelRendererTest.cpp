@@ -130,6 +130,19 @@ TEST_F(ModelRendererTest, SkipsModelsThatLackSomethingAndDrawsTheOthers)
     EXPECT_EQ(windowPixel(512, 384), glm::ivec4(0, 255, 0, 255));
 }
 
+TEST_F(ModelRendererTest, DrawsAModelWhoseProgramIsMendedAfterItWasMade)
+{
+    addWholeWindow();
+    {
+        const BrokenProgram broken("ColorShader");
+        addBox(at(0, 0, -10), {0, 1, 0, 1});
+        frame();
+        EXPECT_EQ(windowPixel(512, 384), glm::ivec4(0, 0, 0, 255));
+    }
+    frame();
+    EXPECT_EQ(windowPixel(512, 384), glm::ivec4(0, 255, 0, 255));
+}
+
 /// A cel-shaded box that shows, after it is drawn, what its program was given.
 class CelBox : public CelModel {
 public:

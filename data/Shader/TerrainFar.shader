@@ -1,0 +1,2 @@
+VERTEX_SHADER Shader/TerrainFar.vert
+FRAGMENT_SHADER Shader/TerrainShader.frag

@@ -1,0 +1,21 @@
+#version 430 core
+// Ground too far away to be split: what the patches' stages make of a triangle at level 1, without their cost.
+layout(location = 0) in vec3 position;
+layout(location = 1) in vec3 normal;
+
+uniform mat4 model;
+uniform mat4 view;
+uniform mat4 projection;
+uniform mat4 depthVPMatrix;
+
+out vec3 worldPosition;
+out vec3 worldNormal;
+out vec3 shadowPosition;
+
+void main()
+{
+    worldPosition = (model * vec4(position, 1.0)).xyz;
+    worldNormal = normal;
+    shadowPosition = (depthVPMatrix * vec4(worldPosition, 1.0)).xyz;
+    gl_Position = projection * view * vec4(worldPosition, 1.0);
+}
