@@ -7,8 +7,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
-#include <string>
 
 namespace {
 
@@ -23,19 +21,6 @@ float horizontalDistance(const glm::vec3& a, const glm::vec3& b)
 }
 
 } // namespace
-
-long residentKib()
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string word; status >> word;) {
-        if (word == "VmRSS:") {
-            long kib = 0;
-            status >> kib;
-            return kib;
-        }
-    }
-    return 0;
-}
 
 void MatchStatistics::observe()
 {

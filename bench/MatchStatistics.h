@@ -7,9 +7,6 @@
 
 struct SilentMatch;
 
-/// Resident memory of this process, KiB.
-long residentKib();
-
 /// Watches a match from outside, pass by pass, and counts what went on.
 class MatchStatistics {
 public:
