@@ -3,7 +3,9 @@
 #include "app/GameStateManager.h"
 #include "app/base/IGameState.h"
 #include "app/match/ViewportLayout.h"
+#include "assets/Library.h"
 #include "e2e/Picture.h"
+#include "gpu/Shaderprogram.h"
 #include "input/VirtualPad.h"
 #include "physics/VehicleHandle.h"
 #include "players/Ball.h"
@@ -117,9 +119,15 @@ protected:
     /// A pass whose picture is kept.
     static Screen draw()
     {
+        game().updateOnly();
+        return drawAgain();
+    }
+
+    static Screen drawAgain()
+    {
         Screen screen;
         game().getRenderer().setFrameProbe(&screen);
-        game().pass();
+        game().drawOnly();
         game().getRenderer().setFrameProbe(nullptr);
         return screen;
     }
@@ -177,6 +185,20 @@ TEST_F(FullHouse, StartsAtOnceWithSixteenCarsAndSixViews)
         EXPECT_GT(detailShare(view, view.whole()), 0.1) << "view " << i << " is blank";
         EXPECT_TRUE(i == 0 || changedShare(before, view, view.whole()) > 0.1) << "view " << i << " is the one before";
         before = view;
+    }
+}
+
+TEST_F(FullHouse, GroundFarAwayLooksAsIfItWereDrawnInPatchesToo)
+{
+    const Screen usual = drawAgain();
+    Library::getInstance()->getShaderprogram("TerrainFar")->createProgram(); // not linked: everything is drawn in patches
+    const Screen patches = drawAgain();
+    Library::getInstance()->loadShader("TerrainFar", "Shader/TerrainFar.shader");
+
+    constexpr double kSmoke = 0.03; // what rises from one drawing to the next
+    for (int i = 0; i < kMaxHumanPlayers; ++i) {
+        const Picture view = usual.cell(viewportCell(kMaxHumanPlayers, i, 1024, 768));
+        EXPECT_LT(changedShare(view, patches.cell(viewportCell(kMaxHumanPlayers, i, 1024, 768)), view.whole()), kSmoke) << "view " << i;
     }
 }
 
