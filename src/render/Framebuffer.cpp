@@ -1,6 +1,5 @@
 #include "render/Framebuffer.h"
 
-#include <cstdint>
 #include <cstdio>
 
 namespace {
