@@ -150,7 +150,8 @@ public:
     {
         createBox(mesh, glm::vec3(-1), glm::vec3(1));
         mesh.calculateNormals();
-        geometry = std::make_unique<MeshGeometry>(mesh, std::initializer_list{MeshAttribute::Position, MeshAttribute::Normal});
+        geometry =
+            std::make_unique<MeshGeometry>(mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal});
         setGeometry(*geometry);
         bindCameraUniforms(true);
         uniforms["model"] = &transformation;

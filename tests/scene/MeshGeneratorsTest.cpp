@@ -71,7 +71,7 @@ TEST(MeshGeneratorsTest, BoxIndices)
     Mesh mesh;
     createBox(mesh, glm::vec3(-500), glm::vec3(500));
     ASSERT_EQ(mesh.indices.size(), 36u);
-    for (std::size_t face : {0, 1, 2, 3, 5}) {
+    for (std::size_t face : {0u, 1u, 2u, 3u, 5u}) {
         const auto b = static_cast<unsigned short>(4 * face);
         const auto after = [b](int n) { return static_cast<unsigned short>(b + n); };
         EXPECT_EQ(triangle(mesh, 2 * face), (Indices{b, after(2), after(1)}));
