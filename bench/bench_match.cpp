@@ -54,11 +54,13 @@ void runReference(int participants, int passes, int balls)
     SilentMatch match;
     PhysxManager& world = *PhysxManager::instance();
     std::vector<VehicleHandle*> cars;
+    cars.reserve(static_cast<std::size_t>(participants));
     for (int i = 0; i < participants; ++i) {
         cars.push_back(world.createVehicle());
         cars.back()->placeAt(glm::vec3(-90 + 12 * i, 50, (i % 4) * 40 - 60));
     }
     std::vector<PhysicNode*> flying;
+    flying.reserve(static_cast<std::size_t>(balls));
     for (int i = 0; i < balls; ++i) flying.push_back(world.createBall());
 
     std::vector<DrivingControls> controls(cars.size());

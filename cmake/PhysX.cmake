@@ -26,6 +26,7 @@ if(NOT PHYSX_CRATE_MANIFEST OR NOT EXISTS ${PHYSX_CRATE_MANIFEST})
     endforeach()
 endif()
 cmake_path(GET PHYSX_CRATE_MANIFEST PARENT_PATH physx_source_dir)
+set(PHYSX_LICENCE ${physx_source_dir}/LICENSE-BSD) # the SDK's; whoever ships the program ships this text
 
 add_custom_command(
     OUTPUT ${PHYSX_ARCHIVE}

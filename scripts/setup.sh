@@ -3,14 +3,14 @@
 
 project_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-# Names of Debian packages. What the game is built from and runs on:
+# Names of Debian packages. What the game is built from, runs on and is packed with:
 # shellcheck disable=SC2034  # used by the scripts that source this one
 play_packages=(g++ cmake ninja-build pkg-config ca-certificates
     libglfw3-dev libglew-dev libgl-dev libgl1-mesa-dri libglm-dev libboost-dev libassimp-dev libstb-dev
-    libsdl2-dev libopenal-dev libsndfile1-dev)
+    libsdl2-dev libopenal-dev libsndfile1-dev dpkg-dev)
 # What the tests need besides:
 # shellcheck disable=SC2034
-test_packages=(libgtest-dev libx11-dev libxtst-dev xvfb xauth)
+test_packages=(libgtest-dev libx11-dev libxtst-dev xvfb xauth lintian desktop-file-utils appstream clang-format)
 
 die() {
     printf '%s\n' "$*" >&2

@@ -11,8 +11,8 @@ out vec4 fragment;
 const float kNear = 0.1;              // the projection's, world units
 const float kBlurStart = 120.0;       // world units from the eye
 const float kBlurFull = 320.0;
-const float kEdgeFrom = 0.035;        // bend of the reciprocal depth, relative to itself
-const float kEdgeFull = 0.12;
+const float kEdgeFrom = 0.10;        // bend of the reciprocal depth, relative to itself
+const float kEdgeFull = 0.28;
 const vec3 kHaze = vec3(0.72, 0.85, 0.95);
 
 void main()

@@ -54,7 +54,7 @@ void Library::loadModel(const std::string& name, const std::string& path)
 {
     logLine(2) << "Library load Model: " << path << " > " << name << std::endl;
     std::unique_ptr<Mesh> mesh = importMesh(path);
-    if (mesh && insert(name, mesh.get())) mesh.release();
+    if (mesh && insert(name, mesh.get())) static_cast<void>(mesh.release()); // the library owns it now
 }
 
 void Library::loadModels()

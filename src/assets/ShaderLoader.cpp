@@ -90,5 +90,5 @@ void Library::loadShader(const std::string& name, const std::string& path)
         program = fresh.get();
     }
     program->setSource(path);
-    if (buildProgram(*program, path) && insert(name, program)) fresh.release();
+    if (buildProgram(*program, path) && insert(name, program)) static_cast<void>(fresh.release()); // the library owns it now
 }

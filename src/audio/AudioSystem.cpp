@@ -40,7 +40,7 @@ std::unique_ptr<Sound> AudioSystem::createSound(const std::string& name, const s
     return std::make_unique<Sound>(&system, name, file);
 }
 
-void AudioSystem::play(std::string name, bool loop, float volume)
+void AudioSystem::play(const std::string& name, bool loop, float volume)
 {
     if (const auto& sound = sounds[name]) {
         sound->play(loop, volume);

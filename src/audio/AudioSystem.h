@@ -29,7 +29,7 @@ public:
     std::unique_ptr<Sound> createSound(const std::string& name, const std::string& file);
 
     /// Plays a sound by name; volume 0 to 1.
-    void play(std::string name, bool loop, float volume);
+    void play(const std::string& name, bool loop, float volume);
 
     void update();
 

@@ -32,6 +32,7 @@ void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, 
     if (vao == 0 || counts.empty() || !isReadyToDraw(mode)) return;
 
     std::vector<const void*> offsets; // bytes into the bound index buffer
+    offsets.reserve(firsts.size());
     for (const unsigned first : firsts)
         offsets.push_back(reinterpret_cast<const void*>(static_cast<std::uintptr_t>(first * sizeof(GLushort))));
     glBindVertexArray(vao);

@@ -62,7 +62,8 @@ PhysicNode* Terrain::createPhysics(PxPhysics& physics, PxCooking& cooking, PxSce
     PxHeightField* heightField = cooking.createHeightField(description, physics.getPhysicsInsertionCallback());
     const PxHeightFieldGeometry geometry(heightField, PxMeshGeometryFlags(), heightScale, rowScale, columnScale);
 
-    const PxVec3 corner(-static_cast<float>(columns / 2) * columnScale, 0, -static_cast<float>(rows / 2) * rowScale);
+    const int halfColumns = columns / 2, halfRows = rows / 2; // whole ones
+    const PxVec3 corner(-static_cast<float>(halfColumns) * columnScale, 0, -static_cast<float>(halfRows) * rowScale);
     actor = physics.createRigidStatic(PxTransform(corner));
     PxShape* shape = PxRigidActorExt::createExclusiveShape(*actor, geometry, material);
     scene.addActor(*actor);

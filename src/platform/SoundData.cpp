@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::int64_t kLongestWhole = 512 * 1024; // frames (12 s at 44.1 kHz, 4 MiB decoded); longer sounds are streamed
+constexpr std::int64_t kLongestWhole = std::int64_t{512} * 1024; // frames (12 s at 44.1 kHz, 4 MiB decoded); longer sounds are streamed
 
 } // namespace
 

@@ -10,8 +10,7 @@
 #include <PxPhysicsAPI.h>
 
 Ball::Ball(SceneGraph& scene, IStage& ownStage, Player& shooter)
-    : node(PhysxManager::instance()->createBall()), owner(&shooter), stage(ownStage), model(nullptr),
-      spawnTime(FrameTimer::getInstance()->getTimeMs())
+    : node(PhysxManager::instance()->createBall()), owner(&shooter), stage(ownStage), spawnTime(FrameTimer::getInstance()->getTimeMs())
 {
     node->setName("Ball");
     model = stage.dressBall(*node, shooter.getColor());

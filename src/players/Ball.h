@@ -37,6 +37,6 @@ private:
     int hits = 0;
     bool hitFlag = false;
     IStage& stage;
-    Attachable* model;
+    Attachable* model = nullptr;
     double spawnTime; // milliseconds of the frame timer
 };

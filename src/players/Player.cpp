@@ -61,7 +61,8 @@ void rumble(InputDevice& device, const Rumble& request)
 
 float randomPlace()
 {
-    return static_cast<float>(std::rand() % kRespawnRange - kRespawnRange / 2);
+    const int place = std::rand() % kRespawnRange - kRespawnRange / 2;
+    return static_cast<float>(place);
 }
 
 } // namespace

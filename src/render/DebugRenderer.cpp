@@ -40,7 +40,7 @@ DebugRenderer::Shape DebugRenderer::makeShape(const Mesh* mesh) const
 {
     Shape shape;
     if (!mesh) return shape;
-    shape.geometry = std::make_unique<MeshGeometry>(*mesh, std::initializer_list{MeshAttribute::Position});
+    shape.geometry = std::make_unique<MeshGeometry>(*mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position});
     shape.vertexArray = shape.geometry->layout.createVAO(program, &shape.geometry->vertices);
     return shape;
 }

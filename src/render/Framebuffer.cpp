@@ -1,6 +1,5 @@
 #include "render/Framebuffer.h"
 
-#include <cstdint>
 #include <cstdio>
 
 namespace {
@@ -9,7 +8,7 @@ void checkComplete()
 {
     const GLenum status = glCheckFramebufferStatus(GL_FRAMEBUFFER);
     if (status == GL_FRAMEBUFFER_COMPLETE) return;
-    std::fprintf(stderr, "glCheckFramebufferStatus: error %p", reinterpret_cast<void*>(static_cast<std::uintptr_t>(status)));
+    std::fprintf(stderr, "glCheckFramebufferStatus: error %#x", status);
 }
 
 } // namespace

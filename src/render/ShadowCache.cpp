@@ -61,6 +61,7 @@ std::vector<ShadowCache::Rect> ShadowCache::coveredBy(const std::vector<Model*>&
 void ShadowCache::drawStatic(const std::vector<Model*>& casters)
 {
     std::vector<Snapshot> now;
+    now.reserve(casters.size());
     for (const Model* model : casters) now.push_back({model, model->vao, model->getNode()->getWorldTransform()});
     const unsigned program = depthProgramVersion();
     if (valid && now == drawnStatic && program == drawnWith) return;

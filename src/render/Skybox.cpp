@@ -16,7 +16,7 @@ Skybox::Skybox()
     shader = Library::getInstance()->getShaderprogram("SkyboxShader");
     Mesh box;
     createBox(box, glm::vec3(-kHalfEdge), glm::vec3(kHalfEdge));
-    geometry = std::make_unique<MeshGeometry>(box, std::initializer_list{MeshAttribute::Position, MeshAttribute::Texcoord});
+    geometry = std::make_unique<MeshGeometry>(box, std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Texcoord});
     setGeometry(*geometry);
     setName("Skybox");
     setCullable(false);

@@ -1,4 +1,6 @@
 #include "app/GameStateManager.h"
+#include "app/TestState2.h"
+#include "support/DataCapturedLog.h"
 
 #include <gtest/gtest.h>
 
@@ -54,6 +56,20 @@ TEST_F(StateManager, ASecondStateOfOneNameReplacesTheFirstSilently)
     EXPECT_TRUE(calls.empty());
     manager.changeState("a");
     EXPECT_EQ(calls, Calls({"enter other"}));
+}
+
+TEST_F(StateManager, TheTestStateSaysOnlyThatItComesAndGoes)
+{
+    CapturedLog log;
+    TestState2 test("test");
+    manager.addState(&test);
+    manager.addState(&a);
+    manager.changeState("test");
+    manager.getCurrentState()->update();
+    manager.getCurrentState()->renderCamera(nullptr);
+    manager.getCurrentState()->drawText(nullptr);
+    manager.changeState("a");
+    EXPECT_EQ(log.text(), "DEBUG | Enter TestState2\nDEBUG | Leave TestState2\n");
 }
 
 TEST_F(StateManager, AnUnknownNameStopsTheProgram)

@@ -1,11 +1,13 @@
 #include "e2e/GameSession.h"
 
 #include <chrono>
+#include <sstream>
 #include <thread>
 
 namespace {
 
-constexpr auto kHold = std::chrono::milliseconds(350); // longer than two frames of a busy machine
+constexpr auto kHold = std::chrono::milliseconds(350);    // longer than two frames of a busy machine
+constexpr auto kRelease = std::chrono::milliseconds(250); // a frame must see the key up, or the next press is none
 constexpr double kStartSeconds = 60;
 constexpr double kExitSeconds = 30;
 
@@ -40,6 +42,7 @@ void GameSession::tap(const std::string& key)
     display.pressKey(key);
     std::this_thread::sleep_for(kHold);
     display.releaseKey(key);
+    std::this_thread::sleep_for(kRelease);
 }
 
 bool GameSession::startMatch()
@@ -61,6 +64,18 @@ int GameSession::countInLog(const std::string& text) const
     int count = 0;
     for (std::size_t at = all.find(text); at != std::string::npos; at = all.find(text, at + text.size())) ++count;
     return count;
+}
+
+std::string GameSession::complaints() const
+{
+    std::string found;
+    std::istringstream lines(log());
+    for (std::string line; std::getline(lines, line);) {
+        for (const char* text : {"OpenGL Error:", "ERROR | ", "WARNING | "}) {
+            if (line.find(text) != std::string::npos) found += line + '\n';
+        }
+    }
+    return found;
 }
 
 bool GameSession::waitForChange(const Picture& before, const ScreenArea& region, double share, double seconds)

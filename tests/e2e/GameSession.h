@@ -20,7 +20,7 @@ public:
     /// Starts it without waiting. environment: VARIABLE=value each.
     void launch(const std::vector<std::string>& environment = {}, const std::filesystem::path& workingFolder = {}, bool withDisplay = true);
 
-    /// Holds the key for as long as a slow frame may take, then lets go.
+    /// Holds the key for as long as a slow frame may take, then lets go for as long.
     void tap(const std::string& key);
 
     /// Both keyboard halves join and the arrow half starts the match.
@@ -31,6 +31,9 @@ public:
 
     int countInLog(const std::string& text) const;
     std::string log() const { return process->output(); }
+
+    /// The lines of the log that report something bad; empty for a run without a fault.
+    std::string complaints() const;
 
     /// Waits until the picture in the region differs from `before` in more than that share of its pixels.
     [[nodiscard]] bool waitForChange(const Picture& before, const ScreenArea& region, double share, double seconds = 20);

@@ -5,6 +5,7 @@
 namespace {
 
 constexpr int kVisibleStep = 10; // of 255, in any component
+constexpr int kDark = 80;        // of 255, in every component
 
 bool differs(const unsigned char* a, const unsigned char* b)
 {
@@ -15,13 +16,19 @@ bool differs(const unsigned char* a, const unsigned char* b)
 }
 
 template <class Test>
-double share(const ScreenArea& region, Test test)
+int count(const ScreenArea& region, Test test)
 {
     int hits = 0;
     for (int y = region.y; y < region.y + region.height; ++y) {
         for (int x = region.x; x < region.x + region.width; ++x) hits += test(x, y) ? 1 : 0;
     }
-    return static_cast<double>(hits) / (region.width * region.height);
+    return hits;
+}
+
+template <class Test>
+double share(const ScreenArea& region, Test test)
+{
+    return static_cast<double>(count(region, test)) / (region.width * region.height);
 }
 
 } // namespace
@@ -34,4 +41,17 @@ double changedShare(const Picture& before, const Picture& after, const ScreenAre
 double detailShare(const Picture& picture, const ScreenArea& region)
 {
     return share(region, [&](int x, int y) { return differs(picture.at(x, y), picture.at(region.x, region.y)); });
+}
+
+double seamShare(const Picture& picture, int line)
+{
+    return share({line, 0, 1, picture.height}, [&](int x, int y) { return differs(picture.at(x - 1, y), picture.at(x, y)); });
+}
+
+int darkPixels(const Picture& picture, const ScreenArea& region)
+{
+    return count(region, [&](int x, int y) {
+        const unsigned char* pixel = picture.at(x, y);
+        return pixel[0] < kDark && pixel[1] < kDark && pixel[2] < kDark;
+    });
 }

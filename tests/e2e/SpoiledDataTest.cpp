@@ -90,7 +90,9 @@ TEST_P(SpoiledData, IsNamedInTheLogAndTheGameGoesOn)
         ASSERT_TRUE(game.screen().waitForWindow("Quackdash", 10));
         ASSERT_TRUE(game.startMatch()) << game.log();
         const int linesAtStart = game.countInLog("\n");
-        game.tap("Up");
+        game.screen().pressKey("Up");
+        game.tap("k");
+        game.screen().releaseKey("Up");
         EXPECT_EQ(game.quit(), 0) << game.log();
 
         const std::string log = game.log();

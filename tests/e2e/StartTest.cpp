@@ -20,6 +20,22 @@ TEST(Start, WithoutOpenGl43SaysSoAndEndsWithStatusOne)
     EXPECT_EQ(game.countInLog("ERROR | Opengl 4.3 not available"), 1) << game.log();
 }
 
+TEST(Start, WithoutASoundDeviceSaysSoOnceAndPlaysOn)
+{
+    GameSession game;
+    game.launch({"ALSOFT_DRIVERS=nosuch"});
+    ASSERT_TRUE(game.waitForLog("Enter RegisterPlayersGamestate")) << game.log();
+    ASSERT_TRUE(game.screen().waitForWindow("Quackdash", 10));
+    ASSERT_TRUE(game.startMatch()) << game.log();
+    const Picture before = game.screen().look();
+    game.screen().pressKey("Up");
+    game.tap("k");
+    EXPECT_TRUE(game.waitForChange(before, before.whole(), 0.1));
+    game.screen().releaseKey("Up");
+    EXPECT_EQ(game.quit(), 0);
+    EXPECT_EQ(game.complaints(), "ERROR | Error, initializing Audiosystem!\n");
+}
+
 TEST(Start, FromAnotherFolderFindsItsData)
 {
     GameSession game;

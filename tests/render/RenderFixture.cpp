@@ -89,13 +89,13 @@ void FrameRecorder::stepDone(const char* step)
     GLint target = 0;
     glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &target);
     if (target != 0 || steps.back() == "swap") return;
-    picture.resize(kWidth * kHeight);
+    picture.resize(std::size_t{kWidth} * kHeight);
     glReadPixels(0, 0, kWidth, kHeight, GL_RGBA, GL_UNSIGNED_BYTE, picture.data());
 }
 
 glm::ivec4 FrameRecorder::pixel(int x, int y) const
 {
-    return picture.at(static_cast<std::size_t>(y * kWidth + x));
+    return picture.at(static_cast<std::size_t>(y) * kWidth + static_cast<std::size_t>(x));
 }
 
 BoxModel::BoxModel(const glm::vec4& colour) : transformation(this), color(colour)

@@ -26,7 +26,7 @@
 #include <vector>
 
 /// A cube of one plain colour, two units wide unless its node scales it.
-class BoxModel : public Model {
+class BoxModel final : public Model {
 public:
     explicit BoxModel(const glm::vec4& colour);
     ~BoxModel();

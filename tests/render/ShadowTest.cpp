@@ -18,7 +18,7 @@ constexpr GLuint kFarthest = 0xFFFFFFFFu;
 
 std::vector<GLuint> depthsOf(GLuint texture, const glm::ivec2& size)
 {
-    std::vector<GLuint> result(static_cast<std::size_t>(size.x * size.y));
+    std::vector<GLuint> result(static_cast<std::size_t>(size.x) * static_cast<std::size_t>(size.y));
     glBindTexture(GL_TEXTURE_2D, texture);
     glGetTexImage(GL_TEXTURE_2D, 0, GL_DEPTH_COMPONENT, GL_UNSIGNED_INT, result.data());
     return result;

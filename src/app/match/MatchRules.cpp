@@ -21,7 +21,7 @@ using namespace physx;
 namespace {
 
 constexpr float kLowestHeight = -30.0f; // world y; whatever is below has left the field
-constexpr int kFlightMargin = 20;       // world units beyond the field's half extent that a shot may fly
+constexpr float kFlightMargin = 20.0f;  // world units beyond the field's half extent that a shot may fly
 constexpr int kMostHits = 10;           // touches after which a ball is spent
 constexpr int kHitPoints = 1;
 constexpr int kKillBonus[Ranking::kPlaces + 1] = {8, 7, 6, 5}; // points by the victim's place; the last for anyone else
@@ -145,7 +145,7 @@ void MatchRules::removeShots()
 
 bool MatchRules::hasLeftPlay(const Ball& ball) const
 {
-    const auto limit = static_cast<float>(terrain->getSize() / 2 + kFlightMargin);
+    const float limit = 0.5f * static_cast<float>(terrain->getSize()) + kFlightMargin;
     const glm::vec3 position = ball.getNode()->getWorldPosition();
     return position.y < kLowestHeight || ball.getHits() >= kMostHits || std::abs(position.x) > limit || std::abs(position.z) > limit ||
         ball.isExpired();

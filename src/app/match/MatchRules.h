@@ -26,7 +26,7 @@ class Terrain;
 class MatchRules : public physx::PxSimulationEventCallback, public IMatch {
 public:
     MatchRules();
-    virtual ~MatchRules();
+    ~MatchRules() override;
 
     /// What the match is played in; borrowed. Creates the physics world, with this as its contact receiver, if there is none yet.
     void setWorld(SceneGraph* sceneGraph, IStage* stage);

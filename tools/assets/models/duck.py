@@ -78,10 +78,17 @@ def body(duck):
     duck.tube(mirrored(wing))
 
 
+def scarf(duck):
+    duck.torus((0.33, 0, 0.82), (0.31, 0.31), 0.11, 10, 4, turned(0, 4, 0)) # for racing, wound tight
+
+
 def head(duck):
     duck.tube([ring(0.30, 0.45, 0.36, 0.36, climb=80), ring(0.34, 0.95, 0.26, 0.26, climb=90)], capStart=False, capEnd=False)
-    duck.torus((0.33, 0, 0.82), (0.31, 0.31), 0.11, 10, 4, turned(0, 4, 0)) # a racing scarf, wound tight
+    scarf(duck)
     duck.ellipsoid(HEAD, HEAD_RADII, 14, 8)
+
+
+def bill(duck):
     duck.tube([ring(x, z, width, height, points=8, climb=climb, power=2.4) for x, z, width, height, climb in (
         (0.70, 1.25, 0.27, 0.17, -10), (1.00, 1.18, 0.23, 0.10, 0), (1.26, 1.21, 0.33, 0.065, 15), (1.46, 1.28, 0.20, 0.04, 25))],
         capStart=False)
@@ -89,6 +96,9 @@ def head(duck):
         (0.66, 1.06, 0.20, 0.09), (0.98, 0.93, 0.20, 0.065), (1.22, 0.87, 0.16, 0.04))], capStart=False)
     duck.tube([ring(x, z, width, height, points=6, climb=-5) for x, z, width, height in (
         (0.72, 1.11, 0.16, 0.07), (1.06, 1.05, 0.14, 0.035))], capStart=False, ink=True)
+
+
+def eyes(duck):
     for side in SIDES:
         gaze = Vector((0.86, side * 0.48, 0.16)).normalized()
         facing = gaze.to_track_quat("Z", "Y").to_matrix()
@@ -99,9 +109,8 @@ def head(duck):
         duck.tube(brow if side > 0 else mirrored(brow), ink=True)
 
 
-model = Builder()
-tub(model)
-fittings(model)
-body(model)
-head(model)
-export(sys.argv[-1] + "/duck.dae", model, TO_FILE, HARD_EDGE)
+if __name__ == "__main__":
+    model = Builder()
+    for part in (tub, fittings, body, head, bill, eyes):
+        part(model)
+    export(sys.argv[-1] + "/duck.dae", model, TO_FILE, HARD_EDGE)

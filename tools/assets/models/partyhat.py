@@ -27,12 +27,19 @@ def ring(radius, height):
     return [CENTRE + Vector((radius * c, radius * s, height)) for c, s in circle(SIDES)]
 
 
-hat = Builder()
-rings = []
-for stripe in range(STRIPES):
-    low, high = stripe / STRIPES, (stripe + 1) / STRIPES
-    rings += [ring(RADIUS * (1 - low * 0.92), HEIGHT * low), ring(RADIUS * (1 - high * 0.92) + STEP, HEIGHT * high)]
-hat.tube(rings)
-hat.torus(CENTRE + Vector((0, 0, 0.02)), (RADIUS, RADIUS), 0.14, SIDES, 4)
-hat.ellipsoid(CENTRE + Vector((0, 0, HEIGHT + 0.12)), (0.24, 0.24, 0.24), 8, 6)
-export(sys.argv[-1] + "/partyhat.dae", hat, TO_FILE, 35)
+def stripe(number):
+    """The two rings of a stripe, counted from the brim up."""
+    low, high = number / STRIPES, (number + 1) / STRIPES
+    return [ring(RADIUS * (1 - low * 0.92), HEIGHT * low), ring(RADIUS * (1 - high * 0.92) + STEP, HEIGHT * high)]
+
+
+def trimmings(hat):
+    hat.torus(CENTRE + Vector((0, 0, 0.02)), (RADIUS, RADIUS), 0.14, SIDES, 4)
+    hat.ellipsoid(CENTRE + Vector((0, 0, HEIGHT + 0.12)), (0.24, 0.24, 0.24), 8, 6)
+
+
+if __name__ == "__main__":
+    model = Builder()
+    model.tube([points for number in range(STRIPES) for points in stripe(number)])
+    trimmings(model)
+    export(sys.argv[-1] + "/partyhat.dae", model, TO_FILE, 35)
