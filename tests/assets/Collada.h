@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -10,10 +11,14 @@ struct ColladaMesh {
     std::string triangles; ///< vertex indices
 };
 
+inline std::size_t countOf(const std::string& numbers)
+{
+    return 1 + static_cast<std::size_t>(std::count(numbers.begin(), numbers.end(), ' '));
+}
+
 inline std::string colladaSource(const std::string& id, const std::string& numbers, const std::string& components)
 {
-    std::size_t count = 1;
-    for (const char c : numbers) count += c == ' ';
+    const std::size_t count = countOf(numbers);
     std::string params;
     for (const char name : components) params += std::string("<param name=\"") + name + "\" type=\"float\"/>";
     return "<source id=\"" + id + "\"><float_array id=\"" + id + "-a\" count=\"" + std::to_string(count) + "\">" + numbers +
@@ -28,13 +33,11 @@ inline std::string colladaDocument(const std::vector<ColladaMesh>& meshes)
     for (std::size_t i = 0; i < meshes.size(); ++i) {
         const std::string id = "mesh" + std::to_string(i);
         const ColladaMesh& mesh = meshes[i];
-        std::size_t corners = 1;
-        for (const char c : mesh.triangles) corners += c == ' ';
         geometries += "<geometry id=\"" + id + "\"><mesh>\n" + colladaSource(id + "-p", mesh.positions, "XYZ");
         if (!mesh.texcoords.empty()) geometries += colladaSource(id + "-t", mesh.texcoords, "ST");
         geometries += "<vertices id=\"" + id + "-v\"><input semantic=\"POSITION\" source=\"#" + id +
-            "-p\"/></vertices>\n<triangles count=\"" + std::to_string(corners / 3) + "\"><input semantic=\"VERTEX\" source=\"#" + id +
-            "-v\" offset=\"0\"/>";
+            "-p\"/></vertices>\n<triangles count=\"" + std::to_string(countOf(mesh.triangles) / 3) +
+            "\"><input semantic=\"VERTEX\" source=\"#" + id + "-v\" offset=\"0\"/>";
         if (!mesh.texcoords.empty()) geometries += "<input semantic=\"TEXCOORD\" source=\"#" + id + "-t\" offset=\"0\" set=\"0\"/>";
         geometries += "<p>" + mesh.triangles + "</p></triangles></mesh></geometry>\n";
         nodes +=

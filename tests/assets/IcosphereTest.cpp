@@ -29,15 +29,4 @@ TEST(IcosphereTest, LiesOnTheSphereAndIsClosedWithEveryFaceClockwiseFromOutside)
     EXPECT_NEAR(volume, 3.6587f * kRadius * kRadius * kRadius, 0.05f) << "an icosahedron split once";
 }
 
-TEST(IcosphereTest, EachFaceIsReplacedByItsFirstCornersPartAndTheOtherThreeFollowAtTheEnd)
-{
-    Mesh mesh;
-    createIcosphere(mesh, 1.0f);
-    const std::vector<unsigned short> firstFace(mesh.indices.begin(), mesh.indices.begin() + 3);
-    const std::vector<unsigned short> itsOthers(mesh.indices.begin() + 60, mesh.indices.begin() + 69);
-    EXPECT_EQ(firstFace, (std::vector<unsigned short>{0, 12, 14}));
-    EXPECT_EQ(itsOthers, (std::vector<unsigned short>{12, 4, 13, 13, 1, 14, 12, 13, 14}));
-    EXPECT_TRUE(isNear(mesh.positions[12], glm::normalize(mesh.positions[0] + mesh.positions[4])));
-}
-
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "gpu/Shader.h"
 #include "gpu/Shaderprogram.h"
+#include "gpu/VertexAttributeList.h"
+#include "gpu/VertexBuffer.h"
 
 #include <memory>
 #include <string>
@@ -35,6 +37,23 @@ inline const Stage kPlainVertex{GL_VERTEX_SHADER, "in vec3 position; void main()
 /// Paints white.
 inline const Stage kWhiteFragment{GL_FRAGMENT_SHADER, "out vec4 colour; void main() { colour = vec4(1.0); }"};
 
-inline const Stage kGarbage{GL_FRAGMENT_SHADER,
-    "\x7f"
-    "ELF \x01\x02 this is no shader"};
+inline const Stage kGarbage{GL_FRAGMENT_SHADER, "\x7f\x01\x02 this is no shader"};
+
+inline VertexAttributeList positionLayout()
+{
+    VertexAttributeList layout;
+    layout.addAttribute({ATTRIBUTE_VEC3, "position"});
+    return layout;
+}
+
+/// Vertices of a position each, three floats, uploaded.
+struct Positions {
+    explicit Positions(const std::vector<float>& floats) : vertices(&layout, static_cast<unsigned>(floats.size() / 3))
+    {
+        vertices.setAttributeData("position", floats.data());
+        vertices.upload(GL_STATIC_DRAW);
+    }
+
+    const VertexAttributeList layout = positionLayout();
+    VertexBuffer vertices;
+};

@@ -60,7 +60,7 @@ TEST_F(XBOXControllerTest, EveryPadButtonHasItsRole)
         {SDL_CONTROLLER_BUTTON_DPAD_LEFT, 2, false, false}, {SDL_CONTROLLER_BUTTON_DPAD_RIGHT, 3, false, false},
         {SDL_CONTROLLER_BUTTON_A, 4, false, false}, {SDL_CONTROLLER_BUTTON_B, 5, false, false},
         {SDL_CONTROLLER_BUTTON_START, 6, true, false}, {SDL_CONTROLLER_BUTTON_BACK, -1, false, true},
-        {SDL_CONTROLLER_BUTTON_X, -1, false, false}, {SDL_CONTROLLER_BUTTON_LEFTSHOULDER, -1, false, false}};
+        {SDL_CONTROLLER_BUTTON_X, -1, false, false}};
     for (const ButtonRow& row : rows) {
         SCOPED_TRACE(SDL_GameControllerGetStringForButton(row.held));
         pad.press(row.held);
@@ -85,12 +85,9 @@ TEST_F(XBOXControllerTest, TriggersAndStickMoveTheirAxesOutsideTheDeadZone)
     constexpr auto kLeft = SDL_CONTROLLER_AXIS_TRIGGERLEFT, kRight = SDL_CONTROLLER_AXIS_TRIGGERRIGHT;
     constexpr int kThrottle = 0, kBrake = 1, kSteering = 2, kVertical = 3;
     const AxisRow rows[] = {{kRight, 32767, kThrottle, 1.0f}, {kRight, -32768 + 128 * 257, kThrottle, 128 / 255.0f},
-        {kRight, -32768, kThrottle, 0.0f}, {kLeft, 32767, kBrake, -1.0f}, {kLeft, -32768 + 257, kBrake, -1 / 255.0f},
-        {kLeft, -32768, kBrake, 0.0f}, {kX, 32767, kSteering, 32767 / 32768.0f}, {kX, 7849, kSteering, 7849 / 32768.0f},
-        {kX, 7848, kSteering, 0.0f}, {kX, -32768, kSteering, -1.0f}, {kX, -7849, kSteering, -7849 / 32768.0f}, {kX, -7848, kSteering, 0.0f},
-        {kY, -32768, kVertical, 32767 / 32768.0f}, {kY, -7850, kVertical, 7849 / 32768.0f}, {kY, -7849, kVertical, 0.0f},
-        {kY, 32767, kVertical, -1.0f}, {kY, 7848, kVertical, -7849 / 32768.0f}, {kY, 7847, kVertical, 0.0f}, {kX, 0, kSteering, 0.0f},
-        {kY, 0, kVertical, 0.0f}, {SDL_CONTROLLER_AXIS_RIGHTX, 32767, 4, 0.0f}};
+        {kLeft, -32768 + 257, kBrake, -1 / 255.0f}, {kX, 7849, kSteering, 7849 / 32768.0f}, {kX, 7848, kSteering, 0.0f},
+        {kX, -32768, kSteering, -1.0f}, {kX, -7848, kSteering, 0.0f}, {kY, -32768, kVertical, 32767 / 32768.0f},
+        {kY, -7849, kVertical, 0.0f}, {kY, 32767, kVertical, -1.0f}, {SDL_CONTROLLER_AXIS_RIGHTX, 32767, 4, 0.0f}};
     VirtualPad pad;
     pass();
     for (const AxisRow& row : rows) {
@@ -103,41 +100,25 @@ TEST_F(XBOXControllerTest, TriggersAndStickMoveTheirAxesOutsideTheDeadZone)
     }
 }
 
-TEST_F(XBOXControllerTest, ARumbleStopsOnTheFirstUpdateAfterItsEnd)
-{
-    for (const int passed : {300, 301}) {
-        VirtualPad pad;
-        pass(1000);
-        first.vibrate(300, 60000, 50000);
-        EXPECT_EQ(pad.rumbles, std::vector<Motors>({{60000, 50000}}));
-        pass(passed);
-        EXPECT_EQ(pad.rumbles.size(), passed > 300 ? 2u : 1u) << passed << " ms after the request";
-        pass(1000);
-        EXPECT_EQ(pad.rumbles, std::vector<Motors>({{60000, 50000}, {0, 0}}));
-        pads.rumble(0, 100, 100);
-        pass(1000);
-        EXPECT_EQ(pad.rumbles.back(), Motors(100, 100)) << "what has ended once leaves the motors alone";
-        pad.unplug();
-        pass();
-    }
-}
-
-TEST_F(XBOXControllerTest, ANewRumbleReplacesTheRunningOneAndItsEnd)
+TEST_F(XBOXControllerTest, ARumbleStopsOnTheFirstUpdateAfterItsEndAndANewOneReplacesIt)
 {
     VirtualPad pad;
     pass();
     first.vibrate(600, 30000, 30000);
     pass(100);
-    first.vibrate(300, 60000, 60000);
+    first.vibrate(300, 60000, 50000);
     pass(300);
-    EXPECT_EQ(pad.rumbles, std::vector<Motors>({{30000, 30000}, {60000, 60000}}));
-    pass(10);
+    EXPECT_EQ(pad.rumbles, std::vector<Motors>({{30000, 30000}, {60000, 50000}})) << "it lasts until after its end";
+    pass();
     EXPECT_EQ(pad.rumbles.back(), Motors(0, 0)) << "the replaced request's end holds no more";
+    pads.rumble(0, 100, 100);
+    pass(1000);
+    EXPECT_EQ(pad.rumbles.back(), Motors(100, 100)) << "what has ended once leaves the motors alone";
 }
 
 TEST_F(XBOXControllerTest, AnUnpluggedPadIsAtRestAndComesBackToItsSlot)
 {
-    VirtualPad other(1), pad(2);
+    VirtualPad wheel(3, SDL_JOYSTICK_TYPE_WHEEL), other(1), pad(2); // other kinds of devices take no slot
     pass();
     XBOXController& second = controllers[1];
     second.vibrate(300, 60000, 60000);
@@ -193,23 +174,6 @@ TEST_F(XBOXControllerTest, FourPadsFillFourSlotsAndAFifthWaitsUntilOneIsFreeForG
     EXPECT_EQ(fifth.light, 1);
 }
 
-TEST_F(XBOXControllerTest, PadsThatComeBackInAnotherOrderKeepTheirSlots)
-{
-    VirtualPad one(1), two(2);
-    pass();
-    one.unplug();
-    two.unplug();
-    pass();
-    EXPECT_EQ(connected(), "----");
-    two.plugIn();
-    one.plugIn();
-    two.press(SDL_CONTROLLER_BUTTON_A);
-    pass();
-    EXPECT_EQ(connected(), "12--");
-    EXPECT_FALSE(isShooting(1));
-    EXPECT_TRUE(isShooting(2));
-}
-
 TEST_F(XBOXControllerTest, AllFourTogetherAskThePadsOnceAPass)
 {
     VirtualPad pad;
@@ -223,15 +187,6 @@ TEST_F(XBOXControllerTest, AllFourTogetherAskThePadsOnceAPass)
     EXPECT_FALSE(first.isPressed(InputDevice::kShoot)) << "a pass has one state";
     pass();
     EXPECT_TRUE(first.isPressed(InputDevice::kShoot));
-}
-
-TEST_F(XBOXControllerTest, OtherKindsOfDevicesTakeNoSlot)
-{
-    VirtualPad wheel(1, SDL_JOYSTICK_TYPE_WHEEL);
-    VirtualPad pad(2);
-    pass();
-    EXPECT_EQ(connected(), "1---");
-    EXPECT_EQ(wheel.light, -1);
 }
 
 } // namespace

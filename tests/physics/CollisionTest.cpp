@@ -53,60 +53,24 @@ private:
 
 } // namespace
 
-TEST(CollisionFilter, SuppressesOnlyPairsOfWhichNeitherListsTheOther)
+TEST(CollisionFilter, ResolvesPairsOfWhichOneListsTheOtherAndReportsThoseThatBothDo)
 {
-    const CollisionGroup groups[] = {kGroundGroup, kWheelGroup, kChassisGroup, kObstacleGroup};
-    enum Outcome { kPass, kTouch }; // suppressed; resolved and reported
-    const Outcome expected[4][4] = {
-        // with: ground, wheel, chassis, obstacle
-        {kPass, kPass, kTouch, kTouch},
-        {kPass, kTouch, kTouch, kTouch},
-        {kTouch, kTouch, kTouch, kTouch},
-        {kTouch, kTouch, kTouch, kTouch},
+    const PxPairFlags resolved = PxPairFlag::eCONTACT_DEFAULT, reported = resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND;
+    struct Case {
+        PxFilterData a, b;
+        PxPairFlags pair; ///< none: suppressed
     };
-    for (int a = 0; a < 4; ++a) {
-        for (int b = 0; b < 4; ++b) {
-            SCOPED_TRACE(testing::Message() << "groups " << groups[a] << " and " << groups[b]);
-            const Verdict verdict = judge(simulationFilter(groups[a]), simulationFilter(groups[b]));
-            if (expected[a][b] == kPass) {
-                EXPECT_EQ(verdict.filter, PxFilterFlags(PxFilterFlag::eSUPPRESS));
-            } else {
-                EXPECT_EQ(verdict.filter, PxFilterFlags(PxFilterFlag::eDEFAULT));
-                EXPECT_EQ(verdict.pair, PxPairFlag::eCONTACT_DEFAULT | PxPairFlag::eNOTIFY_TOUCH_FOUND);
-            }
+    const Case cases[] = {{simulationFilter(kGroundGroup), simulationFilter(kWheelGroup), {}}, {{4, 16, 0, 0}, {16, 0, 0, 0}, resolved},
+        {{4, 4, 0, 0}, {4, 4, 0, 1}, reported | PxPairFlag::eDETECT_CCD_CONTACT},
+        {{4, 4, PxPairFlag::eNOTIFY_TOUCH_LOST, 0}, {4, 4, PxPairFlag::eNOTIFY_TOUCH_PERSISTS, 0xFFFF0002},
+            reported | PxPairFlag::eNOTIFY_TOUCH_LOST | PxPairFlag::eNOTIFY_TOUCH_PERSISTS}};
+    for (const auto& [a, b, pair] : cases) {
+        for (const Verdict& verdict : {judge(a, b), judge(b, a)}) {
+            EXPECT_EQ(verdict.filter, PxFilterFlags(pair ? PxFilterFlag::eDEFAULT : PxFilterFlag::eSUPPRESS));
+            EXPECT_EQ(verdict.pair, pair);
         }
     }
-}
-
-TEST(CollisionFilter, AddsWhatTheRecordsAskFor)
-{
-    const PxPairFlags resolved = PxPairFlag::eCONTACT_DEFAULT;
-    struct Case {
-        const char* name;
-        PxFilterData a, b;
-        PxPairFlags pair;
-    };
-    const Case cases[] = {
-        {"no groups at all", {0, 0, 0, 0}, {0, 0, 0, 0}, resolved},
-        {"only one lists the other", {4, 16, 0, 0}, {16, 0, 0, 0}, resolved},
-        {"swept contacts asked for by one", {4, 4, 0, 0}, {4, 4, 0, 1},
-            resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND | PxPairFlag::eDETECT_CCD_CONTACT},
-        {"other bits of word3", {4, 4, 0, 2}, {4, 4, 0, 0xFFFF0000}, resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND},
-        {"extra flags of both", {4, 4, PxPairFlag::eNOTIFY_TOUCH_LOST, 0}, {4, 4, PxPairFlag::eNOTIFY_TOUCH_PERSISTS, 0},
-            resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND | PxPairFlag::eNOTIFY_TOUCH_LOST | PxPairFlag::eNOTIFY_TOUCH_PERSISTS},
-    };
-    for (const Case& row : cases) {
-        EXPECT_EQ(judge(row.a, row.b).filter, PxFilterFlags(PxFilterFlag::eDEFAULT)) << row.name;
-        EXPECT_EQ(judge(row.a, row.b).pair, row.pair) << row.name;
-        EXPECT_EQ(judge(row.b, row.a).pair, row.pair) << row.name << ", exchanged";
-    }
-}
-
-TEST(CollisionFilter, TriggersComeBeforeAnyGroup)
-{
-    const Verdict verdict = judge({1, 0, 0, 0}, {2, 0, 0, 0}, physx::PxFilterObjectFlag::eTRIGGER);
-    EXPECT_EQ(verdict.filter, PxFilterFlags(PxFilterFlag::eDEFAULT));
-    EXPECT_EQ(verdict.pair, PxPairFlags(PxPairFlag::eTRIGGER_DEFAULT));
+    EXPECT_EQ(judge({1, 0, 0, 0}, {2, 0, 0, 0}, physx::PxFilterObjectFlag::eTRIGGER).pair, PxPairFlags(PxPairFlag::eTRIGGER_DEFAULT));
 }
 
 TEST(Contacts, OfABallWithACarAndWithTheGroundAreReported)

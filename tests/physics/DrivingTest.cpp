@@ -29,9 +29,16 @@ protected:
         world.runSeconds(seconds, [&] { controls.apply(input, car); });
     }
 
+    /// Holds them until then, for ten seconds at the most.
+    bool runUntil(const DriverInput& input, const std::function<bool()>& predicate)
+    {
+        return world.runUntil(1200, predicate, [&] { controls.apply(input, car); });
+    }
+
     /// One decision of the driver, without a pass.
     void decide(const DriverInput& input) { controls.apply(input, car); }
 
+    void updateVehicles() { world.manager.updateVehicles(WorldFixture::kGameDelta, physx::PxVec3(0, -9.81f, 0)); }
     float speed() const { return car.computeForwardSpeed(); }
     physx::PxU32 gear() const { return car.getVehicle().mDriveDynData.getCurrentGear(); }
     glm::vec3 position() const { return WorldFixture::positionOf(car); }
@@ -58,19 +65,14 @@ TEST_F(DrivingTest, ADroppedCarComesToRestOnItsWheels)
     EXPECT_GT(car.getActor()->getGlobalPose().q.getBasisVector1().y, 0.999f);
 }
 
-TEST_F(DrivingTest, FullThrottleTakesItPastTenMetresPerSecondInTwoSeconds)
+TEST_F(DrivingTest, FullThrottleTakesItPastTenMetresPerSecondInTwoSecondsEvenAfterALongRest)
 {
+    world.runSeconds(20);
     drive(2, throttle);
     EXPECT_GT(speed(), 10);
     EXPECT_GT(position().z, 10) << "the front of a car is +z";
     EXPECT_NEAR(position().x, 0, 0.5f);
-}
-
-TEST_F(DrivingTest, ACarLongLeftAloneStartsAgain)
-{
-    world.runSeconds(20);
-    drive(2, throttle);
-    EXPECT_GT(speed(), 8);
+    EXPECT_TRUE(runUntil(throttle, [&] { return gear() > Gears::eFIRST; })) << "shifts up by itself";
 }
 
 TEST_F(DrivingTest, SteersToTheDriversSide)
@@ -85,7 +87,7 @@ TEST_F(DrivingTest, SteersToTheDriversSide)
     }
 }
 
-TEST_F(DrivingTest, TheBrakeControlAtRestDrivesBackwards)
+TEST_F(DrivingTest, TheBrakeControlAtRestDrivesBackwardsUntilTheThrottleControlReturnsToFirstGear)
 {
     decide(brake);
     EXPECT_TRUE(controls.isReversing());
@@ -94,16 +96,10 @@ TEST_F(DrivingTest, TheBrakeControlAtRestDrivesBackwards)
     decide(brake);
     EXPECT_EQ(car.getRawInputs().getAnalogAccel(), 1);
     EXPECT_EQ(car.getRawInputs().getAnalogBrake(), 0);
-
     drive(2, brake);
     EXPECT_LT(speed(), -3);
     EXPECT_LT(position().z, -2);
-}
 
-TEST_F(DrivingTest, TheThrottleControlWhileRollingBackwardsReturnsToFirstGear)
-{
-    drive(2, brake);
-    ASSERT_LT(speed(), -1);
     decide(throttle);
     EXPECT_FALSE(controls.isReversing());
     EXPECT_EQ(gear(), Gears::eFIRST);
@@ -119,37 +115,24 @@ TEST_F(DrivingTest, TheBrakeControlAtSpeedBrakesBeforeItReverses)
     EXPECT_FALSE(controls.isReversing());
     EXPECT_LT(speed(), before - 1);
     EXPECT_GT(speed(), 0);
-    EXPECT_TRUE(world.runUntil(
-        600, [&] { return controls.isReversing(); }, [&] { controls.apply(brake, car); }));
+    EXPECT_TRUE(runUntil(brake, [&] { return controls.isReversing(); }));
     EXPECT_LT(speed(), 0.001f);
 }
 
 TEST_F(DrivingTest, FaintControlsDoNotChangeDirection)
 {
-    car.getActor()->setLinearVelocity(physx::PxVec3(0));
-    decide({0, -0.1f, 0, false});
-    EXPECT_FALSE(controls.isReversing());
-    decide({0, -0.11f, 0, false});
-    EXPECT_TRUE(controls.isReversing());
-    setSpeed(-1);
-    decide({0.1f, 0, 0, false});
-    EXPECT_TRUE(controls.isReversing());
-    decide({0.11f, 0, 0, false});
-    EXPECT_FALSE(controls.isReversing());
-}
-
-TEST_F(DrivingTest, ThrottleAndBrakeAtRestEndInFirstGear)
-{
-    setSpeed(0);
-    decide({1, -1, 0, false});
-    EXPECT_FALSE(controls.isReversing());
-    EXPECT_EQ(gear(), Gears::eFIRST);
-}
-
-TEST_F(DrivingTest, ShiftsUpByItself)
-{
-    EXPECT_TRUE(world.runUntil(
-        1200, [&] { return gear() > Gears::eFIRST; }, [&] { controls.apply(throttle, car); }));
+    struct Row {
+        float speed;
+        DriverInput input;
+        bool reverses;
+    };
+    for (const Row& row : {Row{0, {0, -0.1f, 0, false}, false}, Row{0, {0, -0.11f, 0, false}, true}, Row{-1, {0.1f, 0, 0, false}, true},
+             Row{-1, {0.11f, 0, 0, false}, false}, Row{0, {1, -1, 0, false}, false}}) {
+        setSpeed(row.speed);
+        decide(row.input);
+        EXPECT_EQ(controls.isReversing(), row.reverses) << row.input.accel << ", " << row.input.brake;
+        EXPECT_EQ(gear(), row.reverses ? Gears::eREVERSE : Gears::eFIRST);
+    }
 }
 
 TEST_F(DrivingTest, TheHandBrakeSlowsOnlyTheRearWheels)
@@ -165,22 +148,18 @@ TEST_F(DrivingTest, TheHandBrakeSlowsOnlyTheRearWheels)
 
 TEST_F(DrivingTest, SteersLessTheFasterItGoes)
 {
-    struct Row {
-        float speed, factor;
-    };
-    for (const Row& row : {Row{0, 0.9f}, Row{5, 0.7f}, Row{30, 0.5f}, Row{17.5f, 0.6f}, Row{75, 0.4f}, Row{150, 0.3f}}) {
-        SCOPED_TRACE(row.speed);
+    for (const auto& [metresPerSecond, factor] :
+        {std::pair{0.0f, 0.9f}, std::pair{5.0f, 0.7f}, std::pair{17.5f, 0.6f}, std::pair{75.0f, 0.4f}, std::pair{150.0f, 0.3f}}) {
+        SCOPED_TRACE(metresPerSecond);
         // The smoothing alone: a longer drive would change the speed. Held until the input has risen all the way.
         for (int i = 0; i < 60; ++i) {
             car.placeAt({0, 1.08f, 0});
-            setSpeed(row.speed);
+            setSpeed(metresPerSecond);
             decide({0, 0, -1, false});
-            world.manager.updateVehicles(WorldFixture::kGameDelta, physx::PxVec3(0, -9.81f, 0));
+            updateVehicles();
         }
-        float widest = 0;
-        for (const physx::PxU32 front : {0u, 1u}) widest = std::max(widest, std::abs(wheel(front).steerAngle));
-        EXPECT_NEAR(widest, row.factor * kMaxSteer, 0.01f) << "the inner wheel turns all the way";
-        for (const physx::PxU32 rear : {2u, 3u}) EXPECT_NEAR(wheel(rear).steerAngle, 0, 1e-4f);
+        EXPECT_NEAR(std::max(std::abs(wheel(0).steerAngle), std::abs(wheel(1).steerAngle)), factor * kMaxSteer, 0.01f) << "the inner wheel";
+        EXPECT_NEAR(wheel(2).steerAngle, 0, 1e-4f);
     }
 }
 
@@ -212,14 +191,14 @@ TEST_F(DrivingTest, WheelsStandOnTheGroundButNotOnCarsOrBalls)
     };
     for (const Place& place : {Place{"a car's roof", 3.3f, other.getActor()}, Place{"a ball", 21.5f, ball.actor}}) {
         car.placeAt({0, place.height, 0});
-        world.manager.updateVehicles(WorldFixture::kGameDelta, physx::PxVec3(0, -9.81f, 0));
+        updateVehicles();
         EXPECT_TRUE(wheel(0).isInAir) << place.what;
 
         // The same place, were it drivable, does hold the wheel.
         physx::PxShape* shapes[5] = {};
         const physx::PxU32 count = place.actor->getShapes(shapes, 5);
         shapes[count - 1]->setQueryFilterData(physx::PxFilterData(0, 0, 0, 0xFFFF0000));
-        world.manager.updateVehicles(WorldFixture::kGameDelta, physx::PxVec3(0, -9.81f, 0));
+        updateVehicles();
         EXPECT_FALSE(wheel(0).isInAir) << place.what << " is out of the ray's reach: this test shows nothing";
     }
 }

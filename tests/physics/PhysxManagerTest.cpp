@@ -12,58 +12,23 @@ physx::PxRigidDynamic& bodyOf(PhysicNode& node)
     return *node.actor->is<physx::PxRigidDynamic>();
 }
 
-bool isInScene(const physx::PxActor& actor)
-{
-    return actor.getScene() != nullptr;
-}
-
 } // namespace
 
-TEST(FixedStep, IsTakenOnceEnoughTimeIsOwed)
-{
-    WorldFixture world;
-    EXPECT_FALSE(world.manager.step(0.01f));
-    EXPECT_NEAR(world.manager.getAccumulator(), 0.01f, 1e-6f);
-    EXPECT_TRUE(world.manager.step(0.01f));
-    EXPECT_NEAR(world.manager.getAccumulator(), 0.00333f, 1e-5f);
-}
-
-TEST(FixedStep, IsTakenOnceACallHoweverMuchTimeIsOwed)
+TEST(FixedStep, IsTakenOnceEnoughTimeIsOwedAndOnceACall)
 {
     WorldFixture world;
     PhysicNode& ball = world.ballAt({0, 100, 0}, {60, 0, 0});
+    EXPECT_FALSE(world.manager.step(0.01f));
+    EXPECT_TRUE(world.manager.step(0.01f));
+    EXPECT_NEAR(world.manager.getAccumulator(), 0.00333f, 1e-5f);
+    EXPECT_NEAR(bodyOf(ball).getLinearVelocity().y, -29.43f / 60, 1e-3f) << "three times as hard as on earth";
+
     EXPECT_TRUE(world.manager.step(1.0f));
-    EXPECT_NEAR(world.manager.getAccumulator(), 0.98333f, 1e-4f);
-    EXPECT_NEAR(ball.actor->getGlobalPose().p.x, 1.0f, 1e-3f) << "a second's debt must move bodies by one step";
+    EXPECT_NEAR(ball.actor->getGlobalPose().p.x, 2.0f, 1e-3f) << "a second's debt must move bodies by one step";
     EXPECT_TRUE(world.manager.step(0.0001f)) << "the debt must be kept";
-    EXPECT_NEAR(ball.actor->getGlobalPose().p.x, 2.0f, 1e-3f);
 }
 
-TEST(FixedStep, PullsBodiesDownThreeTimesAsHardAsOnEarth)
-{
-    WorldFixture world;
-    PhysicNode& ball = world.ballAt({0, 100, 0});
-    world.manager.step(1.0f / 60);
-    EXPECT_NEAR(bodyOf(ball).getLinearVelocity().y, -29.43f / 60, 1e-3f);
-}
-
-TEST(PhysxManager, IsOneWorldThatCanBeMadeAnew)
-{
-    {
-        WorldFixture world;
-        EXPECT_EQ(PhysxManager::getInstance(nullptr), &world.manager);
-        EXPECT_EQ(PhysxManager::instance(), &world.manager);
-        world.carAt({0, 5, 0});
-        world.pass();
-    }
-    EXPECT_EQ(PhysxManager::instance(), nullptr) << "asking must not create a world";
-    WorldFixture fresh;
-    fresh.carAt({0, 5, 0});
-    fresh.pass();
-    EXPECT_EQ(fresh.manager.getScene().getNbActors(physx::PxActorTypeFlag::eRIGID_DYNAMIC), 1u);
-}
-
-TEST(Ball, IsASphereOfRadiusOneAndDensityTen)
+TEST(Ball, WeighsWhatASphereOfRadiusOneAndDensityTenDoes)
 {
     WorldFixture world;
     SceneGraph graph;
@@ -72,15 +37,6 @@ TEST(Ball, IsASphereOfRadiusOneAndDensityTen)
     graph.update();
     EXPECT_TRUE(isNear(ball.getWorldTransform(), glm::translate(glm::mat4(1), glm::vec3(0, 10, 0))));
     EXPECT_NEAR(bodyOf(ball).getMass(), 41.888f, 0.01f);
-
-    physx::PxShape* shape = nullptr;
-    ASSERT_EQ(ball.actor->getShapes(&shape, 1), 1u);
-    EXPECT_NEAR(shape->getGeometry().sphere().radius, 1.0f, 1e-6f);
-    EXPECT_EQ(shape->getQueryFilterData().word3, 0u);
-    physx::PxMaterial* material = nullptr;
-    shape->getMaterials(&material, 1);
-    EXPECT_FLOAT_EQ(material->getDynamicFriction(), 0.5f);
-    EXPECT_FLOAT_EQ(material->getRestitution(), 0.1f);
 }
 
 TEST(PhysicNode, PlacedAnewStandsUprightAndKeepsItsVelocities)
@@ -128,9 +84,9 @@ TEST(PhysicNode, TakesItsActorOutOfTheSceneWhenDestroyed)
     SceneGraph graph;
     PhysicNode& ball = world.ballAt({0, 10, 0});
     graph.getRoot()->addChild(&ball);
-    ASSERT_TRUE(isInScene(*ball.actor));
+    ASSERT_NE(ball.actor->getScene(), nullptr);
     ball.destroy();
-    EXPECT_FALSE(isInScene(*ball.actor));
+    EXPECT_EQ(ball.actor->getScene(), nullptr);
     EXPECT_TRUE(graph.getRoot()->getChildren().empty());
     graph.update();
     world.pass();

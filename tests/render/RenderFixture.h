@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/base/IGameState.h"
 #include "assets/Library.h"
 #include "assets/Model.h"
 #include "assets/Uniform_AttachableTransformation.h"
@@ -53,12 +54,18 @@ private:
     std::vector<glm::u8vec4> picture;
 };
 
-/// What the first start of the renderer did, before any asset was loaded.
-struct FirstStart {
-    std::string log;                 ///< of initialize()
-    bool callbackRegistered = false; ///< ours, for GL messages
-    std::string emptyFrameLog;       ///< of a frame with an empty asset library, GL messages included
-    glm::ivec4 emptyFramePixel{0};   ///< in the middle of its window
+/// A state that is called with each camera once its models are drawn.
+class CameraWatcher : public IGameState {
+public:
+    explicit CameraWatcher(std::function<void(Camera*)> whatToDo) : IGameState("CameraWatcher"), onCamera(std::move(whatToDo)) {}
+    virtual ~CameraWatcher() = default;
+    void enter() override {}
+    void leave() override {}
+    void update() override {}
+    void renderCamera(Camera* camera) override { onCamera(camera); }
+
+private:
+    std::function<void(Camera*)> onCamera;
 };
 
 /// A scene of its own before the one real renderer, which all tests share: the window is opened before the first, with the game's shaders
@@ -72,7 +79,6 @@ protected:
     ~RenderTest() override;
 
     static Renderer& renderer();
-    static const FirstStart& firstStart();
 
     /// A viewport in the frame's list, with a camera of its own that looks along -z of its node.
     Viewport& addView(const Viewport::Rect& rect, const glm::mat4& pose = glm::mat4(1.0f), const glm::vec4& clearColour = {0, 0, 0, 1});

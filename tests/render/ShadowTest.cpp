@@ -1,12 +1,8 @@
 #include "RenderFixture.h"
 
-#include "assets/MeshGeometry.h"
-#include "gpu/DrawCalls.h"
 #include "render/Light.h"
-#include "render/ParticleSystem.h"
 #include "render/ShadowCache.h"
 #include "render/ShadowMappingRender.h"
-#include "scene/Mesh.h"
 #include "support/Near.h"
 #include "support/TemporaryFolder.h"
 
@@ -20,18 +16,20 @@ namespace {
 constexpr glm::ivec2 kSize(512, 384); // texels, in place of the renderer's 4096 x 3072
 constexpr GLuint kFarthest = 0xFFFFFFFFu;
 
+std::vector<GLuint> depthsOf(GLuint texture, const glm::ivec2& size)
+{
+    std::vector<GLuint> result(static_cast<std::size_t>(size.x) * static_cast<std::size_t>(size.y));
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glGetTexImage(GL_TEXTURE_2D, 0, GL_DEPTH_COMPONENT, GL_UNSIGNED_INT, result.data());
+    return result;
+}
+
 /// A light depth texture with its framebuffer.
 struct Target {
     TargetTexture texture{GL_DEPTH_COMPONENT24, GL_DEPTH_COMPONENT, GL_FLOAT, kSize};
     Framebuffer framebuffer{nullptr, &texture};
 
-    std::vector<GLuint> depths() const
-    {
-        std::vector<GLuint> result(static_cast<std::size_t>(kSize.x) * kSize.y);
-        glBindTexture(GL_TEXTURE_2D, texture.getHandle());
-        glGetTexImage(GL_TEXTURE_2D, 0, GL_DEPTH_COMPONENT, GL_UNSIGNED_INT, result.data());
-        return result;
-    }
+    std::vector<GLuint> depths() const { return depthsOf(texture.getHandle(), kSize); }
 };
 
 class ShadowTest : public RenderTest {
@@ -48,10 +46,11 @@ protected:
         shadows.render();
     }
 
-    /// Texels that a caster covers, and the middle of them.
+    /// Texels that a caster covers, the middle of them, and the least depth.
     struct Covered {
         int texels = 0;
         glm::vec2 middle{0};
+        GLuint nearest = kFarthest;
     };
     Covered covered()
     {
@@ -60,10 +59,12 @@ protected:
         glm::ivec2 low = kSize, high(0);
         Covered result;
         for (int i = 0; i < kSize.x * kSize.y; ++i) {
-            if (depths[static_cast<std::size_t>(i)] == kFarthest) continue;
+            const GLuint depth = depths[static_cast<std::size_t>(i)];
+            if (depth == kFarthest) continue;
             const glm::ivec2 texel(i % kSize.x, i / kSize.x);
             low = glm::min(low, texel);
             high = glm::max(high, texel + 1);
+            result.nearest = std::min(result.nearest, depth);
             ++result.texels;
         }
         result.middle = 0.5f * glm::vec2(low + high);
@@ -74,42 +75,33 @@ protected:
     Target fresh;
 };
 
-struct Place {
-    const char* name;
-    glm::vec3 position;
-    bool inside;
-    glm::vec2 texel; ///< where it lies, if inside
-};
-
 TEST_F(ShadowTest, TheLightCoversSixHundredUnitsAroundTheOriginWithZToTheSide)
 {
+    struct Place {
+        glm::vec3 position;
+        bool inside;
+        glm::vec2 texel; ///< where it lies, if inside
+    };
     const Place places[] = {
-        {"origin", {0, 0, 0}, true, {256, 192}},
-        {"near the edge", {0, 0, 299}, true, {0.5f, 192}},
-        {"near the other edge", {0, 0, -299}, true, {511.5f, 192}},
-        {"beyond the edge", {0, 0, 301}, false, {}},
-        {"up is along -x", {-100, 0, 0}, true, {256, 192 + 95.8f * 0.64f}},
+        {{0, 0, 299}, true, {0.5f, 192}}, {{0, 0, -299}, true, {511.5f, 192}}, {{0, 0, 301}, false, {}},
+        {{-100, 0, 0}, true, {256, 192 + 95.8f * 0.64f}}, // up is along -x
     };
     BoxModel& box = addBox(glm::mat4(1.0f));
     for (const Place& place : places) {
-        SCOPED_TRACE(place.name);
+        SCOPED_TRACE(glm::to_string(place.position));
         box.getNode()->setTransform(glm::scale(glm::translate(glm::mat4(1.0f), place.position), {3, 3, 0.9f}));
         const Covered result = covered();
-        EXPECT_EQ(result.texels > 0, place.inside);
-        if (!place.inside) continue;
-        EXPECT_TRUE(isNear(result.middle, place.texel, 1.5f));
+        ASSERT_EQ(result.texels > 0, place.inside);
+        EXPECT_TRUE(!place.inside || isNear(result.middle, place.texel, 1.5f)) << glm::to_string(result.middle);
     }
 }
 
 TEST_F(ShadowTest, NearerToTheLightIsLessDeep)
 {
     BoxModel& box = addBox(at(0, 0, 0));
-    drawAfresh(fresh);
-    const std::vector<GLuint> low = fresh.depths();
-    box.getNode()->setTransform(at(0, 50, 0) * at(14.37f, 0, 0)); // along the light, so that it covers the same texels
-    drawAfresh(fresh);
-    const std::vector<GLuint> high = fresh.depths();
-    EXPECT_LT(*std::min_element(high.begin(), high.end()), *std::min_element(low.begin(), low.end()) - kFarthest / 10);
+    const GLuint low = covered().nearest;
+    box.getNode()->setTransform(at(14.37f, 50, 0)); // along the light
+    EXPECT_LT(covered().nearest, low - kFarthest / 10);
 }
 
 TEST_F(ShadowTest, DrawsWhatCastsAsTrianglesAndNothingElse)
@@ -129,32 +121,6 @@ TEST_F(ShadowTest, DrawsWhatCastsAsTrianglesAndNothingElse)
     EXPECT_EQ(covered().texels, 0);
 }
 
-TEST_F(ShadowTest, WithoutAnIndexBufferTheVerticesAreDrawnInARow)
-{
-    BoxModel& model = addBox(glm::mat4(1.0f));
-    Mesh triangle; // seen by the light when its front, which is culled, looks away
-    triangle.positions = {{0, 0, 0}, {0, 0, 100}, {100, 0, 0}};
-    Mesh turned;
-    turned.positions = {{0, 0, 0}, {100, 0, 0}, {0, 0, 100}};
-    int seen = 0;
-    for (const Mesh& mesh : {triangle, turned}) {
-        MeshGeometry geometry(mesh, {MeshAttribute::Position});
-        deleteVertexArray(model.vao);
-        model.setGeometry(geometry);
-        model.indexBuffer = nullptr;
-        seen += covered().texels;
-    }
-    const float expected = 0.5f * 100 * 100 * (512 / 600.0f) * (384 / 600.0f) * 0.958f;
-    EXPECT_NEAR(static_cast<float>(seen), expected, expected / 20);
-}
-
-TEST_F(ShadowTest, SmokeCastsNoShadow)
-{
-    ParticleSystem& smoke = add<ParticleSystem>(glm::mat4(1.0f), Library::getInstance()->getShaderprogram("ParticleMovement"));
-    smoke.setEmitterPosition({0, 0, 0});
-    EXPECT_EQ(covered().texels, 0);
-}
-
 class ShadowCacheTest : public ShadowTest {
 protected:
     ShadowCacheTest() : random(20) {}
@@ -170,19 +136,14 @@ protected:
         return glm::scale(pose, glm::vec3(pick(2, 20), pick(2, 20), pick(2, 20)));
     }
 
-    BoxModel& addMoving(const glm::mat4& pose)
+    BoxModel& addCaster(const glm::mat4& pose, bool isStatic = false)
     {
         BoxModel& box = addBox(pose);
         box.boundingRadius = glm::root_three<float>();
+        box.isStatic = isStatic;
         return box;
     }
-
-    BoxModel& addStatic(const glm::mat4& pose)
-    {
-        BoxModel& box = addBox(pose);
-        box.isStatic = true;
-        return box;
-    }
+    BoxModel& addStatic(const glm::mat4& pose) { return addCaster(pose, true); }
 
     /// A frame by the cache; whether its texture is, bit by bit, what drawing everything afresh gives.
     testing::AssertionResult frameIsRight()
@@ -193,9 +154,8 @@ protected:
         const std::vector<GLuint> actual = cached.depths();
         drawAfresh(fresh);
         const std::vector<GLuint> expected = fresh.depths();
-        const auto [a, e] = std::mismatch(actual.begin(), actual.end(), expected.begin());
-        if (a == actual.end()) return testing::AssertionSuccess();
-        const auto index = a - actual.begin();
+        const auto index = std::mismatch(actual.begin(), actual.end(), expected.begin()).first - actual.begin();
+        if (actual == expected) return testing::AssertionSuccess();
         return testing::AssertionFailure() << "first differs at texel (" << index % kSize.x << ", " << index / kSize.x << ")";
     }
 
@@ -214,11 +174,11 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureWhileCastersMoveRestComeAndGo)
 {
     addStatic(glm::scale(at(0, -20, 0), {250, 5, 200}));
     std::deque<BoxModel*> moving;
-    for (int i = 0; i < 8; ++i) moving.push_back(&addMoving(anyPose()));
+    for (int i = 0; i < 8; ++i) moving.push_back(&addCaster(anyPose()));
     for (int i = 0; i < 60; ++i) {
         for (BoxModel* box : moving)
             if (pick(0, 1) < 0.6f) box->getNode()->setTransform(anyPose());
-        if (i % 7 == 3) moving.push_back(&addMoving(anyPose()));
+        if (i % 7 == 3) moving.push_back(&addCaster(anyPose()));
         if (i % 7 == 6) {
             remove(*moving.front());
             moving.pop_front();
@@ -232,9 +192,12 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
     TemporaryFolder folder;
     BoxModel& ground = addStatic(glm::scale(at(0, -20, 0), {250, 5, 200}));
     BoxModel& wall = addStatic(glm::scale(at(50, 0, 50), {10, 30, 40}));
-    BoxModel& car = addMoving(glm::scale(at(0, 0, 0), glm::vec3(15)));
-    BoxModel& unknown = addMoving(glm::scale(at(-90, 0, 90), glm::vec3(12)));
+    BoxModel& car = addCaster(glm::scale(at(0, 0, 0), glm::vec3(15)));
+    BoxModel& unknown = addCaster(glm::scale(at(-90, 0, 90), glm::vec3(12)));
 
+    const auto place = [](BoxModel& box, const glm::mat4& pose, float scale) {
+        box.getNode()->setTransform(glm::scale(pose, glm::vec3(scale)));
+    };
     const auto reloadDepthProgram = [&folder](const char* position) {
         const std::string vertex = folder.write("a.vert",
             std::string("#version 430 core\nlayout(location = 0) in vec3 position; uniform mat4 mvp;\n") +
@@ -243,25 +206,16 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
         const std::string program = folder.write("a.shader", "VERTEX_SHADER " + vertex + "\nFRAGMENT_SHADER " + fragment + "\n");
         Library::getInstance()->loadShader("ShadowDepth", program);
     };
-    const std::pair<const char*, std::function<void()>> changes[] = {
-        {"first frame", [] {}},
-        {"nothing", [] {}},
-        {"a static caster moves",
-            [&] {
-                wall.getNode()->setTransform(glm::scale(at(-80, 0, 20), {10, 30, 40}));
-            }},
-        {"a static caster goes", [&] { remove(wall); }},
+    const std::pair<const char*, std::function<void()>> changes[] = {{"first frame", [] {}},
+        {"a static caster moves", [&] { place(wall, at(-80, 0, 20), 20); }}, {"a static caster goes", [&] { remove(wall); }},
         {"a static caster comes", [&] { addStatic(glm::scale(at(120, 0, -120), glm::vec3(20))); }},
-        {"a static caster casts no more", [&] { ground.castsShadow = false; }},
-        {"and casts again", [&] { ground.castsShadow = true; }},
-        {"bounds become unknown", [&] { unknown.boundingRadius = 0; }},
-        {"and it moves", [&] { unknown.getNode()->setTransform(glm::scale(at(90, 0, 0), glm::vec3(12))); }},
-        {"and goes", [&] { remove(unknown); }},
-        {"a moving caster rests for good", [&] { car.isStatic = true; }},
+        {"a static caster casts no more", [&] { ground.castsShadow = false; }}, {"and casts again", [&] { ground.castsShadow = true; }},
+        {"bounds become unknown", [&] { unknown.boundingRadius = 0; }}, {"and it moves", [&] { place(unknown, at(90, 0, 0), 12); }},
+        {"and goes", [&] { remove(unknown); }}, {"a moving caster rests for good", [&] { car.isStatic = true; }},
         {"and drives off",
             [&] {
                 car.isStatic = false;
-                car.getNode()->setTransform(glm::scale(at(30, 0, -60), glm::vec3(15)));
+                place(car, at(30, 0, -60), 15);
             }},
         {"somebody else drew",
             [&] {
@@ -271,8 +225,7 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
             }},
         {"another depth program", [&] { reloadDepthProgram("position * 0.5"); }},
         {"one that does not link", [&] { Library::getInstance()->getShaderprogram("ShadowDepth")->createProgram(); }},
-        {"the right one again", [&] { Library::getInstance()->loadShader("ShadowDepth", "Shader/ShadowDepth.shader"); }},
-    };
+        {"the right one again", [&] { Library::getInstance()->loadShader("ShadowDepth", "Shader/ShadowDepth.shader"); }}};
     for (const auto& [name, change] : changes) {
         change();
         EXPECT_TRUE(frameIsRight()) << "after: " << name;
@@ -280,10 +233,9 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
     }
 }
 
-TEST_F(ShadowTest, TheRenderersTextureIsRightAfterWireframeFrames)
+TEST_F(ShadowCacheTest, TheRenderersTextureIsRightAfterWireframeFrames)
 {
-    BoxModel& box = addBox(glm::scale(at(0, 0, 0), glm::vec3(20)));
-    box.boundingRadius = glm::root_three<float>();
+    BoxModel& box = addCaster(glm::scale(at(0, 0, 0), glm::vec3(20)));
     addWholeWindow(at(0, 0, 100));
     frame();
     renderer().toggleWireframe();
@@ -293,9 +245,7 @@ TEST_F(ShadowTest, TheRenderersTextureIsRightAfterWireframeFrames)
     frame();
 
     constexpr glm::ivec2 kFull(4096, 3072);
-    std::vector<GLuint> depths(static_cast<std::size_t>(kFull.x) * kFull.y);
-    glBindTexture(GL_TEXTURE_2D, renderer().getLightDepthTexture());
-    glGetTexImage(GL_TEXTURE_2D, 0, GL_DEPTH_COMPONENT, GL_UNSIGNED_INT, depths.data());
+    const std::vector<GLuint> depths = depthsOf(renderer().getLightDepthTexture(), kFull);
     const auto depthAt = [&](const glm::vec3& world) {
         const glm::ivec2 texel = glm::ivec2(glm::vec2(biasedLightViewProjection() * glm::vec4(world, 1)) * glm::vec2(kFull));
         return depths[static_cast<std::size_t>(texel.y) * kFull.x + static_cast<std::size_t>(texel.x)];

@@ -1,6 +1,5 @@
 #include "RenderFixture.h"
 
-#include "app/base/IGameState.h"
 #include "gpu/Texture.h"
 #include "gpu/Uniform_Texture.h"
 #include "render/Skybox.h"
@@ -10,78 +9,65 @@
 
 namespace {
 
-/// A sky whose 4 x 2 cells have a plain colour each.
+/// A sky whose 4 x 2 cells have a colour each, their right and upper halves marked.
 class SkyboxTest : public RenderTest {
 protected:
     SkyboxTest() : sky(add<Skybox>(glm::mat4(1.0f))), picture(&texture, 0)
     {
         const DataScratch scratch;
-        scratch.writeTga("sky.tga", 64, 32, 3, [](int x, int y, int i) { return cellColour(x / 16, y / 16)[i]; });
+        scratch.writeTga("sky.tga", 64, 32, 3, [](int x, int y, int i) { return colour(x / 16, y / 16, x % 16 >= 8, y % 16 >= 8)[i]; });
         texture.load("sky.tga");
         texture.setFilter(GL_NEAREST, GL_NEAREST); // the bottom samples one corner, where linear filtering takes in the opposite edges
         sky.bindCameraUniforms(false);
         sky.uniforms["tex"] = &picture;
     }
 
-    static glm::ivec4 cellColour(int column, int row) { return {60 * column + 20, 100 * row + 50, 200, 255}; }
+    static glm::ivec4 colour(int column, int row, bool right, bool upper)
+    {
+        return {60 * column + 20, 100 * row + 50, 100 * right + 50 * upper, 255};
+    }
 
     Skybox& sky;
     Texture texture;
     Uniform_Texture picture;
 };
 
-TEST_F(SkyboxTest, IsSeenFromInsideInEveryDirectionWithItsOwnCell)
+TEST_F(SkyboxTest, IsSeenFromInsideMirroredInEveryDirectionWithItsOwnCell)
 {
     struct Row {
         const char* face;
         glm::vec3 direction, up;
         int column, row;
     };
-    const Row rows[] = {
-        {"-x", {-1, 0, 0}, {0, 1, 0}, 0, 0},
-        {"+z", {0, 0, 1}, {0, 1, 0}, 1, 0},
-        {"+x", {1, 0, 0}, {0, 1, 0}, 2, 0},
-        {"-z", {0, 0, -1}, {0, 1, 0}, 3, 0},
-        {"top", {0, 1, 0}, {0, 0, 1}, 1, 1},
-        {"bottom", {0, -1, 0}, {0, 0, 1}, 0, 0},
-    };
+    const Row rows[] = {{"-x", {-1, 0, 0}, {0, 1, 0}, 0, 0}, {"+z", {0, 0, 1}, {0, 1, 0}, 1, 0}, {"+x", {1, 0, 0}, {0, 1, 0}, 2, 0},
+        {"-z", {0, 0, -1}, {0, 1, 0}, 3, 0}, {"top", {0, 1, 0}, {0, 0, -1}, 1, 1}};
     const Viewport& view = addWholeWindow();
+    const glm::vec3 eye(0);
     for (const Row& row : rows) {
-        const glm::vec3 eye(120, 30, -200);
         view.camera->getNode()->setTransform(glm::inverse(glm::lookAt(eye, eye + row.direction, row.up)));
         frame();
-        EXPECT_EQ(windowPixel(520, 390), cellColour(row.column, row.row)) << row.face;
+        for (const bool right : {false, true})
+            for (const bool upper : {false, true})
+                EXPECT_EQ(windowPixel(right ? 400 : 600, upper ? 450 : 300), colour(row.column, row.row, right, upper)) << row.face;
     }
+    view.camera->getNode()->setTransform(glm::inverse(glm::lookAt(eye, {0, -1, 0}, {0, 0, 1})));
+    frame();
+    EXPECT_EQ(windowPixel(520, 390), colour(0, 0, false, false)) << "the floor has the colour of one corner";
 }
-
-/// Reads the depth of the scene, and the state, once the models are drawn.
-class DepthReader : public IGameState {
-public:
-    DepthReader() : IGameState("DepthReader") {}
-    virtual ~DepthReader() = default;
-    void enter() override {}
-    void leave() override {}
-    void update() override {}
-    void renderCamera(Camera*) override
-    {
-        glReadPixels(100, 100, 1, 1, GL_DEPTH_COMPONENT, GL_FLOAT, &depth);
-        glGetBooleanv(GL_DEPTH_WRITEMASK, &writesDepth);
-        culls = glIsEnabled(GL_CULL_FACE);
-    }
-
-    float depth = 0;
-    GLboolean writesDepth = GL_FALSE, culls = GL_FALSE;
-};
 
 TEST_F(SkyboxTest, LeavesNoTraceInTheDepthBufferAndRestoresTheState)
 {
     addWholeWindow();
-    DepthReader reader;
-    frame(&reader);
-    EXPECT_EQ(windowPixel(100, 100), cellColour(3, 0));
-    EXPECT_EQ(reader.depth, 1.0f);
-    EXPECT_TRUE(reader.writesDepth);
-    EXPECT_TRUE(reader.culls);
+    CameraWatcher afterwards([](Camera*) {
+        float depth = 0;
+        glReadPixels(100, 100, 1, 1, GL_DEPTH_COMPONENT, GL_FLOAT, &depth);
+        GLboolean writesDepth = GL_FALSE;
+        glGetBooleanv(GL_DEPTH_WRITEMASK, &writesDepth);
+        EXPECT_EQ(depth, 1.0f);
+        EXPECT_TRUE(writesDepth);
+        EXPECT_TRUE(glIsEnabled(GL_CULL_FACE));
+    });
+    frame(&afterwards);
 }
 
 TEST_F(SkyboxTest, StaysBehindEverythingWhateverIsDrawnFirst)

@@ -33,30 +33,4 @@ TEST(MeshTest, BoundsOnlyGrow)
     EXPECT_EQ(max, glm::vec3(1, 5, 3));
 }
 
-struct Axes {
-    bool x, y, z;
-    glm::vec3 swapped, inverted; ///< what becomes of the normal (1, 2, 3)
-};
-
-class MeshNormalAxes : public testing::TestWithParam<Axes> {};
-
-TEST_P(MeshNormalAxes, OneSwapAndOneInversionACall)
-{
-    const auto [x, y, z, swapped, inverted] = GetParam();
-    Mesh mesh;
-    mesh.normals = {{1, 2, 3}};
-    mesh.swapNormalAxes(x, y, z);
-    EXPECT_EQ(mesh.normals[0], swapped);
-    mesh.normals = {{1, 2, 3}};
-    mesh.invertNormalAxes(x, y, z);
-    EXPECT_EQ(mesh.normals[0], inverted);
-}
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Table, MeshNormalAxes, testing::Values(
-    Axes{false, false, false, {1, 2, 3}, {1, 2, 3}}, Axes{false, true, false, {1, 2, 3}, {1, -2, 3}}, Axes{false, false, true, {1, 2, 3}, {1, 2, -3}},
-    Axes{true, true, false, {2, 1, 3}, {-1, 2, 3}}, Axes{true, false, true, {3, 2, 1}, {-1, 2, 3}}, Axes{false, true, true, {1, 3, 2}, {1, -2, 3}},
-    Axes{true, true, true, {2, 1, 3}, {-1, 2, 3}}));
-// clang-format on
-
 } // namespace

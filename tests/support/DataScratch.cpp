@@ -1,33 +1,6 @@
 #include "support/DataScratch.h"
 
-#include <unistd.h>
-
-#include <fstream>
-#include <stdexcept>
-
 namespace fs = std::filesystem;
-
-DataScratch::DataScratch() : before(fs::current_path())
-{
-    std::string pattern = (fs::temp_directory_path() / "quackdash-test-XXXXXX").string();
-    if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot create a scratch folder");
-    folder = pattern;
-    fs::current_path(folder);
-}
-
-DataScratch::~DataScratch()
-{
-    std::error_code ignored;
-    fs::current_path(before, ignored);
-    fs::remove_all(folder, ignored);
-}
-
-void DataScratch::write(const std::string& path, const std::string& content) const
-{
-    const fs::path target = folder / path;
-    fs::create_directories(target.parent_path());
-    std::ofstream(target, std::ios::binary) << content;
-}
 
 void DataScratch::writeTga(const std::string& path, int width, int height, int channels,
     const std::function<int(int, int, int)>& component) const
@@ -54,5 +27,5 @@ void DataScratch::writeTga(const std::string& path, int width, int height, int c
 void DataScratch::copyGameData() const
 {
     for (const char* name : {"Shader", "Textures", "Models", "Audio"})
-        fs::copy(fs::path(QUACKDASH_SOURCE_DATA) / name, folder / name, fs::copy_options::recursive);
+        fs::copy(fs::path(QUACKDASH_SOURCE_DATA) / name, path() / name, fs::copy_options::recursive);
 }

@@ -5,18 +5,13 @@
 
 namespace {
 
-int compilerErrorsExpected = 0;
 GlMessages* collector = nullptr;
 
 void GLAPIENTRY onMessage(GLenum source, GLenum type, GLuint, GLenum, GLsizei, const GLchar* message, const void*)
 {
-    if (collector) {
+    if (collector && (source == GL_DEBUG_SOURCE_SHADER_COMPILER || !collector->ofTheCompilerOnly))
         collector->messages.emplace_back(message);
-        return;
-    }
-    if (type != GL_DEBUG_TYPE_ERROR) return;
-    if (source == GL_DEBUG_SOURCE_SHADER_COMPILER && compilerErrorsExpected > 0) return;
-    ADD_FAILURE() << "OpenGL error: " << message;
+    else if (type == GL_DEBUG_TYPE_ERROR) ADD_FAILURE() << "OpenGL error: " << message;
 }
 
 } // namespace
@@ -28,17 +23,7 @@ void failTestsOnGlErrors()
     glDebugMessageCallback(onMessage, nullptr);
 }
 
-CompilerErrorsExpected::CompilerErrorsExpected()
-{
-    ++compilerErrorsExpected;
-}
-
-CompilerErrorsExpected::~CompilerErrorsExpected()
-{
-    --compilerErrorsExpected;
-}
-
-GlMessages::GlMessages()
+GlMessages::GlMessages(bool compilerOnly) : ofTheCompilerOnly(compilerOnly)
 {
     collector = this;
 }

@@ -7,22 +7,23 @@
 /// entry points loaded; replaces the callback that was there.
 void failTestsOnGlErrors();
 
-/// While one lives, messages of the GLSL compiler do not fail the test: for tests that load spoiled shaders.
-class CompilerErrorsExpected {
-public:
-    CompilerErrorsExpected();
-    ~CompilerErrorsExpected();
-    CompilerErrorsExpected(const CompilerErrorsExpected&) = delete;
-    CompilerErrorsExpected& operator=(const CompilerErrorsExpected&) = delete;
-};
-
-/// While one lives, no message fails the test; they are kept instead.
+/// While one lives, no message fails the test; all are kept instead, of every type. One at a time.
 class GlMessages {
 public:
-    GlMessages();
+    GlMessages() : GlMessages(false) {}
     ~GlMessages();
     GlMessages(const GlMessages&) = delete;
     GlMessages& operator=(const GlMessages&) = delete;
 
-    std::vector<std::string> messages; ///< of every type, errors or not
+    std::vector<std::string> messages;
+    const bool ofTheCompilerOnly;
+
+protected:
+    explicit GlMessages(bool compilerOnly);
+};
+
+/// Keeps messages of the GLSL compiler only: for tests that load spoiled shaders.
+class CompilerErrorsExpected : public GlMessages {
+public:
+    CompilerErrorsExpected() : GlMessages(true) {}
 };

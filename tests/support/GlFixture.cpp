@@ -4,10 +4,7 @@
 #include "platform/AppWindow.h"
 #include "support/GlErrors.h"
 
-#include <GL/glew.h>
-
 #include <stdexcept>
-#include <vector>
 
 namespace {
 
@@ -76,4 +73,11 @@ int GlTest::paintedPixels()
     int painted = 0;
     for (const glm::u8vec4& pixel : pixels) painted += pixel.r || pixel.g || pixel.b;
     return painted;
+}
+
+GLint GlTest::integer(GLenum what)
+{
+    GLint value = -1;
+    glGetIntegerv(what, &value);
+    return value;
 }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <GL/glew.h>
 #include <glm/glm.hpp>
 #include <gtest/gtest.h>
+
+#include <vector>
 
 /// A test with a real OpenGL 4.3 core debug context; any GL error fails it. All tests of a program share one window, which the first
 /// opens. Each starts with no program and no buffer bound, drawing into an off-screen picture of kSide x kSide pixels, cleared black,
@@ -17,4 +20,19 @@ protected:
 
     /// Pixels of the picture that are not black.
     static int paintedPixels();
+
+    /// What glGetIntegerv says.
+    static GLint integer(GLenum what);
+
+    /// The whole of a buffer object.
+    template <class T>
+    static std::vector<T> contentOf(GLuint buffer)
+    {
+        glBindBuffer(GL_COPY_READ_BUFFER, buffer);
+        GLint bytes = 0;
+        glGetBufferParameteriv(GL_COPY_READ_BUFFER, GL_BUFFER_SIZE, &bytes);
+        std::vector<T> content(static_cast<std::size_t>(bytes) / sizeof(T));
+        glGetBufferSubData(GL_COPY_READ_BUFFER, 0, bytes, content.data());
+        return content;
+    }
 };
