@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -29,22 +30,20 @@ inline std::string colladaSource(const std::string& id, const std::string& numbe
 /// A Collada document in which every geometry hangs on a node of its own that moves it by (100, 0, 0).
 inline std::string colladaDocument(const std::vector<ColladaMesh>& meshes)
 {
-    std::string geometries, nodes;
+    std::ostringstream geometries, nodes;
     for (std::size_t i = 0; i < meshes.size(); ++i) {
         const std::string id = "mesh" + std::to_string(i);
-        const ColladaMesh& mesh = meshes[i];
-        geometries += "<geometry id=\"" + id + "\"><mesh>\n" + colladaSource(id + "-p", mesh.positions, "XYZ");
-        if (!mesh.texcoords.empty()) geometries += colladaSource(id + "-t", mesh.texcoords, "ST");
-        geometries += "<vertices id=\"" + id + "-v\"><input semantic=\"POSITION\" source=\"#" + id +
-            "-p\"/></vertices>\n<triangles count=\"" + std::to_string(countOf(mesh.triangles) / 3) +
-            "\"><input semantic=\"VERTEX\" source=\"#" + id + "-v\" offset=\"0\"/>";
-        if (!mesh.texcoords.empty()) geometries += "<input semantic=\"TEXCOORD\" source=\"#" + id + "-t\" offset=\"0\" set=\"0\"/>";
-        geometries += "<p>" + mesh.triangles + "</p></triangles></mesh></geometry>\n";
-        nodes +=
-            "<node id=\"node" + std::to_string(i) + "\"><translate>100 0 0</translate><instance_geometry url=\"#" + id + "\"/></node>\n";
+        const auto& [positions, texcoords, triangles] = meshes[i];
+        geometries << "<geometry id='" << id << "'><mesh>\n" << colladaSource(id + "-p", positions, "XYZ");
+        if (!texcoords.empty()) geometries << colladaSource(id + "-t", texcoords, "ST");
+        geometries << "<vertices id='" << id << "-v'><input semantic='POSITION' source='#" << id << "-p'/></vertices>\n<triangles count='"
+                   << countOf(triangles) / 3 << "'><input semantic='VERTEX' source='#" << id << "-v' offset='0'/>";
+        if (!texcoords.empty()) geometries << "<input semantic='TEXCOORD' source='#" << id << "-t' offset='0' set='0'/>";
+        geometries << "<p>" << triangles << "</p></triangles></mesh></geometry>\n";
+        nodes << "<node id='node" << i << "'><translate>100 0 0</translate><instance_geometry url='#" << id << "'/></node>\n";
     }
     return "<?xml version=\"1.0\"?>\n<COLLADA xmlns=\"http://www.collada.org/2005/11/COLLADASchema\" version=\"1.4.1\">\n"
            "<asset><up_axis>Y_UP</up_axis></asset>\n<library_geometries>\n" +
-        geometries + "</library_geometries>\n<library_visual_scenes><visual_scene id=\"scene\">\n" + nodes +
+        geometries.str() + "</library_geometries>\n<library_visual_scenes><visual_scene id=\"scene\">\n" + nodes.str() +
         "</visual_scene></library_visual_scenes>\n<scene><instance_visual_scene url=\"#scene\"/></scene>\n</COLLADA>\n";
 }

@@ -10,7 +10,7 @@ class AudioSystemTest : public testing::Test {
 protected:
     std::string toneFile(double hertz, double amplitude = 0.25)
     {
-        const std::string path = (folder.path() / (std::to_string(hertz) + ".wav")).string();
+        std::string path = (folder.path() / (std::to_string(hertz) + ".wav")).string();
         writeWave(path, tone(hertz, kRate, amplitude));
         return path;
     }

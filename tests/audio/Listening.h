@@ -32,6 +32,7 @@ struct Samples {
 inline std::vector<float> tone(double hertz, int frames, double amplitude, int rate = kRate)
 {
     std::vector<float> samples;
+    samples.reserve(static_cast<std::size_t>(frames));
     for (int i = 0; i < frames; ++i) samples.push_back(static_cast<float>(amplitude * std::sin(2 * std::numbers::pi * hertz * i / rate)));
     return samples;
 }
@@ -67,7 +68,7 @@ inline Samples listen(SoundOutput& output, int frames, int passFrames = kRate / 
     Samples heard{std::vector<float>(2 * static_cast<std::size_t>(frames))};
     for (int at = 0; at < frames; at += passFrames) {
         EXPECT_EQ(output.update(), kSoundOk);
-        output.render(heard.values.data() + 2 * at, std::min(passFrames, frames - at));
+        output.render(&heard.values[2 * static_cast<std::size_t>(at)], std::min(passFrames, frames - at));
     }
     return heard;
 }

@@ -127,15 +127,17 @@ TEST_F(SoundOutputTest, EndsWhatDoesNotLoopAndFreesItsChannel)
 TEST_F(SoundOutputTest, LetsTheOldestOneShotGiveWayToThe33rdSound)
 {
     const auto hertz = [](int i) { return 400.0 + 100 * i; };
-    std::vector<SoundChannel> channels;
-    for (int i = 0; i < 32; ++i) // the two oldest loop: they stay
-        channels.push_back(play(loadWave(tone(hertz(i), kRate, 0.02)), i < 2 ? SoundMode::LoopNormal : SoundMode::LoopOff));
+    SoundChannel oldest;
+    for (int i = 0; i < 32; ++i) { // the first two loop: they stay
+        const SoundChannel channel = play(loadWave(tone(hertz(i), kRate, 0.02)), i < 2 ? SoundMode::LoopNormal : SoundMode::LoopOff);
+        if (i == 2) oldest = channel;
+    }
     const SoundChannel late = play(loadWave(tone(hertz(32), kRate, 0.02)), SoundMode::LoopOff);
 
     const Samples heard = listen(output, kRate / 2);
     for (int i = 0; i <= 32; ++i) EXPECT_NEAR(amplitudeAt(heard, hertz(i)), i == 2 ? 0.0 : 0.02, 0.001) << "sound " << i;
-    EXPECT_NE(output.setVolume(channels[2], 0), kSoundOk) << "its channel is another sound's";
-    EXPECT_NE(output.setFrequency(channels[2], kRate), kSoundOk);
+    EXPECT_NE(output.setVolume(oldest, 0), kSoundOk) << "its channel is another sound's";
+    EXPECT_NE(output.setFrequency(oldest, kRate), kSoundOk);
     EXPECT_EQ(output.setVolume(late, 0), kSoundOk);
 }
 

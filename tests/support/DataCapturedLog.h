@@ -2,13 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <iostream>
 #include <string>
 
 /// Collects what the program writes to standard output, log lines and printf alike, from its construction to its first text(). One at a time.
 class CapturedLog {
 public:
     CapturedLog() { testing::internal::CaptureStdout(); }
-    ~CapturedLog() { text(); }
+    ~CapturedLog()
+    {
+        text();
+        if (testing::Test::HasFailure()) std::cout << captured << std::flush; // an expectation that failed meanwhile has its message here
+    }
     CapturedLog(const CapturedLog&) = delete;
     CapturedLog& operator=(const CapturedLog&) = delete;
 

@@ -10,6 +10,7 @@
 #include <PxPhysicsAPI.h>
 #include <glm/glm.hpp>
 
+#include <cmath>
 #include <functional>
 
 /// A physics world for one test: ground, cars and balls in a line each, and passes as the game makes them at 120 a second.
@@ -79,7 +80,7 @@ public:
         float seconds, const std::function<void()>& each = [] {})
     {
         runUntil(
-            static_cast<int>(seconds / kPassSeconds + 0.5f), [] { return false; }, each);
+            static_cast<int>(std::lround(seconds / kPassSeconds)), [] { return false; }, each);
     }
 
     static glm::vec3 positionOf(const VehicleHandle& car)
