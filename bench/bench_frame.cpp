@@ -7,7 +7,7 @@
 // For each number of viewports it prints a table of the steps of a frame (medians of wall and processor time; each step ended by a GL
 // finish) and then one line for scripts, of frames measured as a whole without those finishes:
 // `views 2 frame_ms 43.1 p95_ms 50.2 rss_growth_kib 120`.
-// rss_growth_kib: of resident memory from the first of all those frames to the last: shots leave a scene node of some 250 bytes each.
+// rss_growth_kib: of resident memory from the first of all those frames to the last: shots leave a scene node of some 300 bytes each.
 // `bench_frame 3000 16 6` is a soak of some ten minutes on two processor cores without a graphics card.
 //
 // On a busy machine the processor time is the steadier figure: a software driver's threads count in it.
