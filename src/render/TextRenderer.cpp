@@ -19,7 +19,8 @@ Cell cellOf(char character)
 {
     if (character == ' ') return {0.0f, 6 * kGlyph};
     const int index = static_cast<signed char>(character) - '!';
-    return {static_cast<float>(index % kCellsPerRow) * kGlyph, static_cast<float>(index / kCellsPerRow) * kGlyph};
+    const int column = index % kCellsPerRow, row = index / kCellsPerRow; // both truncate towards 0
+    return {static_cast<float>(column) * kGlyph, static_cast<float>(row) * kGlyph};
 }
 
 } // namespace
