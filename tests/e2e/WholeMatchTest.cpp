@@ -95,6 +95,7 @@ TEST_F(WholeMatch, IsPlayedForPointsAndRankedEveryThreeSeconds)
 
     // The first hit, three leaders, and a kill: the points that it is worth come at once.
     ASSERT_TRUE(game.waitForLog("First:  (", 1, kMatchSeconds)) << "nobody hit anybody";
+    ASSERT_TRUE(game.waitForLog("First:  (", game.countInLog("First:  (") + 1)); // the clock starts with a fresh one
     const auto first = std::chrono::steady_clock::now();
     const int atFirst = game.countInLog("First:  (");
     EXPECT_TRUE(waitUntil(kMatchSeconds,
