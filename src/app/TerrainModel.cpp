@@ -7,10 +7,13 @@
 #include "scene/Mesh.h"
 #include "scene/Node.h"
 
+#include <limits>
+
 namespace {
 
 constexpr unsigned kIndicesPerRun = 9 * 6; // nine cells of a row, of two triangles each
 constexpr float kFineDistance = 28;        // world units from the eye within which an edge is split
+constexpr float kEverywhere = std::numeric_limits<float>::infinity();
 
 Mesh meshOf(const Terrain& terrain)
 {
@@ -61,30 +64,24 @@ void TerrainModel::attachTo(Node& mapNode)
 
 void TerrainModel::draw()
 {
-    RangeCuller::Visible ranges = visible();
-    if (!farGround.isDrawable()) ranges.near.insert(ranges.near.end(), ranges.far.begin(), ranges.far.end());
     shader->setUniform("fineDistance", kFineDistance);
-    draw(*this, ranges.near);
+    draw(*this, 0, farGround.isDrawable() ? kFineDistance : kEverywhere);
 }
 
 void TerrainModel::FarGround::draw()
 {
-    ground.draw(*this, ground.visible().far);
+    ground.draw(*this, kFineDistance, kEverywhere);
 }
 
-RangeCuller::Visible TerrainModel::visible() const
+/// What the camera being drawn may see of the ground at these distances from it, in world units.
+void TerrainModel::draw(const Model& model, float from, float to) const
 {
     const glm::mat4 view = boost::get<IUniform<glm::mat4>*>(uniforms.at("view"))->get();
     const glm::mat4 projection = boost::get<IUniform<glm::mat4>*>(uniforms.at("projection"))->get();
     const glm::mat4 toEye = view * getNode()->getWorldTransform();
-    return culler.visible(projection * toEye, glm::vec3(glm::inverse(toEye)[3]), kFineDistance);
-}
-
-void TerrainModel::draw(const Model& model, const std::vector<IndexRange>& ranges) const
-{
     std::vector<GLsizei> counts;
     std::vector<unsigned> firsts;
-    for (const IndexRange& range : ranges) {
+    for (const IndexRange& range : culler.visible(projection * toEye, glm::vec3(glm::inverse(toEye)[3]), from, to)) {
         counts.push_back(static_cast<GLsizei>(range.count));
         firsts.push_back(range.first);
     }

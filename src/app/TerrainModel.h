@@ -35,8 +35,7 @@ private:
 
     explicit TerrainModel(const Mesh& mesh);
     void setUp(Model& model, const char* programName);
-    RangeCuller::Visible visible() const;
-    void draw(const Model& model, const std::vector<IndexRange>& ranges) const;
+    void draw(const Model& model, float from, float to) const;
 
     MeshGeometry geometry;
     RangeCuller culler;

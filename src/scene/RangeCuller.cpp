@@ -23,13 +23,6 @@ bool isOutside(const glm::vec3& min, const glm::vec3& max, const glm::mat4& toCl
     return std::any_of(below, below + 3, [](int n) { return n == 8; }) || std::any_of(above, above + 3, [](int n) { return n == 8; });
 }
 
-void append(const IndexRange& range, std::vector<IndexRange>& ranges)
-{
-    const bool continues = !ranges.empty() && ranges.back().first + ranges.back().count == range.first;
-    if (continues) ranges.back().count += range.count;
-    else ranges.push_back(range);
-}
-
 } // namespace
 
 RangeCuller::RangeCuller(const Mesh& mesh, unsigned indicesPerRun)
@@ -47,13 +40,15 @@ RangeCuller::RangeCuller(const Mesh& mesh, unsigned indicesPerRun)
     }
 }
 
-RangeCuller::Visible RangeCuller::visible(const glm::mat4& toClip, const glm::vec3& eye, float distance) const
+std::vector<IndexRange> RangeCuller::visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const
 {
-    Visible result;
+    std::vector<IndexRange> ranges;
     for (const Run& run : runs) {
-        if (isOutside(run.min, run.max, toClip)) continue;
-        const bool isNear = glm::distance(glm::clamp(eye, run.min, run.max), eye) < distance;
-        append(run.range, isNear ? result.near : result.far);
+        const float distance = glm::distance(glm::clamp(eye, run.min, run.max), eye);
+        if (distance < from || distance >= to || isOutside(run.min, run.max, toClip)) continue;
+        const bool continues = !ranges.empty() && ranges.back().first + ranges.back().count == run.range.first;
+        if (continues) ranges.back().count += run.range.count;
+        else ranges.push_back(run.range);
     }
-    return result;
+    return ranges;
 }

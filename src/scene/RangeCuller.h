@@ -21,15 +21,9 @@ public:
     /// indicesPerRun: a multiple of 3, at least 3. Runs do best when they are compact: some cells of one row of a grid.
     RangeCuller(const Mesh& mesh, unsigned indicesPerRun);
 
-    /// What a view shows, by the distance of the runs' bounds from the eye.
-    struct Visible {
-        std::vector<IndexRange> near; ///< some point of the bounds lies closer than the given distance
-        std::vector<IndexRange> far;  ///< no point does
-    };
-
-    /// The stretches whose bounds touch the view, in order, neighbours joined. toClip: the mesh's coordinates to clip space; the eye's
-    /// place in the mesh's coordinates, the distance in its units.
-    Visible visible(const glm::mat4& toClip, const glm::vec3& eye, float distance) const;
+    /// The stretches whose bounds touch the view and whose nearest point to the eye is at least `from` and less than `to` away, in order,
+    /// neighbours joined. toClip: the mesh's coordinates to clip space; eye, from and to in the mesh's coordinates and units.
+    std::vector<IndexRange> visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const;
 
 private:
     struct Run {
