@@ -10,20 +10,19 @@
 #include "render/Renderer.h"
 #include "scene/Node.h"
 #include "scene/SceneGraph.h"
+#include "scene/Transforms.h"
 
 #include <GLFW/glfw3.h>
-#include <glm/gtc/matrix_transform.hpp>
 
 namespace {
 
 Node* createCameraNode(const QKD_Game& game)
 {
-    const glm::mat4 identity(1.0f);
     Node* node = new Node("CameraNode");
     game.getSceneGraph()->getRoot()->addChild(node);
-    node->transform(glm::rotate(identity, glm::radians(180.0f), glm::vec3(0, 1, 0)), true);
-    node->transform(glm::rotate(identity, glm::radians(-15.0f), glm::vec3(1, 0, 0)), true);
-    node->transform(glm::translate(identity, glm::vec3(0, 5, -15)), false);
+    node->transform(rotation(180, glm::vec3(0, 1, 0)), true);
+    node->transform(rotation(-15, glm::vec3(1, 0, 0)), true);
+    node->transform(translation(glm::vec3(0, 5, -15)), false);
     return node;
 }
 

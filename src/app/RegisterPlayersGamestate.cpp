@@ -9,9 +9,9 @@
 #include "render/Renderer.h"
 #include "scene/Node.h"
 #include "scene/SceneGraph.h"
+#include "scene/Transforms.h"
 
 #include <GLFW/glfw3.h>
-#include <glm/gtc/matrix_transform.hpp>
 
 namespace {
 
@@ -32,12 +32,11 @@ constexpr HelpLine kHelp[] = {
 /// High above the field's edge, looking down onto it.
 Node* createPanoramaNode(const QKD_Game& game)
 {
-    const glm::mat4 identity(1.0f);
     Node* node = new Node("PanoramaCamera");
     game.getSceneGraph()->getRoot()->addChild(node);
-    node->transform(glm::translate(identity, glm::vec3(0, 150, -50)), true);
-    node->transform(glm::rotate(identity, glm::radians(180.0f), glm::vec3(0, 1, 0)), true);
-    node->transform(glm::rotate(identity, glm::radians(-70.0f), glm::vec3(1, 0, 0)), true);
+    node->transform(translation(glm::vec3(0, 150, -50)), true);
+    node->transform(rotation(180, glm::vec3(0, 1, 0)), true);
+    node->transform(rotation(-70, glm::vec3(1, 0, 0)), true);
     return node;
 }
 

@@ -9,8 +9,8 @@
 #include "players/IMatch.h"
 #include "players/IStage.h"
 #include "scene/SceneGraph.h"
+#include "scene/Transforms.h"
 
-#include <glm/gtc/matrix_transform.hpp>
 #include <vehicle/PxVehicleComponents.h>
 
 #include <algorithm>
@@ -43,16 +43,6 @@ const glm::vec4 kColours[] = {
     {0.2f, 0.9f, 0.9f, 1},
     {0.9f, 0.2f, 0.9f, 1},
 };
-
-glm::mat4 rotation(float degrees, const glm::vec3& axis)
-{
-    return glm::rotate(glm::mat4(1.0f), glm::radians(degrees), axis);
-}
-
-glm::mat4 translation(const glm::vec3& offset)
-{
-    return glm::translate(glm::mat4(1.0f), offset);
-}
 
 void rumble(InputDevice& device, const Rumble& request)
 {

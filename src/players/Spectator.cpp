@@ -5,23 +5,12 @@
 #include "input/InputDevice.h"
 #include "players/IMatch.h"
 #include "scene/Node.h"
-
-#include <glm/gtc/matrix_transform.hpp>
+#include "scene/Transforms.h"
 
 namespace {
 
 constexpr float kYawShare = 1 / 50.0f;    // degrees a frame at full steering
 constexpr float kPitchShare = 1 / 150.0f; // degrees a frame at full steering
-
-glm::mat4 rotation(float degrees, const glm::vec3& axis)
-{
-    return glm::rotate(glm::mat4(1.0f), glm::radians(degrees), axis);
-}
-
-glm::mat4 translation(const glm::vec3& offset)
-{
-    return glm::translate(glm::mat4(1.0f), offset);
-}
 
 float pressed(InputDevice& device, int button)
 {

@@ -10,6 +10,8 @@ public:
     struct Rect {
         int x = 0, y = 0;          ///< pixels from the window's lower-left corner
         int width = 0, height = 0; ///< pixels
+
+        bool operator==(const Rect&) const = default;
     };
 
     Viewport(int x, int y, int width, int height) : rect{x, y, width, height} {}

@@ -65,12 +65,8 @@ TEST_F(MatchRulesTest, LayoutGivesEachPlayerItsCellAndFindsTheFreeOne)
         match.addPlayer(devices.at(static_cast<std::size_t>(count - 1)));
         match.rules.layoutViewports();
         for (int i = 0; i < count; ++i) {
-            const Viewport::Rect expected = viewportCell(count, i, 1024, 768);
             const Viewport::Rect& rect = match.rules.getPlayers().at(static_cast<std::size_t>(i))->getViewport()->getRect();
-            EXPECT_EQ(rect.x, expected.x) << i << " of " << count;
-            EXPECT_EQ(rect.y, expected.y) << i << " of " << count;
-            EXPECT_EQ(rect.width, expected.width) << i << " of " << count;
-            EXPECT_EQ(rect.height, expected.height) << i << " of " << count;
+            EXPECT_TRUE(rect == viewportCell(count, i, 1024, 768)) << i << " of " << count;
         }
 
         const auto free = match.rules.freeViewportRect();

@@ -15,14 +15,8 @@ class ViewportLayout : public testing::TestWithParam<LayoutRow> {};
 
 TEST_P(ViewportLayout, CellsArePixelsTruncatedTowardsZero)
 {
-    for (std::size_t i = 0; i < GetParam().cells.size(); ++i) {
-        const Viewport::Rect& expected = GetParam().cells[i];
-        const Viewport::Rect cell = viewportCell(GetParam().players, static_cast<int>(i), 1024, 768);
-        EXPECT_EQ(cell.x, expected.x) << "cell " << i;
-        EXPECT_EQ(cell.y, expected.y) << "cell " << i;
-        EXPECT_EQ(cell.width, expected.width) << "cell " << i;
-        EXPECT_EQ(cell.height, expected.height) << "cell " << i;
-    }
+    for (std::size_t i = 0; i < GetParam().cells.size(); ++i)
+        EXPECT_TRUE(viewportCell(GetParam().players, static_cast<int>(i), 1024, 768) == GetParam().cells[i]) << "cell " << i;
 }
 
 const std::vector<Viewport::Rect> kQuarters{{0, 384, 512, 384}, {512, 384, 512, 384}, {0, 0, 512, 384}, {512, 0, 512, 384}};

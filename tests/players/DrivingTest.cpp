@@ -37,22 +37,6 @@ public:
     Player& player;
 };
 
-TEST(Driving, UpDrivesForwardsAndDownBrakesAndThenReverses)
-{
-    DrivenCar car;
-    const glm::vec3 start = car.player.getPosition();
-    const glm::vec3 ahead = car.forward();
-    car.drive({GLFW_KEY_UP}, 2);
-    EXPECT_GT(car.speed(), 3.0f);
-    EXPECT_GT(glm::dot(car.player.getPosition() - start, ahead), 3.0f);
-
-    car.drive({GLFW_KEY_DOWN}, 4);
-    EXPECT_LT(car.speed(), -1.0f) << "the brake key did not turn into reverse";
-
-    car.drive({GLFW_KEY_UP}, 4);
-    EXPECT_GT(car.speed(), 1.0f) << "the throttle key did not end reverse";
-}
-
 TEST(Driving, RightTurnsTheCarToItsDriversRight)
 {
     DrivenCar car;
@@ -60,18 +44,6 @@ TEST(Driving, RightTurnsTheCarToItsDriversRight)
     car.drive({GLFW_KEY_UP, GLFW_KEY_RIGHT}, 0.7);
     // The driver's right is -x of the car, so the nose turns clockwise seen from above.
     EXPECT_LT(glm::cross(before, car.forward()).y, -0.1f);
-}
-
-TEST(Driving, TheHandBrakeSlowsARollingCar)
-{
-    const auto speedLeft = [](std::initializer_list<int> keys) {
-        DrivenCar car;
-        car.drive({GLFW_KEY_UP}, 2);
-        car.drive(keys, 0.5);
-        return car.speed();
-    };
-    const float rolling = speedLeft({});
-    EXPECT_LT(speedLeft({GLFW_KEY_L}), rolling - 1.0f);
 }
 
 } // namespace
