@@ -1,4 +1,3 @@
-#include "physics/CollisionGroups.h"
 #include "support/WorldFixture.h"
 
 #include <PxPhysicsAPI.h>
@@ -7,25 +6,7 @@
 #include <set>
 #include <utility>
 
-using physx::PxFilterData;
-using physx::PxFilterFlag;
-using physx::PxFilterFlags;
-using physx::PxPairFlag;
-using physx::PxPairFlags;
-
 namespace {
-
-struct Verdict {
-    PxFilterFlags filter;
-    PxPairFlags pair;
-};
-
-Verdict judge(const PxFilterData& a, const PxFilterData& b, physx::PxFilterObjectAttributes attributesA = 0)
-{
-    Verdict verdict;
-    verdict.filter = filterCollisions(attributesA, a, 0, b, verdict.pair, nullptr, 0);
-    return verdict;
-}
 
 /// Remembers which pairs of actors began to touch.
 class TouchLog : public physx::PxSimulationEventCallback {
@@ -33,7 +14,7 @@ public:
     void onContact(const physx::PxContactPairHeader& header, const physx::PxContactPair* pairs, physx::PxU32 count) override
     {
         for (physx::PxU32 i = 0; i < count; ++i) {
-            if (pairs[i].events & PxPairFlag::eNOTIFY_TOUCH_FOUND) touches.emplace(header.actors[0], header.actors[1]);
+            if (pairs[i].events & physx::PxPairFlag::eNOTIFY_TOUCH_FOUND) touches.emplace(header.actors[0], header.actors[1]);
         }
     }
     void onConstraintBreak(physx::PxConstraintInfo*, physx::PxU32) override {}
@@ -52,26 +33,6 @@ private:
 };
 
 } // namespace
-
-TEST(CollisionFilter, ResolvesPairsOfWhichOneListsTheOtherAndReportsThoseThatBothDo)
-{
-    const PxPairFlags resolved = PxPairFlag::eCONTACT_DEFAULT, reported = resolved | PxPairFlag::eNOTIFY_TOUCH_FOUND;
-    struct Case {
-        PxFilterData a, b;
-        PxPairFlags pair; ///< none: suppressed
-    };
-    const Case cases[] = {{simulationFilter(kGroundGroup), simulationFilter(kWheelGroup), {}}, {{4, 16, 0, 0}, {16, 0, 0, 0}, resolved},
-        {{4, 4, 0, 0}, {4, 4, 0, 1}, reported | PxPairFlag::eDETECT_CCD_CONTACT},
-        {{4, 4, PxPairFlag::eNOTIFY_TOUCH_LOST, 0}, {4, 4, PxPairFlag::eNOTIFY_TOUCH_PERSISTS, 0xFFFF0002},
-            reported | PxPairFlag::eNOTIFY_TOUCH_LOST | PxPairFlag::eNOTIFY_TOUCH_PERSISTS}};
-    for (const auto& [a, b, pair] : cases) {
-        for (const Verdict& verdict : {judge(a, b), judge(b, a)}) {
-            EXPECT_EQ(verdict.filter, PxFilterFlags(pair ? PxFilterFlag::eDEFAULT : PxFilterFlag::eSUPPRESS));
-            EXPECT_EQ(verdict.pair, pair);
-        }
-    }
-    EXPECT_EQ(judge({1, 0, 0, 0}, {2, 0, 0, 0}, physx::PxFilterObjectFlag::eTRIGGER).pair, PxPairFlags(PxPairFlag::eTRIGGER_DEFAULT));
-}
 
 TEST(Contacts, OfABallWithACarAndWithTheGroundAreReported)
 {
