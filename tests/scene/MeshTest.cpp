@@ -23,14 +23,4 @@ TEST(MeshTest, NormalsAreTheUnweightedSumOfTheFacesOnTheirBackSide)
     for (int shared : {0, 1}) EXPECT_TRUE(isNear(mesh.normals.at(static_cast<std::size_t>(shared)), {0, -half, -half}));
 }
 
-TEST(MeshTest, BoundsOnlyGrow)
-{
-    Mesh mesh;
-    mesh.positions = {{1, 2, 3}, {-1, 5, 0}};
-    glm::vec3 min(0, 3, -9), max(0, 3, -9);
-    mesh.getBounds(min, max);
-    EXPECT_EQ(min, glm::vec3(-1, 2, -9));
-    EXPECT_EQ(max, glm::vec3(1, 5, 3));
-}
-
 } // namespace
