@@ -86,15 +86,13 @@ public:
     HeadlessMatch(const HeadlessMatch&) = delete;
     HeadlessMatch& operator=(const HeadlessMatch&) = delete;
 
-    Player& addPlayer(InputDevice& device)
+    /// A person with a scripted device of their own joins.
+    Player& join()
     {
-        rules.addPlayer(&device);
+        rules.addPlayer(&devices.emplace_back());
         graph.update();
         return *rules.getPlayers().back();
     }
-
-    /// A person with a scripted device of their own joins.
-    Player& join() { return addPlayer(devices.emplace_back()); }
     static ScriptedDevice& deviceOf(const Player& player) { return static_cast<ScriptedDevice&>(player.getDevice()); }
 
     Player& addComputerPlayer()
