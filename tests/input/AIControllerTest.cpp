@@ -106,18 +106,6 @@ TEST_F(AIControllerTest, SteersTowardsTheTargetShootsAtWhatIsAheadAndHandBrakesI
     }
 }
 
-TEST_F(AIControllerTest, MeasuresInTheFrameOfTheTurnedCar)
-{
-    own.attitude = glm::rotate(glm::mat4(1.0f), glm::radians(90.0f), glm::vec3(0, 1, 0)); // faces +x, right is +z
-    prey.position = {0, 0, 50};
-    lookAfresh();
-    EXPECT_NEAR(steering(), 0.65f, 1e-4f);
-    prey.position = {50, 0, -1};
-    lookAfresh();
-    EXPECT_LT(steering(), 0);
-    EXPECT_TRUE(shoots());
-}
-
 TEST_F(AIControllerTest, PointBlankItShootsInAnyDirection)
 {
     for (const float away : {1.9f, 2.1f}) {

@@ -1,5 +1,4 @@
 #include "scene/Attachable.h"
-#include "scene/Camera.h"
 #include "scene/SceneGraph.h"
 #include "support/Near.h"
 
@@ -7,7 +6,6 @@
 
 #include <glm/gtc/matrix_transform.hpp>
 
-#include <string>
 #include <vector>
 
 namespace {
@@ -25,21 +23,6 @@ public:
     void update() override { seenAt.push_back(getNode()->getWorldPosition()); }
 
     std::vector<glm::vec3> seenAt;
-};
-
-/// Writes down the walk through a tree in the order of the calls; released ones carry a minus.
-class WalkLog : public INodeVisitor {
-public:
-    void visitModel(Model*) override { log += "model "; }
-    void visitCamera(Camera*) override { log += "camera "; }
-    void visitAttachable(Attachable*) override { log += "attachable "; }
-    void visitNode(Node* node) override { log += node->getName() + " "; }
-    void releaseModel(Model*) override { log += "-model "; }
-    void releaseCamera(Camera*) override { log += "-camera "; }
-    void releaseAttachable(Attachable*) override { log += "-attachable "; }
-    void releaseNode(Node* node) override { log += "-" + node->getName() + " "; }
-
-    std::string log;
 };
 
 /// The scene tree of a test. Nodes stay allocated, as in the game.
@@ -82,22 +65,6 @@ TEST_F(NodeTest, FindReturnsTheFirstOfThatNameInPreOrder)
     EXPECT_EQ(root.find("hat"), &deepLeft) << "the earlier branch wins over the shallower one";
     EXPECT_EQ(root.find("right"), &right) << "a node is met before what lies below it";
     EXPECT_EQ(inner.find("hat"), nullptr);
-}
-
-TEST_F(NodeTest, VisitorsSeeNodeThenAttachmentsThenChildren)
-{
-    Witness witness;
-    Camera camera(45, 1, 0.1f, 100, {});
-    root.attach(&witness);
-    Node& first = *root.createChild("first");
-    first.attach(&camera);
-    first.createChild("below");
-    root.createChild("second");
-
-    WalkLog walk;
-    scene.accept(&walk);
-    scene.acceptRelease(&walk);
-    EXPECT_EQ(walk.log, "root attachable first camera below second -root -attachable -first -camera -below -second ");
 }
 
 /// A node that leaves something else too when it is destroyed, as physics nodes do.
