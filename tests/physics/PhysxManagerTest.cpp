@@ -29,23 +29,6 @@ TEST(FixedStep, IsTakenOnceEnoughTimeIsOwedAndOnceACall)
     EXPECT_TRUE(world.manager.step(0.0001f)) << "the debt must be kept";
 }
 
-TEST(PhysicNode, PlacedAnewStandsUprightAndKeepsItsVelocities)
-{
-    WorldFixture world;
-    SceneGraph graph;
-    PhysicNode& ball = world.ballAt({0, 10, 0}, {3, 4, 5});
-    graph.getRoot()->addChild(&ball);
-    bodyOf(ball).setAngularVelocity(physx::PxVec3(0, 7, 0));
-    for (int i = 0; i < 10; ++i) world.pass();
-    const physx::PxVec3 velocity = bodyOf(ball).getLinearVelocity(), spin = bodyOf(ball).getAngularVelocity();
-
-    ball.setPosition(1, 2, 3);
-    graph.update();
-    EXPECT_TRUE(isNear(ball.getWorldTransform(), glm::translate(glm::mat4(1), glm::vec3(1, 2, 3))));
-    EXPECT_EQ(bodyOf(ball).getLinearVelocity(), velocity);
-    EXPECT_EQ(bodyOf(ball).getAngularVelocity(), spin);
-}
-
 TEST(PhysicNode, OfAWheelTurnsWithTheCarAndWithTheWheel)
 {
     WorldFixture world;
