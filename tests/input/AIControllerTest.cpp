@@ -51,7 +51,7 @@ protected:
     void preyAt(float degreesRight, float distance)
     {
         const float radians = glm::radians(degreesRight);
-        prey.position = own.position + glm::vec3(-std::sin(radians), 0, std::cos(radians)) * distance;
+        prey.position = own.position + glm::mat3(own.attitude) * glm::vec3(-std::sin(radians), 0, std::cos(radians)) * distance;
     }
 
     /// A fresh look at the opponent, whatever was held before.
@@ -91,6 +91,7 @@ TEST_F(AIControllerTest, SteersTowardsTheTargetShootsAtWhatIsAheadAndHandBrakesI
         {-61, 0, -0.53722f, 1, false, false}, {89, 20, 0.64611f, 1, false, false}, {91, 7.9f, 0.65389f, 1, false, false},
         {-91, 8.1f, -0.65389f, 1, false, true}, {91, -20, 0.65389f, 1, false, false}, {-170, 20, -0.96111f, 1, false, true}};
     own.position = {30, 12, -80};
+    own.attitude = glm::rotate(glm::mat4(1.0f), glm::radians(100.0f), glm::vec3(0, 1, 0));
     for (const BearingRow& row : rows) {
         SCOPED_TRACE(row.degreesRight);
         own.speed = row.speed;
