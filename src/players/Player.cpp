@@ -211,11 +211,6 @@ void Player::drawLabel() const
     stage.addText(device.getName(), x, y - kLineSpacing);
 }
 
-glm::vec3 Player::getLaunchPosition() const
-{
-    return launchNode->getWorldPosition();
-}
-
 glm::mat4 Player::getLaunchTransform() const
 {
     return launchNode->getWorldTransform();

@@ -41,8 +41,6 @@ public:
     int getDeaths() const override { return deaths; }
     VehicleHandle* getVehicle() const { return vehicle; }
     PhysicNode* getChassisNode() const { return chassisNode; }
-    Node* getLaunchNode() const { return launchNode; } ///< where shots leave the car
-    glm::vec3 getLaunchPosition() const;               ///< world space
     glm::mat4 getLaunchTransform() const override;
     glm::mat4 getChassisTransform() const override;
     float getForwardSpeed() const override;
@@ -63,7 +61,7 @@ private:
     PhysicNode* chassisNode = nullptr;
     VehicleHandle* vehicle = nullptr;
     DrivingControls controls;
-    Node* launchNode = nullptr;
+    Node* launchNode = nullptr; // where shots leave the car
     ICarDress* dress = nullptr;
     double lastShotTime; // milliseconds of the frame timer
     int health;

@@ -15,7 +15,6 @@ public:
     int update(Player* player, int score);
 
     Player* getLeader(int place) const { return places.at(static_cast<std::size_t>(place)).player; } ///< null while vacant
-    int getScore(int place) const { return places.at(static_cast<std::size_t>(place)).score; }       ///< 0 while vacant
 
     /// The player's place, 0 to 2, or kPlaces for anyone else.
     int getPlace(const Player* player) const;
