@@ -2,6 +2,7 @@
 #include "assets/Library.h"
 #include "assets/MeshGeometry.h"
 #include "assets/PartyhatModel.h"
+#include "gpu/Texture.h"
 #include "scene/Camera.h"
 #include "scene/Mesh.h"
 #include "scene/SceneGraph.h"
@@ -42,7 +43,6 @@ TEST_F(ModelsTest, AHellknightSetsItsUniformsForTheCameraItself)
     data.copyGameData();
     data.writeTga("knight.tga", 2, 2, 3, [](int x, int y, int i) { return i == 0 ? 255 * x : i == 1 ? 255 * y : 255; });
     library.loadShader("TextureShader", "Shader/TextureShader.shader");
-    library.loadTexture("Hellknight_Diffuse", "knight.tga");
     Mesh* mesh = new Mesh();
     mesh->positions = {{-1, -1, 0}, {-1, 1, 0}, {1, 1, 0}, {1, -1, 0}}; // clockwise towards +z
     mesh->normals.assign(4, glm::vec3(0, 0, 1));
@@ -62,6 +62,14 @@ TEST_F(ModelsTest, AHellknightSetsItsUniformsForTheCameraItself)
 
     glEnable(GL_CULL_FACE);
     glCullFace(GL_FRONT);
+    Texture other;
+    other.load("knight.tga");
+    other.bind();
+    knight.bind(&camera);
+    knight.draw();
+    EXPECT_EQ(pixelAt(kSide / 2, kSide / 2), glm::ivec4(0, 0, 0, 255)) << "its texture is missing; another one was left in its place";
+
+    library.loadTexture("Hellknight_Diffuse", "knight.tga");
     knight.bind(&camera);
     knight.draw();
     EXPECT_EQ(pixelAt(kSide / 2, kSide / 2), glm::ivec4(255, 0, 255, 255)) << "right half, lower half of the picture; facing the camera";
