@@ -32,7 +32,7 @@ public:
         glReadPixels(0, 0, kWidth, kHeight, GL_RGBA, GL_UNSIGNED_BYTE, picture.data());
     }
 
-    glm::ivec4 pixel(int x, int y) const { return picture.at(static_cast<std::size_t>(y * kWidth + x)); }
+    glm::ivec4 pixel(int x, int y) const { return picture.at(static_cast<std::size_t>(y) * kWidth + static_cast<std::size_t>(x)); }
 
 private:
     std::vector<glm::u8vec4> picture;
