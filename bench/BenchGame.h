@@ -19,7 +19,8 @@ public:
     /// Has that many people join, each with a viewport, and computer players up to `participants` in all; starts the match.
     void startMatch(int humans, int participants);
 
-    void pass(); ///< one pass of the main loop, without its sleep
+    void pass();             ///< one pass of the main loop on the stepped clock
+    using QKD_Game::runPass; ///< for real time: the game's own, once the frame timer has its own clock back
     void updateOnly();
     void drawOnly();
 

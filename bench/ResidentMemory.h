@@ -1,5 +1,7 @@
 #pragma once
 
+#include <malloc.h>
+
 #include <fstream>
 #include <string>
 
@@ -14,4 +16,11 @@ inline long residentKib()
         return kib;
     }
     return 0;
+}
+
+/// What the program holds of the heap, KiB. Unlike resident memory it falls again after a moment that needed much.
+inline long heapKib()
+{
+    const struct mallinfo2 heap = mallinfo2();
+    return static_cast<long>((heap.uordblks + heap.hblkhd) / 1024);
 }

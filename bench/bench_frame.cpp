@@ -8,11 +8,11 @@
 // finish) and then one line for scripts, of frames measured as a whole without those finishes:
 // `views 2 frame_ms 43.1 p95_ms 50.2 rss_growth_kib 120`.
 // rss_growth_kib: of resident memory from the first of all those frames to the last: shots leave a scene node of some 300 bytes each.
-// `bench_frame 3000 16 6` is a soak of some ten minutes on two processor cores without a graphics card.
 //
 // On a busy machine the processor time is the steadier figure: a software driver's threads count in it.
 
 #include "BenchGame.h"
+#include "QuietLog.h"
 #include "ResidentMemory.h"
 #include "app/base/FrameTimer.h"
 #include "players/Ball.h"
@@ -89,8 +89,9 @@ private:
 /// Runs in a process of its own: participants cannot leave a match. Returns the exit status.
 int measure(int views, int frames, int cars)
 {
+    muteLog();
     BenchGame game;
-    if (!game.start()) return 1;
+    if (!game.start()) return noDisplay();
     game.startMatch(views, std::max(cars, views));
     for (int i = 0; i < kWarmUpFrames; ++i) game.pass();
 

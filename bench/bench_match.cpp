@@ -11,6 +11,7 @@
 // detached and never freed: some 300 bytes a shot, 7.5 MiB in half an hour of sixteen.
 
 #include "MatchStatistics.h"
+#include "QuietLog.h"
 #include "ResidentMemory.h"
 #include "SilentMatch.h"
 #include "physics/DrivingControls.h"
@@ -25,7 +26,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <iostream>
 
 namespace {
 
@@ -115,7 +115,7 @@ int inOwnProcess(Work work)
 {
     const pid_t child = fork();
     if (child == 0) {
-        std::cout.setstate(std::ios::failbit); // the log of so many players would drown the figures
+        muteLog();
         std::_Exit(work());
     }
     int status = 0;

@@ -2,9 +2,9 @@
 
 #include "platform/Keyboard.h"
 #include "scene/Node.h"
+#include "scene/Transforms.h"
 
 #include <GLFW/glfw3.h>
-#include <glm/gtc/matrix_transform.hpp>
 
 namespace {
 
@@ -24,22 +24,17 @@ float turn(int mouseDelta, int positiveKey, int negativeKey)
     return mouseDelta != 0 ? static_cast<float>(mouseDelta) : keys;
 }
 
-glm::mat4 rotation(float input, float seconds, const glm::vec3& axis)
-{
-    return glm::rotate(glm::mat4(1.0f), glm::radians(-input * seconds * kTurnSpeed), axis);
-}
-
 } // namespace
 
 void FreeFlight::update(Mouse mouse, float seconds)
 {
-    const float yaw = turn(mouse.x - lastMouse.x, GLFW_KEY_RIGHT, GLFW_KEY_LEFT);
-    const float pitch = turn(mouse.y - lastMouse.y, GLFW_KEY_UP, GLFW_KEY_DOWN);
+    const float yaw = -turn(mouse.x - lastMouse.x, GLFW_KEY_RIGHT, GLFW_KEY_LEFT) * seconds * kTurnSpeed;
+    const float pitch = -turn(mouse.y - lastMouse.y, GLFW_KEY_UP, GLFW_KEY_DOWN) * seconds * kTurnSpeed;
     const float speed = isKeyDown(GLFW_KEY_LEFT_SHIFT) ? kBoost * kMoveSpeed : kMoveSpeed;
     const glm::vec3 movement(direction(GLFW_KEY_D, GLFW_KEY_A), 0, -direction(GLFW_KEY_W, GLFW_KEY_S));
 
-    node.transform(rotation(yaw, seconds, glm::vec3(0, 1, 0)), true);
-    node.transform(rotation(pitch, seconds, glm::vec3(1, 0, 0)), true);
-    node.transform(glm::translate(glm::mat4(1.0f), movement * speed * seconds), true);
+    node.transform(rotation(yaw, glm::vec3(0, 1, 0)), true);
+    node.transform(rotation(pitch, glm::vec3(1, 0, 0)), true);
+    node.transform(translation(movement * speed * seconds), true);
     lastMouse = mouse;
 }

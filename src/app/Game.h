@@ -23,14 +23,14 @@ public:
 protected:
     ~Game() = default;
 
+    void runPass(); ///< one pass of the loop, its sleep included
+
     virtual void init() = 0;          ///< builds the world, creates the states and enters the first
     virtual void loadResources() = 0; ///< loads every shader and texture; the context is current
     virtual void update() = 0;        ///< the game's own work once a drawn frame, after the current state's
     virtual void cleanup() = 0;       ///< for a game that has something to put away; the loop never calls it
 
 private:
-    void runPass();
-
     FrameTimer* timer;
     Core* core;
     bool quitting = false;

@@ -21,8 +21,7 @@
 #include "render/Skybox.h"
 #include "render/TextRenderer.h"
 #include "scene/SceneGraph.h"
-
-#include <glm/gtc/matrix_transform.hpp>
+#include "scene/Transforms.h"
 
 namespace {
 constexpr double kRankingLogInterval = 3000; // milliseconds
@@ -119,7 +118,7 @@ void QKD_Game::createStates()
 void QKD_Game::createLightNode()
 {
     Node* lightNode = getSceneGraph()->getRoot()->createChild("lightNode");
-    lightNode->transform(glm::translate(glm::mat4(1.0f), glm::vec3(3, 10, 0)), true);
+    lightNode->transform(translation(glm::vec3(3, 10, 0)), true);
 }
 
 void QKD_Game::createTerrain()

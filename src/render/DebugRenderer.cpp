@@ -8,8 +8,7 @@
 #include "scene/Mesh.h"
 #include "scene/MeshGenerators.h"
 #include "scene/Node.h"
-
-#include <glm/gtc/matrix_transform.hpp>
+#include "scene/Transforms.h"
 
 #include <algorithm>
 
@@ -72,7 +71,7 @@ void DebugRenderer::render(Camera* camera)
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
 
     std::vector<glm::mat4> markerPoses;
-    for (const glm::vec3& position : nodePositions) markerPoses.push_back(glm::translate(glm::mat4(1.0f), position));
+    for (const glm::vec3& position : nodePositions) markerPoses.push_back(translation(position));
     drawAll(marker, markerPoses, *camera);
     drawAll(cameraModel, cameraPoses, *camera);
 

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class Mesh;
 class MeshGeometry;
 class Shaderprogram;
 
@@ -37,7 +38,7 @@ private:
         GLuint vertexArray = 0;
     };
 
-    Shape makeShape(const class Mesh* mesh) const;
+    Shape makeShape(const Mesh* mesh) const;
     void drawAll(const Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const;
 
     std::vector<glm::vec3> nodePositions;

@@ -1,8 +1,7 @@
 #include "scene/Camera.h"
 
 #include "scene/Node.h"
-
-#include <glm/gtc/matrix_transform.hpp>
+#include "scene/Transforms.h"
 
 #include <cmath>
 
@@ -20,7 +19,7 @@ Camera::Camera(float fov, float aspect, float near, float far, const glm::vec3& 
     : projection(glm::perspective(glm::radians(kProjectionFovDegrees), kProjectionAspect, kProjectionNear, kProjectionFar)),
       eyeOffset(glm::lookAt(glm::vec3(0, 0, 0), glm::vec3(0, 0, -1), glm::vec3(0, 1, 0)))
 {
-    view = eyeOffset * glm::translate(glm::mat4(1.0f), position);
+    view = eyeOffset * translation(position);
 
     // Half angles in degrees go to sine and cosine as they are: 22.5 radians makes a wedge of about 29 degrees to either side,
     // a little wider than what the projection shows, and the game's pictures are composed for it.

@@ -7,6 +7,27 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
+
+} // namespace
+
+void* Node::operator new(std::size_t bytes)
+{
+    static std::byte* free = nullptr;
+    static std::size_t left = 0;
+
+    constexpr std::size_t kAlignment = alignof(std::max_align_t);
+    const std::size_t size = (bytes + kAlignment - 1) / kAlignment * kAlignment;
+    if (left < size) {
+        left = std::max(size, kBlockBytes);
+        free = new std::byte[left];
+    }
+    left -= size;
+    return std::exchange(free, free + size);
+}
+
 Node::Node(std::string nodeName) : name(std::move(nodeName)) {}
 
 Node* Node::createChild(const std::string& childName)

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <boost/container/small_vector.hpp>
 #include <glm/glm.hpp>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -16,6 +18,10 @@ class Node {
 public:
     Node() = default;
     explicit Node(std::string nodeName);
+
+    /// From memory that nodes have to themselves: thousands of them, scattered among what is freed again, would break the heap to pieces.
+    static void* operator new(std::size_t bytes);
+    static void operator delete(void*) {}
 
     /// Creates a node of that name as the last child and logs it at level 2.
     Node* createChild(const std::string& childName);
@@ -60,7 +66,7 @@ private:
     glm::mat4 local{1.0f};
     glm::mat4 world{1.0f};
     std::string name;
-    std::vector<Attachable*> attachments;
+    boost::container::small_vector<Attachable*, 2> attachments; // mostly within the node
     std::vector<Node*> children;
     Node* parent = nullptr;
 };

@@ -13,7 +13,6 @@
 #include "render/FrameProbe.h"
 #include "render/Renderer.h"
 #include "scene/SceneGraph.h"
-#include "support/DataCapturedLog.h"
 #include "support/GlErrors.h"
 #include "support/ScriptedKeyboard.h"
 
@@ -159,12 +158,6 @@ protected:
         else keys().hold({});
     }
 
-    static bool hasShot(const Player& player)
-    {
-        return std::any_of(game().getBalls().begin(), game().getBalls().end(),
-            [&](const auto& ball) { return ball->getOwner() == &player; });
-    }
-
     static std::unique_ptr<House> house;
 };
 
@@ -244,38 +237,6 @@ TEST_F(FullHouse, EverybodyDrivesTheirOwnCarAndShoots)
     };
     EXPECT_TRUE(passesUntil(2000, everybodyDoesBoth)) << driving.size() << " drive, " << shooting.size() << " shoot";
     EXPECT_NE(game().getRanking().getLeader(0), nullptr) << "nobody was hit";
-}
-
-TEST_F(FullHouse, APadThatComesBackDrivesItsCarAgainAndAStrangerDoesNot)
-{
-    CapturedLog log;
-    Player& owner = player(1);
-    pad(1).move(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, kFullTrigger / 2);
-    pass();
-    const float last = throttleOf(owner);
-    ASSERT_NEAR(last, 0.75f, 0.01f);
-
-    pad(1).unplug();
-    VirtualPad stranger(2);
-    stranger.press(SDL_CONTROLLER_BUTTON_A);
-    stranger.move(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, kFullTrigger);
-    pad(2).move(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, kFullTrigger);
-    EXPECT_FALSE(passesUntil(400, [&] { return throttleOf(owner) != last; })) << "the car keeps its last controls";
-    EXPECT_FALSE(hasShot(owner));
-    EXPECT_EQ(throttleOf(player(2)), 1) << "the others drive on";
-    EXPECT_EQ(game().getActorCount(), 16);
-
-    pad(1).plugIn();
-    pass();
-    EXPECT_EQ(throttleOf(owner), 0) << "its own pad is at rest";
-    pad(1).press(SDL_CONTROLLER_BUTTON_A);
-    EXPECT_TRUE(passesUntil(60, [&] { return hasShot(owner); }));
-    EXPECT_EQ(throttleOf(player(2)), 1);
-
-    EXPECT_EQ(log.count("DEBUG | Game-pad 2 unplugged: Test pad\n"), 1);
-    EXPECT_EQ(log.count("DEBUG | Game-pad waits for a free slot: Test pad\n"), 1);
-    EXPECT_EQ(log.count("DEBUG | Game-pad 2 plugged in: Test pad\n"), 1);
-    EXPECT_EQ(log.count("lugged"), 2) << log.text();
 }
 
 } // namespace

@@ -1,10 +1,12 @@
+#include "app/base/FrameTimer.h"
 #include "players/Ball.h"
 #include "support/HeadlessMatch.h"
-#include "support/ScriptedDevice.h"
+#include "support/Near.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 #include <numeric>
 
@@ -20,10 +22,11 @@ protected:
     WholeMatch()
     {
         std::srand(1);
+        players.push_back(&match.join());
+        ScriptedDevice& device = HeadlessMatch::deviceOf(*players[0]);
         device.axes[InputDevice::kThrottleAxis] = 1;
         device.axes[InputDevice::kSteeringAxis] = 0.5f;
         device.buttons[InputDevice::kShoot] = true;
-        players.push_back(&match.addPlayer(device));
         while (players.size() < kParticipants) players.push_back(&match.addComputerPlayer());
         last = books();
     }
@@ -43,14 +46,8 @@ protected:
             now.scores.push_back(player->getScore());
             now.places.push_back(match.rules.getRanking().getPlace(player));
         }
-        now.ducks = countSounds("duck");
+        now.ducks = match.stage.count("duck");
         return now;
-    }
-
-    int countSounds(const std::string& name) const
-    {
-        return static_cast<int>(std::count_if(match.stage.sounds.begin(), match.stage.sounds.end(),
-            [&name](const auto& sound) { return sound.name == name; }));
     }
 
     static int sum(const std::vector<int>& numbers) { return std::accumulate(numbers.begin(), numbers.end(), 0); }
@@ -94,6 +91,18 @@ protected:
         }
     }
 
+    /// A point (x, y, z) of the golden hat comes to ((x - 0.1) / 2, (z + 7.3) / 2, (1 - y) / 2) of the car, z raised by the bobbing.
+    void checkGoldenHatSitsOnItsHead()
+    {
+        const Player* leader = match.rules.getRanking().getLeader(0);
+        if (!leader) return;
+        const glm::vec4 point(0.4f, 0.6f, -4, 1);
+        const auto bob = static_cast<float>(std::sin(FrameTimer::getInstance()->getTimeMs() / 450.0));
+        const glm::vec4 seen = match.rules.getHats().getAnimationNode(0)->getWorldTransform() * point;
+        const glm::vec3 inCar(glm::inverse(leader->getChassisTransform()) * seen);
+        ASSERT_TRUE(isNear(inCar, glm::vec3((point.x - 0.1f) / 2, (point.z + bob + 7.3f) / 2, (1 - point.y) / 2), 0.01f));
+    }
+
     /// The scene shows exactly the shots in flight.
     void checkBalls()
     {
@@ -104,7 +113,6 @@ protected:
     }
 
     HeadlessMatch match;
-    ScriptedDevice device;
     std::vector<Player*> players;
     Books last;
     int hits = 0, deaths = 0;
@@ -117,11 +125,12 @@ TEST_F(WholeMatch, KeepsItsBooksItsHatsAndItsScene)
         match.pass();
         checkHits();
         checkHats();
+        checkGoldenHatSitsOnItsHead();
         checkBalls();
     }
 
     // It was a match worth the name.
-    const int shots = countSounds("bang");
+    const int shots = match.stage.count("bang");
     EXPECT_GT(shots, 100);
     EXPECT_GT(hits, 30);
     EXPECT_GT(deaths, 3);

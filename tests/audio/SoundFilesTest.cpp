@@ -68,13 +68,4 @@ TEST_F(SoundFilesTest, OfCutOnesWhatIsLeftIsPlayed)
     }
 }
 
-TEST_F(SoundFilesTest, AMusicFileThatVanishesBeforeItIsPlayedFailsToPlay)
-{
-    const std::string path = folder.write("music.mp3", gameFile("quackdash.mp3"));
-    ASSERT_EQ(output.createSound(path, sound), kSoundOk);
-    fs::remove(path);
-    EXPECT_NE(output.playSound(sound, channel), kSoundOk);
-    EXPECT_EQ(output.update(), kSoundOk);
-}
-
 } // namespace

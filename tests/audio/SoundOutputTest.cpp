@@ -141,19 +141,4 @@ TEST_F(SoundOutputTest, LetsTheOldestOneShotGiveWayToThe33rdSound)
     EXPECT_EQ(output.setVolume(late, 0), kSoundOk);
 }
 
-TEST_F(SoundOutputTest, RefusesWhatIsNoChannelOrNoValueAndFallsSilentWhenClosed)
-{
-    const SoundChannel channel = play(loadWave(tone(500, kRate, 0.5)));
-    EXPECT_NE(output.setVolume({}, 1), kSoundOk);
-    EXPECT_NE(output.setVolume({32, 1}, 1), kSoundOk);
-    EXPECT_NE(output.setVolume(channel, -1), kSoundOk);
-    EXPECT_NE(output.setFrequency(channel, -44100), kSoundOk);
-    EXPECT_NE(output.setFrequency(channel, INFINITY), kSoundOk);
-    EXPECT_NE(output.setMode(nullptr, SoundMode::LoopOff), kSoundOk);
-    EXPECT_NEAR(amplitudeAt(listen(output, kRate), 500), 0.5, 0.001) << "a refused value changed something";
-
-    output.close();
-    EXPECT_EQ(listen(output, 100).peak(), 0.0f);
-}
-
 } // namespace

@@ -55,22 +55,4 @@ TEST(GamePadSlots, AnEmptiedSlotIsHeldForItsPadAndThenFree)
     EXPECT_EQ(slots.slotOf(4), 2) << "its own slot has another pad by now";
 }
 
-TEST(GamePadSlots, WaitingPadsTakeFreedSlotsInTheOrderInWhichTheyCame)
-{
-    std::vector<Pad> plugged;
-    for (int id = 1; id <= 6; ++id) plugged.push_back({id, "m", "", ""});
-    GamePadSlots slots;
-    slots.update(plugged, 0);
-    EXPECT_FALSE(slots.isWaiting(4));
-    EXPECT_TRUE(slots.isWaiting(5) && slots.isWaiting(6));
-
-    plugged.erase(plugged.begin(), plugged.begin() + 2);
-    slots.update(plugged, 10);
-    EXPECT_TRUE(slots.isWaiting(5) && slots.isWaiting(6));
-    slots.update(plugged, 11 + GamePadSlots::kHoldMs);
-    EXPECT_EQ(slots.slotOf(5), 0);
-    EXPECT_EQ(slots.slotOf(6), 1);
-    EXPECT_FALSE(slots.isAnyWaiting());
-}
-
 } // namespace

@@ -202,3 +202,15 @@ TEST_F(DrivingTest, WheelsStandOnTheGroundButNotOnCarsOrBalls)
         EXPECT_FALSE(wheel(0).isInAir) << place.what << " is out of the ray's reach: this test shows nothing";
     }
 }
+
+TEST_F(DrivingTest, CarsAreSolidToEachOtherAndTheirRoofsToTheGround)
+{
+    const VehicleHandle& front = world.carAt({0, 1.2f, 6});
+    setSpeed(30);
+    world.runSeconds(1);
+    EXPECT_LT(position().z, WorldFixture::positionOf(front).z - 2) << "drove through the other";
+
+    car.getActor()->setGlobalPose({physx::PxVec3(0, 2, 0), physx::PxQuat(physx::PxPi, physx::PxVec3(0, 0, 1))});
+    world.runSeconds(1);
+    EXPECT_GT(position().y, 0.5f) << "sank in";
+}

@@ -10,9 +10,12 @@
 #include "players/Player.h"
 #include "scene/SceneGraph.h"
 #include "support/DataScratch.h"
+#include "support/ScriptedDevice.h"
 #include "support/ScriptedKeyboard.h"
 #include "support/SteppedClock.h"
 
+#include <algorithm>
+#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,6 +41,13 @@ public:
     void playSound(const std::string& name, float volume) override { sounds.push_back({name, volume}); }
     void addText(const std::string& text, double x, double y) override { lines.push_back({text, x, y}); }
     glm::ivec2 getWindowSize() const override { return {1024, 768}; }
+
+    /// How often that sound was played, at that volume or at any.
+    int count(const std::string& name, std::optional<float> volume = {}) const
+    {
+        return static_cast<int>(std::count_if(sounds.begin(), sounds.end(),
+            [&](const Sound& sound) { return sound.name == name && sound.volume == volume.value_or(sound.volume); }));
+    }
 
     struct Sound {
         std::string name;
@@ -76,12 +86,14 @@ public:
     HeadlessMatch(const HeadlessMatch&) = delete;
     HeadlessMatch& operator=(const HeadlessMatch&) = delete;
 
-    Player& addPlayer(InputDevice& device)
+    /// A person with a scripted device of their own joins.
+    Player& join()
     {
-        rules.addPlayer(&device);
+        rules.addPlayer(&devices.emplace_back());
         graph.update();
         return *rules.getPlayers().back();
     }
+    static ScriptedDevice& deviceOf(const Player& player) { return static_cast<ScriptedDevice&>(player.getDevice()); }
 
     Player& addComputerPlayer()
     {
@@ -116,6 +128,7 @@ public:
     SteppedClock clock;
     SilentStage stage;
     SceneGraph graph;
+    std::deque<ScriptedDevice> devices; // of those who joined
 
     WorldEnd worldEnd;
     MatchRules rules;

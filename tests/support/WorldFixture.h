@@ -22,7 +22,7 @@ public:
     static constexpr float kPassSeconds = 1.0f / 120.0f;  ///< real time of a pass
     static constexpr float kGameDelta = 3 * kPassSeconds; ///< game time of a pass
 
-    explicit WorldFixture(physx::PxSimulationEventCallback* contacts = nullptr) : manager(*PhysxManager::getInstance(contacts)) {}
+    WorldFixture() : manager(*PhysxManager::getInstance(nullptr)) {}
     ~WorldFixture() { delete &manager; }
     WorldFixture(const WorldFixture&) = delete;
     WorldFixture& operator=(const WorldFixture&) = delete;

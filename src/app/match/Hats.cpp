@@ -2,8 +2,7 @@
 
 #include "physics/PhysicNode.h"
 #include "players/Player.h"
-
-#include <glm/gtc/matrix_transform.hpp>
+#include "scene/Transforms.h"
 
 #include <cmath>
 #include <string>
@@ -15,10 +14,9 @@ constexpr double kBobPeriod = 450.0; // milliseconds for one radian of the bobbi
 /// From the hat's lying-down modelling to the top of a duck's head, in the frame of the chassis.
 glm::mat4 seat()
 {
-    const glm::mat4 identity(1.0f);
     const glm::vec3 xAxis(1, 0, 0);
-    return glm::scale(identity, glm::vec3(0.5f)) * glm::rotate(identity, glm::radians(90.0f), xAxis) *
-        glm::translate(identity, glm::vec3(-0.1f, 1, -7.3f)) * glm::rotate(identity, glm::radians(-180.0f), xAxis);
+    return glm::scale(glm::mat4(1.0f), glm::vec3(0.5f)) * rotation(90, xAxis) * translation(glm::vec3(-0.1f, 1, -7.3f)) *
+        rotation(-180, xAxis);
 }
 
 } // namespace
@@ -42,5 +40,5 @@ void Hats::give(int place, const Player& player)
 void Hats::bob(double milliseconds)
 {
     const auto height = static_cast<float>(std::sin(milliseconds / kBobPeriod));
-    for (Node* node : animations) node->setTransform(glm::translate(glm::mat4(1.0f), glm::vec3(0, 0, height)));
+    for (Node* node : animations) node->setTransform(translation(glm::vec3(0, 0, height)));
 }

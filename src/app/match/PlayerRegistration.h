@@ -13,11 +13,10 @@ class PlayerRegistration {
 public:
     static constexpr int kDeviceCount = 6;
     static constexpr int kMaxParticipants = 16;
+    static constexpr int kMaxComputerPlayers = 10;
 
     /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
     explicit PlayerRegistration(MatchRules& match);
-
-    static constexpr int kMaxComputerPlayers = 10;
 
     /// The registration screen is shown anew.
     void restart() { spaceHeld = false; }
