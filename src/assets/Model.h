@@ -70,6 +70,9 @@ public:
     bool isStatic = false;                 ///< its node never moves: its shadow is drawn once and kept
     float boundingRadius = 0;              ///< around the node's origin, in the model's own units; 0 when unknown
 
+protected:
+    ~Model() = default;
+
 private:
     const VertexAttributeList* layout = nullptr;
 };

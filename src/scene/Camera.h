@@ -8,7 +8,7 @@
 
 /// Turns the pose of the node it hangs on into a view matrix, carries a perspective projection, and answers whether a point lies
 /// roughly inside the view. Owned by an actor or a game state; drawn through a Viewport.
-class Camera : public Attachable {
+class Camera final : public Attachable {
 public:
     /// fov in degrees, near and far in world units. They shape the culling planes only: the projection is the same for every camera
     /// (45 degrees, 1.3333334, 0.1, 1000). position is the initial view's translation, until the first update().

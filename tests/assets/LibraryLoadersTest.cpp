@@ -9,13 +9,12 @@
 
 #include <GL/glew.h>
 
-#include <random>
-
 namespace {
 
 const std::string kVertex = "#version 430 core\nin vec3 position;\nvoid main() { gl_Position = vec4(position, 1.0); }\n";
 const std::string kFragment = "#version 430 core\nout vec4 colour;\nvoid main() { colour = vec4(1.0); }\n";
-const std::string kProgram = "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER Shader/plain.frag";
+// The layout of the file into lines means nothing.
+const std::string kProgram = "\n\n \tVERTEX_SHADER\r\n Shader/plain.vert\r\n\nFRAGMENT_SHADER   Shader/plain.frag  \r\n";
 
 class LibraryLoadersTest : public GlTest {
 protected:
@@ -25,7 +24,7 @@ protected:
         data.write("Shader/plain.frag", kFragment);
     }
 
-    /// Each test starts with a name that the library has not met.
+    /// A load starts with a name that the library has not met.
     static std::string freshName() { return "Program" + std::to_string(nextName++); }
 
     static std::vector<GLuint> stagesOf(const Shaderprogram& program)
@@ -44,19 +43,6 @@ private:
     static inline int nextName = 0;
 };
 
-TEST_F(LibraryLoadersTest, TheLayoutOfAShaderFileIntoLinesMeansNothing)
-{
-    for (const std::string& text :
-        {kProgram, std::string("\n\n \tVERTEX_SHADER\r\n Shader/plain.vert\r\n\nFRAGMENT_SHADER   Shader/plain.frag  \r\n")}) {
-        const std::string name = freshName();
-        data.write("Shader/any.shader", text);
-        library.loadShader(name, "Shader/any.shader");
-        const Shaderprogram* program = library.getShaderprogram(name);
-        ASSERT_TRUE(program) << text;
-        EXPECT_TRUE(program->isUsable()) << text;
-    }
-}
-
 TEST_F(LibraryLoadersTest, EveryProgramOfTheGameIsUsable)
 {
     data.copyGameData();
@@ -65,7 +51,6 @@ TEST_F(LibraryLoadersTest, EveryProgramOfTheGameIsUsable)
         if (entry.path().extension() != ".shader") continue;
         const std::string name = freshName();
         library.loadShader(name, entry.path().string());
-        ASSERT_TRUE(library.getShaderprogram(name)) << entry.path();
         EXPECT_TRUE(library.getShaderprogram(name)->isUsable()) << entry.path();
         ++programs;
     }
@@ -91,22 +76,14 @@ TEST_F(LibraryLoadersTest, ALoadThatEndsEarlyGivesOneErrorAndRegistersNothing)
         EXPECT_EQ(log.count("ERROR | "), 1);
         EXPECT_EQ(library.getShaderprogram(name, false), nullptr);
     }
-    CapturedLog log;
-    library.loadShader("Absent", "Shader/absent.shader");
-    EXPECT_EQ(library.getShaderprogram("Absent"), nullptr);
-    EXPECT_EQ(log.text(), "ERROR | couldn't open file: Shader/absent.shader\nWARNING | Absent is not in Library\n");
 }
 
 TEST_F(LibraryLoadersTest, SpoiledStagesAreNamedAndTheProgramIsRegisteredUnusable)
 {
     CompilerErrorsExpected spoiled;
-    std::string bytes(4096, '\0');
-    std::mt19937 random(1);
-    for (char& byte : bytes) byte = static_cast<char>(random());
     const std::string withSpoiled = "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER spoiled.frag", withoutStages = " \n \n";
     const std::pair<std::string, std::string> rows[] = {// text of the .shader file, text of the stage
-        {withoutStages, ""}, {withSpoiled, ""}, {withSpoiled, bytes}, {withSpoiled, std::string(100000, '(')},
-        {withSpoiled, kFragment.substr(0, 40)}};
+        {withoutStages, ""}, {withSpoiled, ""}, {withSpoiled, std::string(100000, '(')}, {withSpoiled, kFragment.substr(0, 40)}};
     for (const auto& [program, stage] : rows) {
         data.write("any.shader", program);
         data.write("spoiled.frag", stage);
@@ -117,7 +94,6 @@ TEST_F(LibraryLoadersTest, SpoiledStagesAreNamedAndTheProgramIsRegisteredUnusabl
         EXPECT_EQ(log.count("ERROR | couldn't link program: any.shader\n"), 1);
         EXPECT_LE(log.count("ERROR | "), 2);
         EXPECT_FALSE(log.contains(std::string(1, '\0'))) << "the compiler's messages go to the log up to their end";
-        ASSERT_TRUE(library.getShaderprogram(name));
         EXPECT_FALSE(library.getShaderprogram(name)->isUsable());
     }
 }
@@ -128,15 +104,17 @@ TEST_F(LibraryLoadersTest, AReloadKeepsTheObjectThroughABadFileAndBack)
     data.write("Shader/any.shader", kProgram);
     library.loadShader(name, "Shader/any.shader");
     Shaderprogram* program = library.getShaderprogram(name);
+    ASSERT_TRUE(program->isUsable());
     const std::vector<GLuint> oldStages = stagesOf(*program);
+    program->use();
 
     for (const char* bad : {"VERTEX_SHADER absent.vert", "NO_SHADER x", ""}) {
         data.write("Shader/any.shader", bad);
         library.loadShader(name, "Shader/any.shader");
         EXPECT_EQ(library.getShaderprogram(name), program);
         EXPECT_FALSE(program->isUsable());
-        EXPECT_TRUE(glIsProgram(program->getHandle())) << "a fresh, empty program object";
-        EXPECT_TRUE(stagesOf(*program).empty());
+        EXPECT_TRUE(stagesOf(*program).empty()) << "a fresh, empty program object";
+        EXPECT_EQ(integer(GL_CURRENT_PROGRAM), 0);
     }
     for (const GLuint stage : oldStages) EXPECT_FALSE(glIsShader(stage)) << "stages must go with their program";
 
@@ -153,15 +131,12 @@ TEST_F(LibraryLoadersTest, TexturesAreRegisteredBadFileOrNotAndListedByKindInNam
     library.loadTexture("Font", "absent.tga");
     library.insert("Shape", new Mesh());
 
-    Texture* smoke = library.getTexture("Smoke");
-    Texture* font = library.getTexture("Font");
-    ASSERT_TRUE(smoke && font);
-    EXPECT_EQ(library.getAll<Texture>(), (std::vector<Texture*>{font, smoke}));
-
+    const std::vector<Texture*> all{library.getTexture("Font"), library.getTexture("Smoke")};
+    EXPECT_EQ(library.getAll<Texture>(), all);
     library.loadTexture("Smoke", "absent.tga");
-    EXPECT_EQ(library.getTexture("Smoke"), smoke);
     library.loadTexture("Font", "picture.tga");
-    EXPECT_EQ(library.getTexture("Font"), font);
+    EXPECT_EQ(library.getAll<Texture>(), all) << "a reload keeps the object";
+
     Mesh second;
     EXPECT_FALSE(library.insert("Shape", &second));
     EXPECT_NE(library.getMesh("Shape"), &second);

@@ -1,5 +1,4 @@
 #include "assets/ModelImport.h"
-#include "Collada.h"
 #include "assets/Library.h"
 #include "scene/Mesh.h"
 #include "support/DataCapturedLog.h"
@@ -7,24 +6,47 @@
 #include "support/Near.h"
 
 #include <algorithm>
+#include <fstream>
+#include <sstream>
 
 namespace {
 
-const ColladaMesh kTriangle{"1 2 3 4 5 6 7 8 10", "", "0 1 2"};
+const std::string kTriangle = "v 1 2 3\nv 4 5 6\nv 7 8 10\nf 1 2 3\n";
+
+/// A mesh of so many vertices, all in use and no two alike.
+std::string stripOf(int vertices)
+{
+    std::string file;
+    for (int i = 0; i < vertices; ++i) file += "v " + std::to_string(i / 2) + " " + std::to_string(i % 2) + " 0\n";
+    for (int i = 1; i + 2 <= vertices; ++i)
+        file += "f " + std::to_string(i) + " " + std::to_string(i + 1) + " " + std::to_string(i + 2) + "\n";
+    return file;
+}
 
 class ModelImportTest : public testing::Test {
 protected:
+    ModelImportTest() { data.copyGameData(); }
+
+    /// The game's file of a camera, one thing in it replaced by another.
+    static std::string cameraWith(const std::string& what, const std::string& by)
+    {
+        std::stringstream text;
+        text << std::ifstream("Models/camera.dae").rdbuf();
+        std::string file = text.str();
+        return file.replace(file.find(what), what.size(), by); // throws when it isn't there
+    }
+
     DataScratch data;
     Library& library = *Library::getInstance();
 };
 
 TEST_F(ModelImportTest, PositionsAreMirroredInZAndWhatTheFileLacksGetsItsDefault)
 {
-    data.write("Models/plain.dae", colladaDocument({kTriangle}));
-    const auto mesh = importMesh("Models/plain.dae");
+    data.write("Models/plain.obj", kTriangle);
+    const auto mesh = importMesh("Models/plain.obj");
     ASSERT_TRUE(mesh);
     ASSERT_EQ(mesh->getVertexCount(), 3u);
-    EXPECT_EQ(mesh->positions[0], glm::vec3(1, 2, -3)) << "no trace of the node's own transformation";
+    EXPECT_EQ(mesh->positions[0], glm::vec3(1, 2, -3));
     EXPECT_EQ(mesh->positions[2], glm::vec3(7, 8, -10));
     EXPECT_EQ(mesh->indices, (std::vector<unsigned short>{0, 1, 2})) << "the windings are not flipped";
     for (std::size_t i = 0; i < 3; ++i) {
@@ -37,9 +59,9 @@ TEST_F(ModelImportTest, PositionsAreMirroredInZAndWhatTheFileLacksGetsItsDefault
 
 TEST_F(ModelImportTest, TextureCoordinatesComeWithTangentsAndSharedCornersAreJoined)
 {
-    // a square in the xy plane whose u runs along y; one corner is listed twice
-    data.write("square.dae", colladaDocument({{"0 0 0 1 0 0 1 1 0 0 1 0 1 1 0", "0 0 0 1 1 1 1 0 1 1", "0 1 2 0 4 3"}}));
-    const auto mesh = importMesh("square.dae");
+    // a square in the xy plane whose u runs along y
+    data.write("square.obj", "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nvt 0 0\nvt 0 1\nvt 1 1\nvt 1 0\nf 1/1 2/2 3/3\nf 1/1 3/3 4/4\n");
+    const auto mesh = importMesh("square.obj");
     ASSERT_TRUE(mesh);
     EXPECT_EQ(mesh->getVertexCount(), 4u);
     EXPECT_EQ(mesh->indices.size(), 6u);
@@ -53,16 +75,24 @@ TEST_F(ModelImportTest, TextureCoordinatesComeWithTangentsAndSharedCornersAreJoi
 
 TEST_F(ModelImportTest, OnlyTheFirstMeshOfAFileCountsAndTheFirstFileOfAName)
 {
-    const ColladaMesh square{"0 0 0 1 0 0 1 1 0 0 1 0", "", "0 1 2 0 2 3"};
-    data.write("two.dae", colladaDocument({kTriangle, square}));
-    data.write("other.dae", colladaDocument({square}));
-    library.loadModel("Two", "two.dae");
+    data.write("two.obj", "o first\n" + kTriangle + "o second\nv 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nf 4 5 6 7\n");
+    data.write("other.obj", stripOf(5));
+    library.loadModel("Two", "two.obj");
     Mesh* first = library.getMesh("Two");
     ASSERT_TRUE(first);
     EXPECT_EQ(first->getVertexCount(), 3u);
 
-    library.loadModel("Two", "other.dae");
+    library.loadModel("Two", "other.obj");
     EXPECT_EQ(library.getMesh("Two"), first);
+}
+
+TEST_F(ModelImportTest, ANodesOwnTransformationLeavesNoTrace)
+{
+    const auto before = importMesh("Models/camera.dae");
+    data.write("moved.dae", cameraWith("<matrix sid=\"transform\">1 0 0 0", "<matrix sid=\"transform\">1 0 0 100"));
+    const auto moved = importMesh("moved.dae");
+    ASSERT_TRUE(before && moved);
+    EXPECT_EQ(moved->positions, before->positions);
 }
 
 TEST_F(ModelImportTest, Md5MeshesAreStoodUpByTheCaseSensitiveEndOfTheirPath)
@@ -86,16 +116,6 @@ TEST_F(ModelImportTest, Md5MeshesAreStoodUpByTheCaseSensitiveEndOfTheirPath)
     }
 }
 
-/// A mesh of so many vertices, all in use and no two alike.
-std::string stripOf(int vertices)
-{
-    std::string file;
-    for (int i = 0; i < vertices; ++i) file += "v " + std::to_string(i / 2) + " " + std::to_string(i % 2) + " 0\n";
-    for (int i = 1; i + 2 <= vertices; ++i)
-        file += "f " + std::to_string(i) + " " + std::to_string(i + 1) + " " + std::to_string(i + 2) + "\n";
-    return file;
-}
-
 TEST_F(ModelImportTest, AMeshOfMoreVerticesThanIndicesReachIsRefused)
 {
     data.write("largest.obj", stripOf(65536));
@@ -114,18 +134,14 @@ TEST_F(ModelImportTest, AMeshOfMoreVerticesThanIndicesReachIsRefused)
 
 TEST_F(ModelImportTest, AFileWithoutAMeshGivesOneWarningThatNamesItAndRegistersNothing)
 {
-    const std::string whole = colladaDocument({kTriangle});
-    const auto spoiled = [&whole](const std::string& what, const std::string& by) {
-        return std::string(whole).replace(whole.find(what), what.size(), by); // throws when it isn't there
-    };
     data.write("garbage.dae", "\xff<COLLADA <<<" + std::string(5000, '\xc3'));
-    data.write("noGeometry.dae", colladaDocument({}));
-    data.write("noIndex.dae", colladaDocument({{"1 2 3 4 5 6 7 8 10", "", "0 1 77"}}));
-    data.write("noNumber.dae", spoiled("<p>0 1", "<p>0 /")); // these three would hang or crash the importer
-    data.write("noCount.dae", spoiled("count=\"9\"", "cOunt=\"9\""));
-    data.write("tooFar.dae", spoiled("count=\"3\" stride=\"3\"", "count=\"3000000\" stride=\"3\""));
-    data.write("narrow.dae", spoiled("stride=\"3\"", "stride=\"1\""));
-    data.write("hugeCount.dae", spoiled("count=\"9\"", "count=\"99999999999999999999\""));
+    data.write("noGeometry.dae", cameraWith("<instance_geometry url=\"#mesh-mesh\" name=\"mesh\"/>", ""));
+    data.write("noIndex.dae", cameraWith("<p>0", "<p>77777"));
+    data.write("noNumber.dae", cameraWith("<p>0", "<p>/")); // these three would hang or crash the importer
+    data.write("noCount.dae", cameraWith("count=\"432\"", "cOunt=\"432\""));
+    data.write("tooFar.dae", cameraWith("count=\"144\" stride=\"3\"", "count=\"3000000\" stride=\"3\""));
+    data.write("narrow.dae", cameraWith("stride=\"3\"", "stride=\"1\""));
+    data.write("hugeCount.dae", cameraWith("count=\"432\"", "count=\"99999999999999999999\""));
     data.write("picture.tga", "no model at all");
     std::filesystem::create_directory("folder.dae");
     for (const char* path : {"absent.dae", "garbage.dae", "noGeometry.dae", "noIndex.dae", "noNumber.dae", "noCount.dae", "tooFar.dae",
@@ -142,9 +158,9 @@ TEST_F(ModelImportTest, AFileWithoutAMeshGivesOneWarningThatNamesItAndRegistersN
 
 TEST_F(ModelImportTest, AFileCutAnywhereEitherGivesAWholeMeshOrNone)
 {
-    const std::string whole = colladaDocument({{"0 0 0 1 0 0 1 1 0 0 1 0", "0 0 0 1 1 1 1 0", "0 1 2 0 2 3"}});
+    const std::string whole = cameraWith("", "");
     CapturedLog quiet;
-    for (std::size_t length = 0; length < whole.size(); length += 13) {
+    for (std::size_t length = 0; length < whole.size(); length += 97) {
         data.write("cut.dae", whole.substr(0, length));
         const auto mesh = importMesh("cut.dae");
         if (!mesh) continue;

@@ -18,14 +18,14 @@ GameSession::GameSession() : display(std::filesystem::current_path())
     scratch.copyGameData();
 }
 
-void GameSession::launch(const std::vector<std::string>& environment, const std::filesystem::path& workingFolder, bool withDisplay)
+void GameSession::launch(const std::vector<std::string>& environment, bool withDisplay)
 {
     // Sound goes nowhere: the same run, and the same log, on machines with and without a sound device.
     std::vector<std::string> command{"env", "ALSOFT_DRIVERS=null"};
     command.insert(command.end(), environment.begin(), environment.end());
     command.push_back(QUACKDASH_PROGRAM);
     process = std::make_unique<ChildProcess>(ChildProcess::Settings{
-        command, workingFolder, withDisplay ? display.name() : "", std::filesystem::current_path() / "log.txt"});
+        command, {}, withDisplay ? display.name() : "", std::filesystem::current_path() / "log.txt"});
 }
 
 bool GameSession::start()

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] bool start();
 
     /// Starts it without waiting. environment: VARIABLE=value each.
-    void launch(const std::vector<std::string>& environment = {}, const std::filesystem::path& workingFolder = {}, bool withDisplay = true);
+    void launch(const std::vector<std::string>& environment = {}, bool withDisplay = true);
 
     /// Holds the key for as long as a slow frame may take, then lets go for as long.
     void tap(const std::string& key);
@@ -44,7 +44,6 @@ public:
     int waitForExit(); ///< -1 when the program does not end
 
     VirtualDisplay& screen() { return display; }
-    DataScratch& data() { return scratch; }
 
 private:
     DataScratch scratch;

@@ -43,11 +43,6 @@ double detailShare(const Picture& picture, const ScreenArea& region)
     return share(region, [&](int x, int y) { return differs(picture.at(x, y), picture.at(region.x, region.y)); });
 }
 
-double seamShare(const Picture& picture, int line)
-{
-    return share({line, 0, 1, picture.height}, [&](int x, int y) { return differs(picture.at(x - 1, y), picture.at(x, y)); });
-}
-
 int darkPixels(const Picture& picture, const ScreenArea& region)
 {
     return count(region, [&](int x, int y) {

@@ -26,8 +26,5 @@ double changedShare(const Picture& before, const Picture& after, const ScreenAre
 /// The share (0 to 1) of a region's pixels that differ visibly from the region's upper-left one: 0 for a blank region.
 double detailShare(const Picture& picture, const ScreenArea& region);
 
-/// The share (0 to 1) of rows in which the pixels to the left and right of a vertical line differ visibly.
-double seamShare(const Picture& picture, int x);
-
 /// How many of a region's pixels are nearly black: outlines of letters and figures, rubber. The landscape and the sky have none.
 int darkPixels(const Picture& picture, const ScreenArea& region);

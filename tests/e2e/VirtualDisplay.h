@@ -23,9 +23,6 @@ public:
 
     /// True once a window of that title is on the screen; it is then the one that the other operations mean.
     bool waitForWindow(const std::string& title, double seconds);
-    bool findWindow(const std::string& title);
-
-    ScreenArea windowRegion() const { return window; } ///< on the screen; where it was when it was found
 
     /// Key names are those of the X headers: "k", "1", "Up", "Return", "Escape", "F1", "space".
     void pressKey(const std::string& key);
@@ -38,6 +35,7 @@ public:
     Picture lookAt(const ScreenArea& region) const; ///< region of the window
 
 private:
+    bool findWindow(const std::string& title);
     void sendKey(const std::string& key, bool down);
 
     std::string displayName;

@@ -2,25 +2,15 @@
 
 #include "assets/MeshGeometry.h"
 #include "gpu/DrawCalls.h"
-#include "render/Light.h"
 #include "scene/Mesh.h"
-#include "support/Near.h"
+#include "support/DataCapturedLog.h"
 
 #include <GLFW/glfw3.h>
 #include <glm/gtc/constants.hpp>
-#include <glm/gtc/type_ptr.hpp>
 
 namespace {
 
 const glm::mat4 kLookingBack = glm::rotate(glm::mat4(1.0f), glm::pi<float>(), glm::vec3(0, 1, 0));
-
-glm::mat4 currentMatrix(const Model& model, const char* name)
-{
-    glm::mat4 value(0.0f);
-    const GLuint program = model.shader->getHandle();
-    glGetUniformfv(program, glGetUniformLocation(program, name), glm::value_ptr(value));
-    return value;
-}
 
 class ModelRendererTest : public RenderTest {
 protected:
@@ -48,9 +38,12 @@ TEST_F(ModelRendererTest, DrawsByRenderOrderThenByLayerInEveryViewport)
     addNamed("thing", 0, ModelLayer::Things);
     addView({0, 0, 100, 100});
     addView({100, 0, 100, 100});
-    frame();
     const std::string once = "thing thing ground sky smoke smoke last ";
-    EXPECT_EQ(order, once + once);
+    for (int i = 0; i < 2; ++i) { // each walk meets the same models again
+        order = "";
+        frame();
+        EXPECT_EQ(order, once + once);
+    }
 }
 
 TEST_F(ModelRendererTest, CullsWhatLiesBehindTheCameraOfEachViewportAndSaysHowMany)
@@ -78,23 +71,6 @@ TEST_F(ModelRendererTest, CullsWhatLiesBehindTheCameraOfEachViewportAndSaysHowMa
     }
 }
 
-TEST_F(ModelRendererTest, AModelStaysUntilItIsReleasedAndIsDrawnOnceHoweverOftenItIsMet)
-{
-    BoxModel& box = addBox(at(0, 0, -50));
-    box.getNode()->attach(&box); // met twice in each walk
-    addView({0, 0, 100, 100});
-    frame();
-    frame();
-    EXPECT_EQ(box.draws, 2);
-    box.getNode()->destroy();
-    frame();
-    EXPECT_EQ(box.draws, 3) << "the walk only adds: out of the tree is not yet released";
-    renderer().getModelRenderer()->releaseModel(&box);
-    renderer().getShadowRenderer()->releaseModel(&box);
-    frame();
-    EXPECT_EQ(box.draws, 3);
-}
-
 TEST_F(ModelRendererTest, SkipsModelsThatLackSomethingAndDrawsTheOthers)
 {
     Mesh nothing;
@@ -106,55 +82,14 @@ TEST_F(ModelRendererTest, SkipsModelsThatLackSomethingAndDrawsTheOthers)
     Model& withEmptyMesh = addBox(at(0, 0, -10));
     deleteVertexArray(withEmptyMesh.vao);
     withEmptyMesh.setGeometry(empty);
-    add<Model>(at(0, 0, -10));
     addBox(at(0, 0, -10)).drawMode = GL_PATCHES; // without tessellation stages
 
     addBox(at(0, 0, -20), {0, 1, 0, 1});
     addWholeWindow();
-    frame();
+    CapturedLog log;
+    for (int i = 0; i < 2; ++i) frame();
+    EXPECT_LE(log.count("ERROR"), 1) << "a line per frame";
     EXPECT_EQ(windowPixel(512, 384), glm::ivec4(0, 255, 0, 255));
-}
-
-TEST_F(ModelRendererTest, DrawsAModelWhoseProgramIsMendedAfterItWasMade)
-{
-    addWholeWindow();
-    {
-        const BrokenProgram broken("ColorShader");
-        addBox(at(0, 0, -10), {0, 1, 0, 1});
-        frame();
-        EXPECT_EQ(windowPixel(512, 384), glm::ivec4(0, 0, 0, 255));
-    }
-    frame();
-    EXPECT_EQ(windowPixel(512, 384), glm::ivec4(0, 255, 0, 255));
-}
-
-TEST_F(ModelRendererTest, OneModelSeesTheMatricesOfEachViewportsCameraAndTheLight)
-{
-    BoxModel& box = addBox(at(0, 0, -20));
-    deleteVertexArray(box.vao);
-    box.vao = 0;
-    box.shader = Library::getInstance()->getShaderprogram("Cel"); // which looks up shadows
-    std::vector<glm::mat4> seen;
-    std::vector<Camera*> drawnFor;
-    box.onDraw = [&] {
-        seen.push_back(currentMatrix(box, "view"));
-        drawnFor.push_back(renderer().getCurrentCamera());
-        EXPECT_TRUE(isNear(currentMatrix(box, "projection"), drawnFor.back()->getProjection()));
-        EXPECT_TRUE(isNear(currentMatrix(box, "model"), box.getNode()->getWorldTransform()));
-        EXPECT_TRUE(isNear(currentMatrix(box, "depthVPMatrix"), biasedLightViewProjection()));
-        GLint unit = -1, texture = -1;
-        glGetUniformiv(box.shader->getHandle(), glGetUniformLocation(box.shader->getHandle(), "shadow_texture"), &unit);
-        glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
-        glGetIntegerv(GL_TEXTURE_BINDING_2D, &texture);
-        EXPECT_EQ(texture, static_cast<GLint>(renderer().getLightDepthTexture()));
-    };
-    const Viewport& first = addView({0, 0, 100, 100}, at(1, 2, 3));
-    const Viewport& second = addView({100, 0, 100, 100}, at(-4, 0, 9));
-    frame();
-    ASSERT_EQ(drawnFor, (std::vector<Camera*>{first.camera, second.camera}));
-    EXPECT_TRUE(isNear(seen[0], glm::inverse(at(1, 2, 3))));
-    EXPECT_TRUE(isNear(seen[1], glm::inverse(at(-4, 0, 9))));
-    EXPECT_TRUE(isNear(glm::vec2(biasedLightViewProjection()[3]), glm::vec2(0.5f))) << "the origin lies in the middle of the texture";
 }
 
 TEST_F(ModelRendererTest, BlendsBlendedModelsOnlyAndOnlyWhileThatIsAllowed)

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "app/base/IGameState.h"
 #include "assets/Library.h"
 #include "assets/Model.h"
 #include "assets/Uniform_AttachableTransformation.h"
 #include "gpu/Shaderprogram.h"
 #include "gpu/Uniform_Color.h"
-#include "render/FrameProbe.h"
 #include "render/Renderer.h"
 #include "scene/Camera.h"
 #include "scene/Node.h"
@@ -41,33 +39,6 @@ private:
     Uniform_Color color;
 };
 
-/// Keeps the steps that frames report and, before each swap, what is in the window.
-class FrameRecorder : public IFrameProbe {
-public:
-    void stepDone(const char* step) override;
-
-    glm::ivec4 pixel(int x, int y) const;
-
-    std::vector<std::string> steps;
-
-private:
-    std::vector<glm::u8vec4> picture;
-};
-
-/// A state that is called with each camera once its models are drawn.
-class CameraWatcher : public IGameState {
-public:
-    explicit CameraWatcher(std::function<void(Camera*)> whatToDo) : IGameState("CameraWatcher"), onCamera(std::move(whatToDo)) {}
-    virtual ~CameraWatcher() = default;
-    void enter() override {}
-    void leave() override {}
-    void update() override {}
-    void renderCamera(Camera* camera) override { onCamera(camera); }
-
-private:
-    std::function<void(Camera*)> onCamera;
-};
-
 /// A scene of its own before the one real renderer, which all tests share: the window is opened before the first, with the game's shaders
 /// and textures. GL errors fail the test. Time stands still between frames unless the test moves the clock.
 class RenderTest : public testing::Test {
@@ -98,9 +69,8 @@ protected:
     BoxModel& addBox(const glm::mat4& pose, const glm::vec4& colour = {1, 1, 1, 1}) { return add<BoxModel>(pose, colour); }
 
     /// As the main loop draws one: empties the text queue, ticks, renders.
-    void frame(IGameState* state = nullptr);
+    void frame();
 
-    static const std::vector<std::string>& stepsOfFrame();
     static glm::ivec4 windowPixel(int x, int y); ///< of that frame, 0 to 255 each; (0, 0) is at the lower left
 
     /// What lies in the text queue, one line a text.
@@ -130,18 +100,3 @@ inline void PrintTo(const glm::ivec4& pixel, std::ostream* out)
 {
     *out << "(" << pixel.r << ", " << pixel.g << ", " << pixel.b << ", " << pixel.a << ")";
 }
-
-/// While one lives, the library's program of that name is one that was never linked.
-class BrokenProgram {
-public:
-    explicit BrokenProgram(const std::string& programName) : name(programName)
-    {
-        Library::getInstance()->getShaderprogram(name)->createProgram();
-    }
-    ~BrokenProgram() { Library::getInstance()->loadShader(name, "Shader/" + name + ".shader"); }
-    BrokenProgram(const BrokenProgram&) = delete;
-    BrokenProgram& operator=(const BrokenProgram&) = delete;
-
-private:
-    std::string name;
-};

@@ -65,26 +65,4 @@ TEST_F(TextPicture, PaintsUprightGlyphsWhereTheyWereAskedFor)
     EXPECT_GT(painted(320, 480, kGlyphWidth, half), painted(320, 480 + half, kGlyphWidth, half)) << "an L at its foot";
 }
 
-TEST_F(TextPicture, IsPaintedAgainUntilItIsCleared)
-{
-    text.addText("Ente", 0, 0);
-    const int once = painted(0, 0, 1024, 768);
-    EXPECT_GT(once, 0);
-    EXPECT_EQ(painted(0, 0, 1024, 768), once);
-    text.addText("Ente", 0, 0);
-    EXPECT_EQ(painted(0, 0, 1024, 768), once) << "the same text at the same place";
-    text.clear();
-    EXPECT_EQ(painted(0, 0, 1024, 768), 0);
-}
-
-TEST_F(TextPicture, WithoutProgramOrFontNothingIsPainted)
-{
-    text.addText("Ente", 0, 0);
-    text.setFont(nullptr);
-    EXPECT_EQ(painted(0, 0, 1024, 768), 0);
-    text.setFont(Library::getInstance()->getTexture("Font"));
-    text.setShader(nullptr);
-    EXPECT_EQ(painted(0, 0, 1024, 768), 0);
-}
-
 } // namespace

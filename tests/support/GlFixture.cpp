@@ -66,15 +66,6 @@ glm::ivec4 GlTest::pixelAt(int x, int y)
     return {pixel[0], pixel[1], pixel[2], pixel[3]};
 }
 
-int GlTest::paintedPixels()
-{
-    std::vector<glm::u8vec4> pixels(std::size_t{kSide} * kSide);
-    glReadPixels(0, 0, kSide, kSide, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
-    int painted = 0;
-    for (const glm::u8vec4& pixel : pixels) painted += pixel.r || pixel.g || pixel.b;
-    return painted;
-}
-
 GLint GlTest::integer(GLenum what)
 {
     GLint value = -1;

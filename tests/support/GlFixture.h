@@ -18,9 +18,6 @@ protected:
     /// A pixel of the picture, each component 0 to 255; (0, 0) is at the lower left.
     static glm::ivec4 pixelAt(int x, int y);
 
-    /// Pixels of the picture that are not black.
-    static int paintedPixels();
-
     /// What glGetIntegerv says.
     static GLint integer(GLenum what);
 

@@ -36,6 +36,7 @@ void PlayerRegistration::readDevices()
 {
     for (Slot& slot : slots) {
         slot.device->update();
+        slot.startPressed = slot.device->isPressed(InputDevice::kStart); // a key stays pressed until it's asked for: not left for later
         if (slot.registered || !slot.device->isPressed(InputDevice::kShoot)) continue;
         slot.registered = true;
         match.addPlayer(slot.device.get());
@@ -48,7 +49,6 @@ bool PlayerRegistration::shouldStart() const
     constexpr int kMinParticipants = 2;
     const int participants = match.getActorCount();
     if (participants == kMaxParticipants) return true;
-    return participants >= kMinParticipants && std::any_of(slots.begin(), slots.end(), [](const Slot& slot) {
-        return slot.registered && slot.device->isPressed(InputDevice::kStart);
-    });
+    return participants >= kMinParticipants &&
+        std::any_of(slots.begin(), slots.end(), [](const Slot& slot) { return slot.registered && slot.startPressed; });
 }

@@ -32,6 +32,7 @@ private:
     struct Slot {
         std::unique_ptr<InputDevice> device;
         bool registered = false;
+        bool startPressed = false; // in this frame
     };
 
     void readDevices();
