@@ -81,7 +81,7 @@ public:
     {
         if (std::string(step) != "CelPostProc") return;
         constexpr int kWidth = 1024, kHeight = 768;
-        std::vector<unsigned char> pixels(3 * kWidth * kHeight);
+        std::vector<unsigned char> pixels(std::size_t{3} * kWidth * kHeight);
         glPixelStorei(GL_PACK_ALIGNMENT, 1);
         glReadPixels(0, 0, kWidth, kHeight, GL_RGB, GL_UNSIGNED_BYTE, pixels.data());
         stbi_flip_vertically_on_write(1);
