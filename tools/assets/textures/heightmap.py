@@ -3,8 +3,9 @@
 A pixel's column counts along world z and its row from the bottom along world x, both from -256; the byte 255 stands for a height
 of 50 units. The game reads every eighth pixel, so nothing here is narrower than three of those.
 
-The middle, where cars enter, rolls gently at 36 to 46 units. Around it runs a sunken ring, then a rim of hills with a lookout in
-each corner. Along z two causeways lead level to the edge, along x two gaps slope down to it: there one can drive off the field.
+The middle, where cars enter, rolls gently at 40 to 46 units: cars drop in from 50, and where frames are slow a longer fall
+tips them over. Around it runs a sunken ring, then a rim of hills with a lookout in each corner. Along z two causeways lead level to
+the edge, along x two gaps slope down to it: there one can drive off the field.
 """
 import sys
 
@@ -15,10 +16,10 @@ from pictures import saveTga, smoothstep, softNoise
 SIZE = 512              # pixels a side, one world unit each
 FULL_HEIGHT = 50.0      # units that byte 255 stands for
 ENTRY = 100             # cars enter at x and z of -ENTRY to ENTRY - 1 ...
-ENTRY_LOW, ENTRY_HIGH = 36.2, 45.8  # ... and the ground there keeps to these heights
+ENTRY_LOW, ENTRY_HIGH = 39.2, 45.8  # ... and the ground there keeps to these heights
 DRIVABLE_SLOPE = numpy.tan(numpy.radians(25.0))
 
-MEADOW, RING, CREST, LOOKOUT, CAUSEWAY, SHORE = 39.0, 22.5, 38.0, 46.0, 37.0, 20.0  # heights in units
+MEADOW, RING, CREST, LOOKOUT, CAUSEWAY, SHORE = 41.8, 22.5, 38.0, 46.0, 39.8, 20.0  # heights in units
 
 
 def ramp(value, start, end):
@@ -56,10 +57,10 @@ def heights():
     height = height + numpy.maximum(0.0, CAUSEWAY - height) * causeway
 
     # Inside the meadow: a table in the middle, steep enough to show its soil, and four gentle mounds with flat tops around it.
-    height = height + 4.6 * ramp(numpy.hypot(x, z), 42, 25)
+    height = height + 3.4 * ramp(numpy.hypot(x, z), 42, 25)
     for angle in (38, 128, 218, 308):
         centre = 82 * numpy.cos(numpy.radians(angle)), 82 * numpy.sin(numpy.radians(angle))
-        height = height + 2.6 * smoothstep(44, 12, numpy.hypot(x - centre[0], z - centre[1]))
+        height = height + 1.7 * smoothstep(44, 12, numpy.hypot(x - centre[0], z - centre[1]))
     waves = 1.0 * softNoise(SIZE, 125, 27) + 0.35 * softNoise(SIZE, 60, 28)
     height = height + waves * (1.0 - 0.7 * causeway) * (1.0 - ramp(numpy.hypot(x, z), 50, 30))
     return blurred(height, 4.5)
