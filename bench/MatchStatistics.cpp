@@ -1,6 +1,6 @@
 #include "MatchStatistics.h"
 
-#include "SilentMatch.h"
+#include "app/match/MatchRules.h"
 #include "physics/VehicleHandle.h"
 #include "players/Ball.h"
 #include "players/Player.h"
@@ -24,9 +24,9 @@ float horizontalDistance(const glm::vec3& a, const glm::vec3& b)
 
 void MatchStatistics::observe()
 {
-    for (const auto& ball : match.rules.getBalls()) shots += ball->getAge() == 0; // fired in this very pass
+    for (const auto& ball : match.getBalls()) shots += ball->getAge() == 0; // fired in this very pass
 
-    const auto& actors = match.rules.getActors();
+    const auto& actors = match.getActors();
     cars.resize(actors.size());
     for (std::size_t i = 0; i < actors.size(); ++i) {
         const Player& player = *static_cast<const Player*>(actors[i]);

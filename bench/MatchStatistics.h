@@ -5,16 +5,19 @@
 #include <deque>
 #include <vector>
 
-struct SilentMatch;
+class MatchRules;
 
 /// Watches a match from outside, pass by pass, and counts what went on.
 class MatchStatistics {
 public:
-    explicit MatchStatistics(const SilentMatch& watched) : match(watched) {}
+    explicit MatchStatistics(const MatchRules& watched) : match(watched) {}
 
     void observe(); ///< after each pass
 
-    /// "shots 880 hits 600 deaths 115 falls 0 upside_down_percent 1.5 stuck_percent 4.4"
+    int getShots() const { return shots; }
+    int getDeaths() const { return deaths; } ///< by shots
+
+    /// All of it, for passes of 1/120 s: "shots 880 hits 600 deaths 115 falls 0 upside_down_percent 1.5 stuck_percent 4.4"
     void print() const;
 
 private:
@@ -25,7 +28,7 @@ private:
         float lowest = 0; ///< height in the pass before
     };
 
-    const SilentMatch& match;
+    const MatchRules& match;
     std::vector<Car> cars;
     long carPasses = 0, upsideDown = 0, stuck = 0;
     int shots = 0, hits = 0, deaths = 0, falls = 0;

@@ -88,7 +88,7 @@ int runMatch(int participants, int passes)
     for (int i = 0; i < participants; ++i) match.rules.addComputerPlayer();
     match.scene.update();
 
-    MatchStatistics statistics(match);
+    MatchStatistics statistics(match.rules);
     std::vector<double> times(static_cast<std::size_t>(passes)); // written to once, so that it does not count as growth
     long memoryBefore = 0, ballPasses = 0;
     for (int pass = 0; pass < passes; ++pass) {

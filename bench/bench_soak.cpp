@@ -9,11 +9,10 @@
 // freed: some 300 bytes a shot.
 
 #include "BenchGame.h"
+#include "MatchStatistics.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
 #include "app/base/FrameTimer.h"
-#include "players/Ball.h"
-#include "players/Player.h"
 #include "render/Renderer.h"
 
 #include <malloc.h>
@@ -29,24 +28,6 @@ constexpr int kDefaultMinutes = 10;
 constexpr int kHumans = 6;
 constexpr int kParticipants = 16;
 
-struct Counts {
-    int frames = 0, shots = 0;
-
-    /// After each pass.
-    void observe(const MatchRules& match)
-    {
-        ++frames;
-        for (const auto& ball : match.getBalls()) shots += ball->getAge() == 0; // fired in this very pass
-    }
-};
-
-int deathsOf(const MatchRules& match)
-{
-    int deaths = 0;
-    for (const Actor* actor : match.getActors()) deaths += static_cast<const Player*>(actor)->getDeaths();
-    return deaths;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -59,21 +40,24 @@ int main(int argc, char** argv)
     FrameTimer::getInstance()->setClock(nullptr);
     game.startMatch(kHumans, kParticipants);
 
-    Counts counts;
+    MatchStatistics statistics(game);
+    int frames = 0;
     long firstMinute = 0, rss = 0;
     const auto start = std::chrono::steady_clock::now();
     for (int minute = 1; minute <= minutes; ++minute) {
         while (std::chrono::steady_clock::now() < start + std::chrono::minutes(minute)) {
             game.runPass();
-            counts.observe(game);
+            statistics.observe();
+            ++frames;
         }
         malloc_trim(0);
         rss = residentKib();
         if (minute == 1) firstMinute = rss;
-        std::printf("minute %d frames %d shots %d deaths %d rss_kib %ld\n", minute, counts.frames, counts.shots, deathsOf(game), rss);
+        std::printf("minute %d frames %d shots %d deaths %d rss_kib %ld\n", minute, frames, statistics.getShots(), statistics.getDeaths(),
+            rss);
         std::fflush(stdout);
     }
-    std::printf("minutes %d shots %d rss_growth_kib %ld\n", minutes, counts.shots, rss - firstMinute);
+    std::printf("minutes %d shots %d rss_growth_kib %ld\n", minutes, statistics.getShots(), rss - firstMinute);
     game.getRenderer().terminate();
     return EXIT_SUCCESS;
 }
