@@ -6,6 +6,7 @@
 
 #include <glm/gtc/matrix_transform.hpp>
 
+#include <string>
 #include <vector>
 
 namespace {
@@ -118,6 +119,26 @@ TEST_F(NodeTest, ANewParentTakesANodeFromTheOldOneButAMereAdditionDoesNot)
     q.addChild(&node);
     p.destroy();
     EXPECT_TRUE(p.getChildren().empty());
+}
+
+TEST_F(NodeTest, ThousandsLieCloseTogetherAndNoneOverAnother)
+{
+    std::vector<Node*> nodes;
+    std::vector<std::vector<char>> between; // what a frame takes from the heap meanwhile
+    for (int i = 0; i < 2000; ++i) {
+        nodes.push_back(new Node(std::to_string(i)));
+        root.addChild(nodes.back());
+        nodes.back()->setTransform(moved(static_cast<float>(i), 0, 0));
+        between.emplace_back(4096);
+    }
+    scene.update();
+    int apart = 0;
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        EXPECT_EQ(nodes[i]->getName(), std::to_string(i));
+        EXPECT_EQ(nodes[i]->getWorldPosition().x, static_cast<float>(i));
+        apart += i > 0 && nodes[i] != nodes[i - 1] + 1;
+    }
+    EXPECT_LT(apart, 20) << "blocks that were begun";
 }
 
 } // namespace
