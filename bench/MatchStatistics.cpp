@@ -1,6 +1,6 @@
 #include "MatchStatistics.h"
 
-#include "app/match/MatchRules.h"
+#include "match/MatchRules.h"
 #include "physics/VehicleHandle.h"
 #include "players/Ball.h"
 #include "players/Player.h"
@@ -58,6 +58,6 @@ void MatchStatistics::observe()
 void MatchStatistics::print() const
 {
     const double total = static_cast<double>(std::max(carPasses, 1L));
-    std::printf("shots %d hits %d deaths %d falls %d upside_down_percent %.1f stuck_percent %.1f", shots, hits, deaths, falls,
-        100 * static_cast<double>(upsideDown) / total, 100 * static_cast<double>(stuck) / total);
+    std::printf("shots %d hits %d deaths %d falls %d upside_down_percent %.1f stuck_percent %.1f", shots, hits, deaths,
+        falls, 100 * static_cast<double>(upsideDown) / total, 100 * static_cast<double>(stuck) / total);
 }

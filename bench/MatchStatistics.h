@@ -17,7 +17,8 @@ public:
     int getShots() const { return shots; }
     int getDeaths() const { return deaths; } ///< by shots
 
-    /// All of it, for passes of 1/120 s: "shots 880 hits 600 deaths 115 falls 0 upside_down_percent 1.5 stuck_percent 4.4"
+    /// All of it, for passes of 1/120 s: "shots 880 hits 600 deaths 115 falls 0 upside_down_percent 1.5 stuck_percent
+    /// 4.4"
     void print() const;
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "SteppedClock.h"
-#include "app/match/MatchRules.h"
+#include "match/MatchRules.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
 #include "physics/Terrain.h"
@@ -22,7 +22,8 @@ public:
     glm::ivec2 getWindowSize() const override { return {1024, 768}; }
 };
 
-/// A whole match without a window: the real rules, physics, ground and scene, on a clock that goes on by 1/120 s a pass.
+/// A whole match without a window: the real rules, physics, ground and scene, on a clock that goes on by 1/120 s a
+/// pass.
 struct SilentMatch {
     SilentMatch()
     {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 
 /// A clock that moves only when it is told to: the same passes in every run, however long they take to compute.
 class SteppedClock : public IClock {

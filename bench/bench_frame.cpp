@@ -1,20 +1,20 @@
-// What a frame costs: the real renderer over the real world, in a match with smoke, hats and balls in flight. Run by hand, on the (virtual)
-// display that is to be measured:
+// What a frame costs: the real renderer over the real world, in a match with smoke, hats and balls in flight. Run by
+// hand, on the (virtual) display that is to be measured:
 //     xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench_frame [FRAMES [CARS [VIEWS]]]
-// FRAMES: of each measurement, 100 unless given. CARS: participants, 16 unless given; at least one for each viewport takes part. VIEWS:
-// that many viewports (1 to 6) only; 1, 2, 4 and 6 unless given.
+// FRAMES: of each measurement, 100 unless given. CARS: participants, 16 unless given; at least one for each viewport
+// takes part. VIEWS: that many viewports (1 to 6) only; 1, 2, 4 and 6 unless given.
 //
-// For each number of viewports it prints a table of the steps of a frame (medians of wall and processor time; each step ended by a GL
-// finish) and then one line for scripts, of frames measured as a whole without those finishes:
-// `views 2 frame_ms 43.1 p95_ms 50.2 rss_growth_kib 120`.
-// rss_growth_kib: of resident memory from the first of all those frames to the last: shots leave a scene node of some 300 bytes each.
+// For each number of viewports it prints a table of the steps of a frame (medians of wall and processor time; each step
+// ended by a GL finish) and then one line for scripts, of frames measured as a whole without those finishes: `views 2
+// frame_ms 43.1 p95_ms 50.2 rss_growth_kib 120`. rss_growth_kib: of resident memory from the first of all those frames
+// to the last: shots leave a scene node of some 300 bytes each.
 //
 // On a busy machine the processor time is the steadier figure: a software driver's threads count in it.
 
 #include "BenchGame.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 #include "players/Ball.h"
 #include "render/FrameProbe.h"
 #include "render/Renderer.h"
@@ -75,7 +75,8 @@ public:
 
     void print() const
     {
-        for (const char* step : {"scene update", "shadow pass", "model passes", "text", "Blur", "CelPostProc", "swap"}) {
+        for (const char* step :
+            {"scene update", "shadow pass", "model passes", "text", "Blur", "CelPostProc", "swap"}) {
             std::printf("  %-14s %7.2f ms, processor %7.2f ms\n", step, percentile(wall.at(step), 0.5),
                 percentile(processor.at(step), 0.5));
         }
@@ -117,11 +118,13 @@ int measure(int views, int frames, int cars)
     game.getRenderer().setFrameProbe(nullptr);
     const long growth = residentKib() - memoryBefore;
 
-    std::printf("%d viewport%s, %d cars, %zu balls in flight, %d frames\n", views, views == 1 ? "" : "s", game.getActorCount(),
-        game.getBalls().size(), frames);
+    std::printf("%d viewport%s, %d cars, %zu balls in flight, %d frames\n", views, views == 1 ? "" : "s",
+        game.getActorCount(), game.getBalls().size(), frames);
     steps.print();
-    std::printf("  %-14s %7.2f ms, processor %7.2f ms\n", "whole frame", percentile(whole, 0.5), percentile(processor, 0.5));
-    std::printf("views %d frame_ms %.1f p95_ms %.1f rss_growth_kib %ld\n", views, percentile(whole, 0.5), percentile(whole, 0.95), growth);
+    std::printf("  %-14s %7.2f ms, processor %7.2f ms\n", "whole frame", percentile(whole, 0.5),
+        percentile(processor, 0.5));
+    std::printf("views %d frame_ms %.1f p95_ms %.1f rss_growth_kib %ld\n", views, percentile(whole, 0.5),
+        percentile(whole, 0.95), growth);
     std::fflush(stdout);
     game.getRenderer().terminate();
     return 0;

@@ -1,14 +1,14 @@
-// What the rules, the input and the physics of a match cost without drawing, as fast as they go, on the real ground: computer players only,
-// two simulated minutes of passes of 1/120 s on a stepped clock. Run by hand:
+// What the rules, the input and the physics of a match cost without drawing, as fast as they go, on the real ground:
+// computer players only, two simulated minutes of passes of 1/120 s on a stepped clock. Run by hand:
 //     build/release/bench_match [PASSES [PARTICIPANTS]]
-// PASSES: of each match, 7200 unless given; 216000 make a soak of thirty simulated minutes. PARTICIPANTS: that many only; 2, 4, 8 and 16
-// unless given.
+// PASSES: of each match, 7200 unless given; 216000 make a soak of thirty simulated minutes. PARTICIPANTS: that many
+// only; 2, 4, 8 and 16 unless given.
 //
-// One line a number of participants, for scripts, and one of a bare reference: the same cars, driven round in circles by the physics
-// library alone with as many balls in flight as the match had on average.
+// One line a number of participants, for scripts, and one of a bare reference: the same cars, driven round in circles
+// by the physics library alone with as many balls in flight as the match had on average.
 //
-// rss_growth_kib: of resident memory after the first ten seconds. What grows by design is the scene nodes of spent balls, which are
-// detached and never freed: some 300 bytes a shot, 7.5 MiB in half an hour of sixteen.
+// rss_growth_kib: of resident memory after the first ten seconds. What grows by design is the scene nodes of spent
+// balls, which are detached and never freed: some 300 bytes a shot, 7.5 MiB in half an hour of sixteen.
 
 #include "MatchStatistics.h"
 #include "QuietLog.h"
@@ -48,7 +48,8 @@ double microseconds(Work work)
     return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// The physics library with nothing of the game around it. balls: in flight all the time, thrown again every five seconds.
+/// The physics library with nothing of the game around it. balls: in flight all the time, thrown again every five
+/// seconds.
 void runReference(int participants, int passes, int balls)
 {
     SilentMatch match;
@@ -77,7 +78,8 @@ void runReference(int participants, int passes, int balls)
             world.step(kGameTimeScale / 120);
         }));
     }
-    std::printf("reference participants %d balls %d pass_us_median %.0f\n", participants, balls, percentile(times, 0.5));
+    std::printf("reference participants %d balls %d pass_us_median %.0f\n", participants, balls,
+        percentile(times, 0.5));
     std::fflush(stdout);
 }
 
@@ -101,8 +103,8 @@ int runMatch(int participants, int passes)
 
     double total = 0;
     for (const double time : times) total += time;
-    std::printf("participants %d passes_per_s %.0f pass_us_median %.0f pass_us_p99 %.0f ", participants, passes / (total * 1e-6),
-        percentile(times, 0.5), percentile(times, 0.99));
+    std::printf("participants %d passes_per_s %.0f pass_us_median %.0f pass_us_p99 %.0f ", participants,
+        passes / (total * 1e-6), percentile(times, 0.5), percentile(times, 0.99));
     statistics.print();
     std::printf(" rss_growth_kib %ld\n", growth);
     std::fflush(stdout);

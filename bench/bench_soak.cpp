@@ -1,18 +1,18 @@
-// Whether the game holds out: the whole program with its window, six people who never let go of the throttle and the trigger, and ten
-// computer players, in real time. Run by hand, on a (virtual) display:
+// Whether the game holds out: the whole program with its window, six people who never let go of the throttle and the
+// trigger, and ten computer players, in real time. Run by hand, on a (virtual) display:
 //     xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench_soak [MINUTES]
 // MINUTES: 10 unless given.
 //
-// One line a minute, for scripts, and one at the end with the growth since the first minute:
-// `minute 3 frames 2101 shots 310 deaths 40 rss_kib 263456`. Frames, shots and deaths count from the start. Memory is what stays resident
-// when the heap has given back whatever is free. What grows by design is the scene nodes of spent balls, which are detached and never
-// freed: some 300 bytes a shot.
+// One line a minute, for scripts, and one at the end with the growth since the first minute: `minute 3 frames 2101
+// shots 310 deaths 40 rss_kib 263456`. Frames, shots and deaths count from the start. Memory is what stays resident
+// when the heap has given back whatever is free. What grows by design is the scene nodes of spent balls, which are
+// detached and never freed: some 300 bytes a shot.
 
 #include "BenchGame.h"
 #include "MatchStatistics.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 #include "render/Renderer.h"
 
 #include <malloc.h>
@@ -53,8 +53,8 @@ int main(int argc, char** argv)
         malloc_trim(0);
         rss = residentKib();
         if (minute == 1) firstMinute = rss;
-        std::printf("minute %d frames %d shots %d deaths %d rss_kib %ld\n", minute, frames, statistics.getShots(), statistics.getDeaths(),
-            rss);
+        std::printf("minute %d frames %d shots %d deaths %d rss_kib %ld\n", minute, frames, statistics.getShots(),
+            statistics.getDeaths(), rss);
         std::fflush(stdout);
     }
     std::printf("minutes %d shots %d rss_growth_kib %ld\n", minutes, statistics.getShots(), rss - firstMinute);

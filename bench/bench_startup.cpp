@@ -1,5 +1,6 @@
-// How long players wait: from the start of the program to its first picture, and to the first picture of a match that two of them join at
-// once. Starts the built program on a virtual display, presses real keys and looks at the screen; the files are in the page cache.
+// How long players wait: from the start of the program to its first picture, and to the first picture of a match that
+// two of them join at once. Starts the built program on a virtual display, presses real keys and looks at the screen;
+// the files are in the page cache.
 //
 // usage: bench_startup [RUNS]      default 9; prints every run and the medians, in milliseconds
 #include "e2e/ChildProcess.h"
@@ -22,7 +23,8 @@ namespace {
 
 constexpr int kDefaultRuns = 9;
 constexpr double kPatienceSeconds = 60;
-constexpr ScreenArea kRow{0, 500, 1024, 1}; // one row of pixels across the landscape: looking at it costs the game next to nothing
+constexpr ScreenArea kRow{
+    0, 500, 1024, 1}; // one row of pixels across the landscape: looking at it costs the game next to nothing
 constexpr ScreenArea kWholeRow{0, 0, 1024, 1};
 constexpr double kDetail = 0.05;    // share of the row that a blank window does not have
 constexpr double kOtherScene = 0.3; // share of the row that changes when the overview gives way to the match
@@ -38,7 +40,8 @@ double millisecondsSince(Clock::time_point start)
 class Run {
 public:
     Run(VirtualDisplay& virtualDisplay, const fs::path& folder)
-        : display(virtualDisplay), start(Clock::now()), game({{QUACKDASH_PROGRAM}, folder, display.name(), folder / "game.txt"})
+        : display(virtualDisplay), start(Clock::now()),
+          game({{QUACKDASH_PROGRAM}, folder, display.name(), folder / "game.txt"})
     {
     }
 
@@ -78,7 +81,10 @@ private:
         if (!came) giveUp("\"" + text + "\" is missing");
     }
 
-    [[noreturn]] void giveUp(const std::string& what) const { throw std::runtime_error(what + "; the log:\n" + game.output()); }
+    [[noreturn]] void giveUp(const std::string& what) const
+    {
+        throw std::runtime_error(what + "; the log:\n" + game.output());
+    }
 
     VirtualDisplay& display;
     const Clock::time_point start;

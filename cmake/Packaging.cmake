@@ -1,5 +1,6 @@
-# What an installation consists of, and the packages made from it: a .deb (where Debian's tools are) and an archive, by target `package`.
-# The program looks for its data in share/games/quackdash next to its own folder (platform/DataFolder), wherever both are put.
+# What an installation consists of, and the packages made from it: a .deb (where Debian's tools are) and an archive, by
+# target `package`. The program looks for its data in share/games/quackdash next to its own folder
+# (platform/DataFolder), wherever both are put.
 include(GNUInstallDirs)
 find_program(GZIP_PROGRAM gzip REQUIRED)
 

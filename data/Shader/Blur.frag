@@ -1,6 +1,6 @@
 #version 430 core
-// Depth blur: what is far grows soft and hazy, the playfield stays sharp. The alpha of the result says how much of an edge a pixel is,
-// for the ink of the pass that follows.
+// Depth blur: what is far grows soft and hazy, the playfield stays sharp. The alpha of the result says how much of an
+// edge a pixel is, for the ink of the pass that follows.
 uniform sampler2D fbo_texture;
 uniform sampler2D depth_texture;
 uniform sampler2D light_depth_texture;
@@ -22,7 +22,8 @@ void main()
     ivec2 l = ivec2(max(p.x - 1, 0), p.y), r = ivec2(min(p.x + 1, last.x), p.y);
     ivec2 d = ivec2(p.x, max(p.y - 1, 0)), u = ivec2(p.x, min(p.y + 1, last.y));
 
-    // One minus the stored depth is proportional to the reciprocal distance, which is linear across any plane: only real edges bend it.
+    // One minus the stored depth is proportional to the reciprocal distance, which is linear across any plane: only
+    // real edges bend it.
     float c = 1.0 - texelFetch(depth_texture, p, 0).r;
     float bend = abs(2.0 - texelFetch(depth_texture, l, 0).r - texelFetch(depth_texture, r, 0).r - 2.0 * c)
                + abs(2.0 - texelFetch(depth_texture, d, 0).r - texelFetch(depth_texture, u, 0).r - 2.0 * c);

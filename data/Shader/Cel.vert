@@ -1,5 +1,6 @@
 #version 430 core
-// Cel-shaded solids, drawn twice: first the inside faces, pushed outwards as a dark hull (backface 1), then the solid itself (backface 0).
+// Cel-shaded solids, drawn twice: first the inside faces, pushed outwards as a dark hull (backface 1), then the solid
+// itself (backface 0).
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
 

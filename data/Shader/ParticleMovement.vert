@@ -1,5 +1,6 @@
 #version 430 core
-// One step of the exhaust smoke, by transform feedback: rises, drifts, slows, and starts anew at the emitter when its time is over.
+// One step of the exhaust smoke, by transform feedback: rises, drifts, slows, and starts anew at the emitter when its
+// time is over.
 layout(location = 0) in vec3 position;
 layout(location = 1) in float ttl; // seconds of game time left
 layout(location = 2) in vec3 velocity;

@@ -17,7 +17,8 @@ const float kOuterRing = 84.0;
 const float kRingHalfWidth = 2.6;
 const vec3 kToLight = vec3(0.2873479, 0.9578263, 0.0);
 
-// How much light gets here, 0 to 1: the four nearest texels vote by their closeness, so that edges run softly from texel to texel.
+// How much light gets here, 0 to 1: the four nearest texels vote by their closeness, so that edges run softly from
+// texel to texel.
 float lit()
 {
     vec2 at = shadowPosition.xy * vec2(textureSize(shadow_texture, 0)) - 0.5;

@@ -1,5 +1,6 @@
 #version 430 core
-// Patches stay flat, as the ground is for the wheels; splitting them near the eye bends the normals between the corners smoothly.
+// Patches stay flat, as the ground is for the wheels; splitting them near the eye bends the normals between the corners
+// smoothly.
 layout(triangles, equal_spacing, ccw) in;
 
 in vec3 patchPosition[];

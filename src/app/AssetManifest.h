@@ -8,7 +8,8 @@ struct Asset {
     const char* name;
 };
 
-/// What the game loads besides its meshes (the library knows those) and the height image (the terrain reads it), in loading order.
+/// What the game loads besides its meshes (the library knows those) and the height image (the terrain reads it), in
+/// loading order.
 std::span<const Asset> shaderAssets();
 std::span<const Asset> textureAssets();
 std::span<const Asset> soundAssets();

@@ -141,7 +141,8 @@ MeshGeometry& CarStage::getTireGeometry()
     if (!tireGeometry) {
         Mesh mesh;
         createCylinder(mesh, kTireRadius, kTireWidth, kTireSegments);
-        tireGeometry = std::make_unique<MeshGeometry>(mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position});
+        tireGeometry =
+            std::make_unique<MeshGeometry>(mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position});
     }
     return *tireGeometry;
 }

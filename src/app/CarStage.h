@@ -9,8 +9,8 @@ class MeshGeometry;
 class QKD_Game;
 class Renderer;
 
-/// Shows participants with real models: ducks, tyres, smoke and text. Owned by the game; needs the window and the loaded assets from the first
-/// car on.
+/// Shows participants with real models: ducks, tyres, smoke and text. Owned by the game; needs the window and the
+/// loaded assets from the first car on.
 class CarStage final : public IStage {
 public:
     CarStage(QKD_Game* game, Renderer& renderer);

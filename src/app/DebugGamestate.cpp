@@ -3,9 +3,9 @@
 #include "app/Core.h"
 #include "app/GameStateManager.h"
 #include "app/QKD_Game.h"
-#include "app/base/FrameTimer.h"
-#include "app/base/Logger.h"
 #include "assets/Library.h"
+#include "base/FrameTimer.h"
+#include "base/Logger.h"
 #include "platform/AppWindow.h"
 #include "render/Renderer.h"
 #include "scene/Node.h"
@@ -35,8 +35,8 @@ FreeFlight::Mouse mouseIn(const AppWindow& window)
 } // namespace
 
 DebugGamestate::DebugGamestate(const std::string& stateName, QKD_Game& ownGame)
-    : IGameState(stateName), game(ownGame), window(ownGame.getCore()->getRenderer()->getWindow()), cameraNode(createCameraNode(ownGame)),
-      view(ownGame.getWindowRect(), cameraNode), flight(*cameraNode)
+    : IGameState(stateName), game(ownGame), window(ownGame.getCore()->getRenderer()->getWindow()),
+      cameraNode(createCameraNode(ownGame)), view(ownGame.getWindowRect(), cameraNode), flight(*cameraNode)
 {
 }
 

@@ -2,13 +2,13 @@
 
 #include "app/FreeFlight.h"
 #include "app/StateView.h"
-#include "app/base/IGameState.h"
+#include "base/IGameState.h"
 
 class AppWindow;
 class QKD_Game;
 
-/// A free flight through the running world by keyboard and mouse: the cars roll on, but nobody drives and no hit counts. Entered from
-/// the match and left back to it. Owned by the game.
+/// A free flight through the running world by keyboard and mouse: the cars roll on, but nobody drives and no hit
+/// counts. Entered from the match and left back to it. Owned by the game.
 class DebugGamestate final : public IGameState {
 public:
     /// The renderer must have the scene graph by now: the node "CameraNode" joins it.

@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-/// The game's debug switches on F1 to F12: which key does what, once a press or as long as it is held. bind() at the start, then
-/// update() once a drawn frame. Actions run in the order in which they were bound.
+/// The game's debug switches on F1 to F12: which key does what, once a press or as long as it is held. bind() at the
+/// start, then update() once a drawn frame. Actions run in the order in which they were bound.
 class FunctionKeys {
 public:
     enum class When {

@@ -2,13 +2,14 @@
 
 #include "app/Core.h"
 #include "app/GameStateManager.h"
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 #include "render/DebugRenderer.h"
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
 
 namespace {
-constexpr float kLongestPass = 1.0f; // seconds of game time; a pass of that length or more is neither computed nor drawn
+constexpr float kLongestPass =
+    1.0f; // seconds of game time; a pass of that length or more is neither computed nor drawn
 }
 
 Game::Game() : timer(FrameTimer::getInstance()), core(Core::getInstance()) {}

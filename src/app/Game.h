@@ -11,8 +11,8 @@ public:
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
 
-    /// Opens the window, loads the resources, builds the world and runs passes until the window is closed or quit() was called.
-    /// False when no window could be opened.
+    /// Opens the window, loads the resources, builds the world and runs passes until the window is closed or quit() was
+    /// called. False when no window could be opened.
     [[nodiscard]] bool run();
 
     void quit() { quitting = true; } ///< the loop ends after the current pass

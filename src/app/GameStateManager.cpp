@@ -1,6 +1,6 @@
 #include "app/GameStateManager.h"
 
-#include "app/base/Assert.h"
+#include "base/Assert.h"
 
 void GameStateManager::addState(IGameState* state)
 {

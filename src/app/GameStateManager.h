@@ -1,18 +1,19 @@
 #pragma once
 
-#include "app/base/IGameState.h"
+#include "base/IGameState.h"
 
 #include <map>
 #include <string>
 
-/// Keeps the game's states by name and knows which one is current. Owned by Core; borrows the states, which the game creates once.
+/// Keeps the game's states by name and knows which one is current. Owned by Core; borrows the states, which the game
+/// creates once.
 class GameStateManager {
 public:
     /// Stores a state under its getName(); an earlier state of that name is forgotten without notice.
     void addState(IGameState* state);
 
-    /// Leaves the current state and enters the named one; does nothing when that is current already. A name that was never added is a
-    /// programming error and stops the program.
+    /// Leaves the current state and enters the named one; does nothing when that is current already. A name that was
+    /// never added is a programming error and stops the program.
     void changeState(const std::string& name);
 
     IGameState* getCurrentState() const { return current; } ///< null before the first change

@@ -4,7 +4,7 @@
 #include "app/GameStateManager.h"
 #include "app/HelpText.h"
 #include "app/QKD_Game.h"
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 #include "platform/Keyboard.h"
 #include "players/Player.h"
 #include "render/Renderer.h"

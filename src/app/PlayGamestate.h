@@ -1,15 +1,15 @@
 #pragma once
 
 #include "app/StateView.h"
-#include "app/base/IGameState.h"
+#include "base/IGameState.h"
 
 #include <memory>
 #include <vector>
 
 class QKD_Game;
 
-/// The match on the split screen: one viewport for each human player and, where that leaves a cell free, the overview in it. Runs until
-/// somebody quits. Owned by the game.
+/// The match on the split screen: one viewport for each human player and, where that leaves a cell free, the overview
+/// in it. Runs until somebody quits. Owned by the game.
 class PlayGamestate final : public IGameState {
 public:
     PlayGamestate(const std::string& stateName, QKD_Game& game);
@@ -26,5 +26,6 @@ private:
 
     QKD_Game& game;
     std::vector<Viewport*> viewports;
-    std::vector<std::unique_ptr<StateView>> overviews; // one more for each entry that leaves a cell free: their node keeps its cameras
+    std::vector<std::unique_ptr<StateView>>
+        overviews; // one more for each entry that leaves a cell free: their node keeps its cameras
 };

@@ -7,11 +7,11 @@
 #include "app/PlayGamestate.h"
 #include "app/RegisterPlayersGamestate.h"
 #include "app/TerrainModel.h"
-#include "app/base/FrameTimer.h"
-#include "app/base/Logger.h"
 #include "assets/Library.h"
 #include "assets/PartyhatModel.h"
 #include "audio/AudioSystem.h"
+#include "base/FrameTimer.h"
+#include "base/Logger.h"
 #include "gpu/Uniform_Texture.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
@@ -140,8 +140,8 @@ void QKD_Game::startSound()
 
 void QKD_Game::createHats()
 {
-    const glm::vec4 kColours[Hats::kCount] = {
-        {255 / 255.0f, 215 / 255.0f, 0, 1}, {192 / 255.0f, 192 / 255.0f, 192 / 255.0f, 1}, {205 / 255.0f, 127 / 255.0f, 50 / 255.0f, 1}};
+    const glm::vec4 kColours[Hats::kCount] = {{255 / 255.0f, 215 / 255.0f, 0, 1},
+        {192 / 255.0f, 192 / 255.0f, 192 / 255.0f, 1}, {205 / 255.0f, 127 / 255.0f, 50 / 255.0f, 1}};
     for (int place = 0; place < Hats::kCount; ++place) {
         hatModels.push_back(std::make_unique<PartyhatModel>(kColours[place], this));
         getHats().getAnimationNode(place)->attach(hatModels.back().get());
@@ -186,7 +186,8 @@ void QKD_Game::logRanking()
     if (now <= lastRankingLog + kRankingLogInterval) return;
 
     for (int place = 0; place < Ranking::kPlaces; ++place) {
-        if (const Player* leader = getRanking().getLeader(place)) logLine(2) << kPlaceNames[place] << leader->getName() << std::endl;
+        if (const Player* leader = getRanking().getLeader(place))
+            logLine(2) << kPlaceNames[place] << leader->getName() << std::endl;
     }
     if (getRanking().getLeader(0)) logLine(2) << "" << std::endl;
     lastRankingLog = now;

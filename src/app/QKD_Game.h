@@ -3,7 +3,7 @@
 #include "app/CarStage.h"
 #include "app/FunctionKeys.h"
 #include "app/Game.h"
-#include "app/match/MatchRules.h"
+#include "match/MatchRules.h"
 
 #include <memory>
 #include <vector>
@@ -15,8 +15,8 @@ class RegisterPlayersGamestate;
 class Renderer;
 class TerrainModel;
 
-/// The game itself: builds the world, owns the states and does what every frame needs besides the current state's work: physics,
-/// function keys, the ranking in the log. The rules are in MatchRules.
+/// The game itself: builds the world, owns the states and does what every frame needs besides the current state's work:
+/// physics, function keys, the ranking in the log. The rules are in MatchRules.
 class QKD_Game : public Game, public MatchRules {
 public:
     QKD_Game();

@@ -4,7 +4,7 @@
 #include "app/GameStateManager.h"
 #include "app/HelpText.h"
 #include "app/QKD_Game.h"
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 #include "platform/Keyboard.h"
 #include "render/Renderer.h"
 #include "scene/Node.h"
@@ -43,7 +43,8 @@ Node* createPanoramaNode(const QKD_Game& game)
 } // namespace
 
 RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame)
-    : IGameState(stateName), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)), registration(ownGame)
+    : IGameState(stateName), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)),
+      registration(ownGame)
 {
 }
 

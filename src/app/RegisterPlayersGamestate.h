@@ -1,12 +1,13 @@
 #pragma once
 
 #include "app/StateView.h"
-#include "app/base/IGameState.h"
-#include "app/match/PlayerRegistration.h"
+#include "base/IGameState.h"
+#include "match/PlayerRegistration.h"
 
 class QKD_Game;
 
-/// The first screen: people join with their devices, seen from high above the field, until the match starts. Owned by the game.
+/// The first screen: people join with their devices, seen from high above the field, until the match starts. Owned by
+/// the game.
 class RegisterPlayersGamestate final : public IGameState {
 public:
     /// The renderer must have the scene graph by now: the node "PanoramaCamera" joins it.

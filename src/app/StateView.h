@@ -3,8 +3,8 @@
 #include "scene/Camera.h"
 #include "scene/Viewport.h"
 
-/// A viewport with a camera of its own, as the game's states show the world where it is nobody's in particular. Owned by its state, and
-/// never moved: the renderer and a node hold on to its parts.
+/// A viewport with a camera of its own, as the game's states show the world where it is nobody's in particular. Owned
+/// by its state, and never moved: the renderer and a node hold on to its parts.
 class StateView {
 public:
     /// rect in pixels; node: where the camera hangs.

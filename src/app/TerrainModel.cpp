@@ -29,8 +29,9 @@ Mesh meshOf(const Terrain& terrain)
 TerrainModel::TerrainModel(const Terrain& terrain) : TerrainModel(meshOf(terrain)) {}
 
 TerrainModel::TerrainModel(const Mesh& mesh)
-    : geometry(mesh, {MeshAttribute::Position, MeshAttribute::Normal}), culler(mesh, kIndicesPerRun), transformation(this),
-      grass(Library::getInstance()->getTexture("Grass"), 0), dirt(Library::getInstance()->getTexture("Dirt"), 1), farGround(*this)
+    : geometry(mesh, {MeshAttribute::Position, MeshAttribute::Normal}), culler(mesh, kIndicesPerRun),
+      transformation(this), grass(Library::getInstance()->getTexture("Grass"), 0),
+      dirt(Library::getInstance()->getTexture("Dirt"), 1), farGround(*this)
 {
     setUp(*this, "TerrainShader");
     setName("Heightfield");

@@ -10,9 +10,9 @@ class Mesh;
 class Node;
 class Terrain;
 
-/// The ground as it is seen: the terrain's grid, drawn as patches of grass and dirt that are split near the eye. What is too far away to
-/// be split is drawn by a second model, without the tessellator, which costs a software driver as much as the shading. Owned by the game;
-/// made after the assets are loaded.
+/// The ground as it is seen: the terrain's grid, drawn as patches of grass and dirt that are split near the eye. What
+/// is too far away to be split is drawn by a second model, without the tessellator, which costs a software driver as
+/// much as the shading. Owned by the game; made after the assets are loaded.
 class TerrainModel final : public Model {
 public:
     explicit TerrainModel(const Terrain& terrain);
@@ -20,7 +20,8 @@ public:
     /// Hangs both models on the terrain's node.
     void attachTo(Node& mapNode);
 
-    void draw() override; ///< the patches that the camera being drawn may see; all of them when the second model is not drawable
+    /// Draws the patches that the camera being drawn may see; all of them when the second model is not drawable.
+    void draw() override;
 
 private:
     /// Triangles that are not split; they share the geometry, and their shadow is the patches'.

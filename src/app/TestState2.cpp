@@ -1,6 +1,6 @@
 #include "app/TestState2.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 
 void TestState2::enter()
 {

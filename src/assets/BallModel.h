@@ -6,8 +6,8 @@
 
 class QKD_Game;
 
-/// The drawn ball of a shot, in the shooter's colour. Owned by the shot, which deletes it. All balls share one sphere, made by the first;
-/// each has its own vertex array and uniform sources, released with it.
+/// The drawn ball of a shot, in the shooter's colour. Owned by the shot, which deletes it. All balls share one sphere,
+/// made by the first; each has its own vertex array and uniform sources, released with it.
 class BallModel final : public CelModel {
 public:
     BallModel(QKD_Game* game, const glm::vec4& color);

@@ -53,7 +53,8 @@ void checkAccessor(const Element& accessor, const std::map<std::string, unsigned
     const auto array = lengths.find(source.substr(std::min<std::size_t>(source.size(), 1))); // without its "#"
     if (array == lengths.end()) return; // the importer's own check finds a missing array
     const unsigned long long stride = number(accessor, "stride", 1);
-    if (number(accessor, "offset", 0) + number(accessor, "count", 0) * stride > array->second || accessor.count("param") > stride)
+    if (number(accessor, "offset", 0) + number(accessor, "count", 0) * stride > array->second ||
+        accessor.count("param") > stride)
         throw std::runtime_error("an accessor reaches past its array");
 }
 

@@ -6,8 +6,8 @@
 
 class Camera;
 
-/// A textured model that sets its uniforms itself: the library's mesh "Hellknight" with the texture "Hellknight_Diffuse". For trying out
-/// models; the game's scene holds none.
+/// A textured model that sets its uniforms itself: the library's mesh "Hellknight" with the texture
+/// "Hellknight_Diffuse". For trying out models; the game's scene holds none.
 class HellknightModel final : public Model {
 public:
     HellknightModel();
@@ -15,7 +15,8 @@ public:
 
     std::string getName() const override { return "Hellknight"; }
 
-    /// Sets "view", "projection", "normalMatrix", "tex" (on unit 0) and "model" for that camera; the program is current.
+    /// Sets "view", "projection", "normalMatrix", "tex" (on unit 0) and "model" for that camera; the program is
+    /// current.
     virtual void setUniforms(Camera* camera);
 
     /// Makes the program current and sets its uniforms.

@@ -4,7 +4,8 @@
 
 #include <string>
 
-/// What models need of the renderer, which lies above them. The renderer implements it and registers itself when it is constructed.
+/// What models need of the renderer, which lies above them. The renderer implements it and registers itself when it is
+/// constructed.
 class IRenderServices {
 public:
     /// The registered renderer; null until there is one.

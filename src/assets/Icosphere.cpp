@@ -11,13 +11,14 @@ namespace {
 constexpr float kA = 0.5257311121191336f;
 constexpr float kB = 0.8506508083520399f;
 
-constexpr glm::vec3 kCorners[12] = {{-kA, 0, kB}, {kA, 0, kB}, {-kA, 0, -kB}, {kA, 0, -kB}, {0, kB, kA}, {0, kB, -kA}, {0, -kB, kA},
-    {0, -kB, -kA}, {kB, kA, 0}, {-kB, kA, 0}, {kB, -kA, 0}, {-kB, -kA, 0}};
+constexpr glm::vec3 kCorners[12] = {{-kA, 0, kB}, {kA, 0, kB}, {-kA, 0, -kB}, {kA, 0, -kB}, {0, kB, kA}, {0, kB, -kA},
+    {0, -kB, kA}, {0, -kB, -kA}, {kB, kA, 0}, {-kB, kA, 0}, {kB, -kA, 0}, {-kB, -kA, 0}};
 
 using Triangle = std::array<unsigned short, 3>;
 
-constexpr Triangle kFaces[20] = {{0, 4, 1}, {0, 9, 4}, {9, 5, 4}, {4, 5, 8}, {4, 8, 1}, {8, 10, 1}, {8, 3, 10}, {5, 3, 8}, {5, 2, 3},
-    {2, 7, 3}, {7, 10, 3}, {7, 6, 10}, {7, 11, 6}, {11, 0, 6}, {0, 1, 6}, {6, 1, 10}, {9, 0, 11}, {9, 11, 2}, {9, 2, 5}, {7, 2, 11}};
+constexpr Triangle kFaces[20] = {{0, 4, 1}, {0, 9, 4}, {9, 5, 4}, {4, 5, 8}, {4, 8, 1}, {8, 10, 1}, {8, 3, 10},
+    {5, 3, 8}, {5, 2, 3}, {2, 7, 3}, {7, 10, 3}, {7, 6, 10}, {7, 11, 6}, {11, 0, 6}, {0, 1, 6}, {6, 1, 10}, {9, 0, 11},
+    {9, 11, 2}, {9, 2, 5}, {7, 2, 11}};
 
 unsigned short appendMidpoint(std::vector<glm::vec3>& positions, unsigned short from, unsigned short to, float radius)
 {
@@ -51,5 +52,6 @@ void createIcosphere(Mesh& mesh, float radius)
     subdivide(mesh.positions, triangles, radius);
 
     for (const glm::vec3& position : mesh.positions) mesh.normals.push_back(glm::normalize(position));
-    for (const Triangle& triangle : triangles) mesh.indices.insert(mesh.indices.end(), triangle.begin(), triangle.end());
+    for (const Triangle& triangle : triangles)
+        mesh.indices.insert(mesh.indices.end(), triangle.begin(), triangle.end());
 }

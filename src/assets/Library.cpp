@@ -1,7 +1,7 @@
 #include "assets/Library.h"
 
-#include "app/base/Logger.h"
 #include "assets/ModelImport.h"
+#include "base/Logger.h"
 #include "gpu/Shaderprogram.h"
 #include "gpu/Texture.h"
 #include "scene/Mesh.h"

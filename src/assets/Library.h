@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/ILibraryObject.h"
+#include "base/ILibraryObject.h"
 
 #include <map>
 #include <string>
@@ -10,28 +10,30 @@ class Mesh;
 class Shaderprogram;
 class Texture;
 
-/// The registry of loaded assets: programs, textures and meshes, each under one short name, whatever its kind. Created on first use,
-/// never destroyed, and its entries with it. The loaders of programs and textures need the GL context.
+/// The registry of loaded assets: programs, textures and meshes, each under one short name, whatever its kind. Created
+/// on first use, never destroyed, and its entries with it. The loaders of programs and textures need the GL context.
 class Library {
 public:
     static Library* getInstance();
 
-    /// Reads a .shader file (pairs of a stage keyword and a GLSL file), builds the program and registers it. A name that is already
-    /// registered keeps its object, which gets the new program. A file that cannot be opened or an unknown keyword gives one line at
-    /// level 0 and ends the load: a new name is not registered, an old one is left with an unusable program.
+    /// Reads a .shader file (pairs of a stage keyword and a GLSL file), builds the program and registers it. A name
+    /// that is already registered keeps its object, which gets the new program. A file that cannot be opened or an
+    /// unknown keyword gives one line at level 0 and ends the load: a new name is not registered, an old one is left
+    /// with an unusable program.
     void loadShader(const std::string& name, const std::string& path);
 
     /// Reads a TGA file and registers it. A name that is already registered keeps its object, which gets the new image.
     void loadTexture(const std::string& name, const std::string& path);
 
-    /// Imports the first mesh of a model file and registers it, unless the name is taken. A file without a mesh is reported and not registered.
+    /// Imports the first mesh of a model file and registers it, unless the name is taken. A file without a mesh is
+    /// reported and not registered.
     void loadModel(const std::string& name, const std::string& path);
 
     /// Loads the game's three model files: "Duck", "Partyhat", "Camera".
     void loadModels();
 
-    // Null when the name is not registered; then, if verbose, with a log line at level 1. The caller asks with the kind that the name
-    // was loaded as.
+    // Null when the name is not registered; then, if verbose, with a log line at level 1. The caller asks with the kind
+    // that the name was loaded as.
     Shaderprogram* getShaderprogram(const std::string& name, bool verbose = true) const;
     Texture* getTexture(const std::string& name, bool verbose = true) const;
     Mesh* getMesh(const std::string& name, bool verbose = true) const;

@@ -9,11 +9,12 @@
 
 class Mesh;
 
-/// The per-vertex arrays of a mesh that a program can ask for, with the attribute names "position", "normal" and "texcoord".
+/// The per-vertex arrays of a mesh that a program can ask for, with the attribute names "position", "normal" and
+/// "texcoord".
 enum class MeshAttribute { Position, Normal, Texcoord };
 
-/// A mesh on the GPU: its layout, vertex buffer and index buffer, uploaded in the constructor (GL_STATIC_DRAW). The mesh is not needed
-/// afterwards. It must outlive the models that draw it.
+/// A mesh on the GPU: its layout, vertex buffer and index buffer, uploaded in the constructor (GL_STATIC_DRAW). The
+/// mesh is not needed afterwards. It must outlive the models that draw it.
 class MeshGeometry {
 public:
     MeshGeometry(const Mesh& mesh, std::initializer_list<MeshAttribute> attributes);

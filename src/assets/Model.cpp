@@ -17,7 +17,8 @@ bool Model::isDrawable() const
 
 bool Model::hasGeometry() const
 {
-    return vao != 0 && vertexBuffer && vertexBuffer->getVertexCount() > 0 && (!indexBuffer || indexBuffer->getCount() > 0);
+    return vao != 0 && vertexBuffer && vertexBuffer->getVertexCount() > 0 &&
+        (!indexBuffer || indexBuffer->getCount() > 0);
 }
 
 void Model::bindShader() const

@@ -18,23 +18,26 @@ class VertexBuffer;
 /// How near the eye a model tends to be. Nearer layers are drawn first, so that what they hide is never shaded.
 enum class ModelLayer { Things, Ground, Sky };
 
-/// The drawable attachment of a scene node: a program, buffers with a vertex array, and a table of uniform sources. Plain data for the
-/// passes, filled by the concrete kind or by whoever builds the model. It releases none of the GL objects that it points at.
+/// The drawable attachment of a scene node: a program, buffers with a vertex array, and a table of uniform sources.
+/// Plain data for the passes, filled by the concrete kind or by whoever builds the model. It releases none of the GL
+/// objects that it points at.
 ///
-/// A pass draws it with bindShader(), applyUniforms(), draw(), and skips it unless isDrawable(): a model whose program or mesh failed
-/// to load stays in the scene undrawn.
+/// A pass draws it with bindShader(), applyUniforms(), draw(), and skips it unless isDrawable(): a model whose program
+/// or mesh failed to load stays in the scene undrawn.
 class Model : public Attachable {
 public:
     void update() override {}
     void accept(INodeVisitor* visitor) override { visitor->visitModel(this); }
     void acceptRelease(INodeVisitor* visitor) override { visitor->releaseModel(this); }
 
-    /// Issues the draw call with the current program; leaves no vertex array bound. Nothing is drawn unless isDrawable().
+    /// Issues the draw call with the current program; leaves no vertex array bound. Nothing is drawn unless
+    /// isDrawable().
     virtual void draw();
 
     virtual std::string getName() const { return name; }
 
-    /// Whether there is a linked program, a vertex array and at least one vertex. Cheap; may change at each reload of the program.
+    /// Whether there is a linked program, a vertex array and at least one vertex. Cheap; may change at each reload of
+    /// the program.
     bool isDrawable() const;
 
     /// Whether there is something to draw with a pass's own program, such as the light's depth pass.
@@ -43,11 +46,13 @@ public:
     void bindShader() const;    ///< makes the program current; none when it is missing or not usable
     void applyUniforms() const; ///< every entry of the table, in name order, into the program, which is current
 
-    void createVAO(const VertexAttributeList* attributes); ///< for the program and the vertex buffer; the list is borrowed
-    void completeVAO();                                    ///< the same once more, for a model that was made while its program was broken
-    void setGeometry(MeshGeometry& geometry);              ///< both buffers, and a vertex array for the program
+    void
+    createVAO(const VertexAttributeList* attributes); ///< for the program and the vertex buffer; the list is borrowed
+    void completeVAO(); ///< the same once more, for a model that was made while its program was broken
+    void setGeometry(MeshGeometry& geometry); ///< both buffers, and a vertex array for the program
 
-    /// Copies the renderer's sources under the names that shaders use: "view", "projection", "normalMatrix" (the last on demand).
+    /// Copies the renderer's sources under the names that shaders use: "view", "projection", "normalMatrix" (the last
+    /// on demand).
     void bindCameraUniforms(bool withNormalMatrix);
 
     void setName(const std::string& newName) { name = newName; }

@@ -1,8 +1,8 @@
 #include "assets/ModelImport.h"
 
-#include "app/base/Assert.h"
-#include "app/base/Logger.h"
 #include "assets/ColladaCheck.h"
+#include "base/Assert.h"
+#include "base/Logger.h"
 #include "scene/Mesh.h"
 
 #include <assimp/Importer.hpp>
@@ -23,7 +23,8 @@ glm::vec3 toVec3(const aiVector3D& v)
     return {v.x, v.y, v.z};
 }
 
-/// The importer's reason, in one line that names the file. It may quote a whole array of the file, of which the start will do.
+/// The importer's reason, in one line that names the file. It may quote a whole array of the file, of which the start
+/// will do.
 void reportFailure(const std::string& path, const std::string& reason)
 {
     const bool namesFile = reason.find(path) != std::string::npos;

@@ -17,14 +17,16 @@ void rebuildNormals(Mesh& mesh)
 } // namespace
 
 PartyhatModel::PartyhatModel(const glm::vec4& hatColor, QKD_Game* game)
-    : mesh(Library::getInstance()->getMesh("Partyhat")), color(hatColor), owner(game), transformation(this), colourSource(hatColor)
+    : mesh(Library::getInstance()->getMesh("Partyhat")), color(hatColor), owner(game), transformation(this),
+      colourSource(hatColor)
 {
     bindCameraUniforms(true);
     uniforms["color"] = &colourSource;
     uniforms["model"] = &transformation;
     if (!mesh) return;
     rebuildNormals(*mesh);
-    geometry = std::make_unique<MeshGeometry>(*mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal});
+    geometry = std::make_unique<MeshGeometry>(*mesh,
+        std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal});
     setGeometry(*geometry);
 }
 

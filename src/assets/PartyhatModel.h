@@ -11,8 +11,8 @@
 class Mesh;
 class QKD_Game;
 
-/// A leader's hat: the library's mesh "Partyhat". Each construction rebuilds the shared mesh's normals for its lying-down modelling,
-/// always to the same result.
+/// A leader's hat: the library's mesh "Partyhat". Each construction rebuilds the shared mesh's normals for its
+/// lying-down modelling, always to the same result.
 class PartyhatModel final : public CelModel {
 public:
     PartyhatModel(const glm::vec4& hatColor, QKD_Game* game);

@@ -1,5 +1,5 @@
-#include "app/base/Logger.h"
 #include "assets/Library.h"
+#include "base/Logger.h"
 #include "gpu/Shader.h"
 #include "gpu/Shaderprogram.h"
 
@@ -90,5 +90,6 @@ void Library::loadShader(const std::string& name, const std::string& path)
         program = fresh.get();
     }
     program->setSource(path);
-    if (buildProgram(*program, path) && insert(name, program)) static_cast<void>(fresh.release()); // the library owns it now
+    if (buildProgram(*program, path) && insert(name, program))
+        static_cast<void>(fresh.release()); // the library owns it now
 }

@@ -1,6 +1,6 @@
 #include "audio/AudioSystem.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 
 #include <cstdlib>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "audio/Sound.h"
-#include "platform/SoundOutput.h"
+#include "audio/SoundOutput.h"
 
 #include <map>
 #include <memory>
@@ -9,8 +9,9 @@
 #include <utility>
 #include <vector>
 
-/// The game's sounds by name, and the output that they are heard from. One for the process; init comes first, then update once per frame.
-/// Nothing here stops the game: what fails is logged, and without a sound device all goes on in silence.
+/// The game's sounds by name, and the output that they are heard from. One for the process; init comes first, then
+/// update once per frame. Nothing here stops the game: what fails is logged, and without a sound device all goes on in
+/// silence.
 class AudioSystem {
 public:
     /// Created on the first call, never destroyed; at the end of the process its device is given back.

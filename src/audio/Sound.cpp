@@ -1,6 +1,6 @@
 #include "audio/Sound.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 
 #include <cmath>
 
@@ -13,7 +13,8 @@ constexpr double kPitchUnit = 44100.0;    // hertz
 
 } // namespace
 
-Sound::Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file) : system(ownSystem), name(ownName)
+Sound::Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file)
+    : system(ownSystem), name(ownName)
 {
     if (system->createSound(file, sound) != kSoundOk) logLine(0) << "Error, initializing Sound: " << name << std::endl;
 }

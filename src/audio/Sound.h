@@ -1,11 +1,12 @@
 #pragma once
 
-#include "platform/SoundOutput.h"
+#include "audio/SoundOutput.h"
 
 #include <string>
 
-/// One sound of the game, loaded from a file. Owned by the AudioSystem, or by whoever had it made by createSound; the output must outlive
-/// it. A sound whose file could not be loaded stays silent: each play logs its failure, setPitch does nothing that is heard.
+/// One sound of the game, loaded from a file. Owned by the AudioSystem, or by whoever had it made by createSound; the
+/// output must outlive it. A sound whose file could not be loaded stays silent: each play logs its failure, setPitch
+/// does nothing that is heard.
 class Sound {
 public:
     /// Loads the file. On failure logs "Error, initializing Sound: " with the name.
@@ -19,7 +20,8 @@ public:
     /// Starts the sound on a new channel, which setPitch then goes for; what played before plays on. Volume 0 to 1.
     void play(bool loop, float volume);
 
-    /// Moves the pitch by one step of 0.01 towards the target (-1 to 1) and plays at (pitch + 3) x 44100 Hz from now on. Once per frame.
+    /// Moves the pitch by one step of 0.01 towards the target (-1 to 1) and plays at (pitch + 3) x 44100 Hz from now
+    /// on. Once per frame.
     void setPitch(float target);
 
 private:

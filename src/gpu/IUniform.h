@@ -5,8 +5,8 @@
 
 class Texture;
 
-/// A uniform source: delivers the current value of one shader uniform whenever it is asked. Owned by whoever created it; the tables
-/// that point at it only borrow it.
+/// A uniform source: delivers the current value of one shader uniform whenever it is asked. Owned by whoever created
+/// it; the tables that point at it only borrow it.
 template <class T>
 class IUniform {
 public:
@@ -23,4 +23,5 @@ struct TextureUniform {
 };
 
 /// Any of the four kinds of uniform source. A default-made one holds a null source, which sets nothing.
-using UniformVariant = boost::variant<IUniform<glm::mat4>*, IUniform<glm::mat3>*, IUniform<glm::vec4>*, IUniform<TextureUniform>*>;
+using UniformVariant =
+    boost::variant<IUniform<glm::mat4>*, IUniform<glm::mat3>*, IUniform<glm::vec4>*, IUniform<TextureUniform>*>;

@@ -1,6 +1,6 @@
 #include "gpu/Shader.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 
 Shader::Shader(GLenum type, const std::string& source) : handle(glCreateShader(type))
 {

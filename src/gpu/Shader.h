@@ -4,12 +4,13 @@
 
 #include <string>
 
-/// One stage of a program: a GL shader object, compiled in the constructor (glCreateShader, glCompileShader). Needed only until the
-/// program that it was attached to is linked: GL keeps an attached stage alive after its name is deleted.
+/// One stage of a program: a GL shader object, compiled in the constructor (glCreateShader, glCompileShader). Needed
+/// only until the program that it was attached to is linked: GL keeps an attached stage alive after its name is
+/// deleted.
 class Shader {
 public:
-    /// type is a GL stage such as GL_VERTEX_SHADER; source counts up to its first NUL character. The compiler's messages go to the
-    /// log at level 2.
+    /// type is a GL stage such as GL_VERTEX_SHADER; source counts up to its first NUL character. The compiler's
+    /// messages go to the log at level 2.
     Shader(GLenum type, const std::string& source);
     ~Shader();
     Shader(const Shader&) = delete;

@@ -1,6 +1,6 @@
 #include "gpu/Shaderprogram.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 #include "gpu/Shader.h"
 #include "gpu/Texture.h"
 
@@ -129,7 +129,9 @@ bool Shaderprogram::acceptsMode(GLenum mode) const
 {
     if ((mode == GL_PATCHES) == tessellates) return true;
     if (!modeReported) {
-        logLine(0) << source << (tessellates ? " draws patches only" : " lacks the tessellation stages that its model needs") << std::endl;
+        logLine(0) << source
+                   << (tessellates ? " draws patches only" : " lacks the tessellation stages that its model needs")
+                   << std::endl;
         modeReported = true;
     }
     return false;

@@ -1,6 +1,6 @@
 #include "gpu/Texture.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 #include "platform/Image.h"
 
 #include <algorithm>
@@ -86,8 +86,8 @@ void Texture::load(const std::string& path)
     unbind();
 }
 
-/// The whole chain of mipmaps, each half as large as the one before, as glGenerateMipmap would make it. That call has a software driver
-/// compile a program for each format first, which takes longer than loading everything else.
+/// The whole chain of mipmaps, each half as large as the one before, as glGenerateMipmap would make it. That call has a
+/// software driver compile a program for each format first, which takes longer than loading everything else.
 void Texture::uploadImage(const Image& image)
 {
     const GLenum format = image.channels == 4 ? GL_RGBA : GL_RGB;
@@ -95,8 +95,8 @@ void Texture::uploadImage(const Image& image)
     Image half;
     const Image* next = &image;
     for (GLint level = 0;; ++level) {
-        glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(format), next->width, next->height, 0, format, GL_UNSIGNED_BYTE,
-            next->pixels.data());
+        glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(format), next->width, next->height, 0, format,
+            GL_UNSIGNED_BYTE, next->pixels.data());
         if (next->width == 1 && next->height == 1) return;
         half = halved(*next);
         next = &half;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/ILibraryObject.h"
+#include "base/ILibraryObject.h"
 
 #include <GL/glew.h>
 
@@ -25,8 +25,9 @@ public:
 
     void setFilter(GLint magFilter, GLint minFilter);
 
-    /// Reads a file into a fresh texture object: sides raised to powers of two, repeating, trilinear, with mipmaps. A file that is
-    /// missing or broken gives one log line at level 0 and leaves the object without an image, which samples as black.
+    /// Reads a file into a fresh texture object: sides raised to powers of two, repeating, trilinear, with mipmaps. A
+    /// file that is missing or broken gives one log line at level 0 and leaves the object without an image, which
+    /// samples as black.
     void load(const std::string& path);
 
 private:

@@ -1,6 +1,6 @@
 #include "gpu/VertexAttributeList.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 #include "gpu/Shaderprogram.h"
 #include "gpu/VertexBuffer.h"
 

@@ -21,8 +21,9 @@ struct VertexAttribute {
     std::string name; ///< as in the vertex shader; not empty
 };
 
-/// The layout of one interleaved vertex. Attributes lie in ascending order of their names, whatever order they were added in.
-/// Add all attributes, then build vertex buffers and vertex arrays on the list; it must not change afterwards and outlives the buffers.
+/// The layout of one interleaved vertex. Attributes lie in ascending order of their names, whatever order they were
+/// added in. Add all attributes, then build vertex buffers and vertex arrays on the list; it must not change afterwards
+/// and outlives the buffers.
 class VertexAttributeList {
 public:
     /// A name that is already there keeps its first type.
@@ -37,9 +38,10 @@ public:
     /// Bytes of one vertex.
     unsigned getStride() const;
 
-    /// A new vertex array object that feeds the buffer to the program's attributes, by the separate vertex format (binding point 0).
-    /// An attribute that the program lacks is reported at level 1 and left out. The caller deletes it with deleteVertexArray().
-    /// 0, which the draw wrappers skip, when the program or the buffer is null or the program is not usable.
+    /// A new vertex array object that feeds the buffer to the program's attributes, by the separate vertex format
+    /// (binding point 0). An attribute that the program lacks is reported at level 1 and left out. The caller deletes
+    /// it with deleteVertexArray(). 0, which the draw wrappers skip, when the program or the buffer is null or the
+    /// program is not usable.
     GLuint createVAO(const Shaderprogram* program, const VertexBuffer* buffer) const;
 
 private:

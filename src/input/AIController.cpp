@@ -1,6 +1,6 @@
 #include "input/AIController.h"
 
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -84,7 +84,8 @@ float AIController::getAxis(int axis)
 {
     if (!target) return 0;
     if (axis == kThrottleAxis) return angle > kFullThrottleAngle ? 1.0f : std::clamp(1 - angle / 360, -1.0f, 1.0f);
-    if (axis == kSteeringAxis) return std::clamp((kLeastSteering + (1 - kLeastSteering) * angle / 180) * sign(side), -1.0f, 1.0f);
+    if (axis == kSteeringAxis)
+        return std::clamp((kLeastSteering + (1 - kLeastSteering) * angle / 180) * sign(side), -1.0f, 1.0f);
     return 0;
 }
 

@@ -3,8 +3,8 @@
 #include "input/IPilot.h"
 #include "input/InputDevice.h"
 
-/// The computer's own device: picks a target, measures once a frame where it lies, and answers the driver's questions from that. Owned
-/// by the player it drives; take() once, before the first update().
+/// The computer's own device: picks a target, measures once a frame where it lies, and answers the driver's questions
+/// from that. Owned by the player it drives; take() once, before the first update().
 class AIController : public InputDevice {
 public:
     explicit AIController(int number); ///< the index that players see is one less

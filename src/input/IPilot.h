@@ -2,7 +2,8 @@
 
 #include <glm/glm.hpp>
 
-/// A car as a computer driver sees it: its own or an opponent's. Poses are those of the last scene update, in world space.
+/// A car as a computer driver sees it: its own or an opponent's. Poses are those of the last scene update, in world
+/// space.
 class IPilot {
 public:
     virtual glm::vec3 getPosition() const = 0;         ///< of the chassis
@@ -18,7 +19,8 @@ protected:
 /// Who there is to chase.
 class IHunt {
 public:
-    /// The opponent that suits the hunter best: near and ahead. Null when there is none but the excluded one (which may be null).
+    /// The opponent that suits the hunter best: near and ahead. Null when there is none but the excluded one (which may
+    /// be null).
     virtual const IPilot* findTarget(const IPilot& hunter, const IPilot* excluded) const = 0;
 
 protected:

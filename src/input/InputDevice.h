@@ -3,8 +3,9 @@
 #include <cstdint>
 #include <string>
 
-/// What a participant drives with: half a keyboard, a game-pad, or the computer's own controller. Turns the hardware's state into seven
-/// buttons and up to four axes. Owned by whoever created it and alive for the whole run; update() once a frame, then read.
+/// What a participant drives with: half a keyboard, a game-pad, or the computer's own controller. Turns the hardware's
+/// state into seven buttons and up to four axes. Owned by whoever created it and alive for the whole run; update() once
+/// a frame, then read.
 class InputDevice {
 public:
     /// The buttons, the same on every device.

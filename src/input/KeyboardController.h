@@ -2,8 +2,8 @@
 
 #include "input/InputDevice.h"
 
-/// One half of the keyboard: the arrow keys with K, L and Enter, or W, A, S, D with 1, 2 and Tab. Always connected; cannot rumble.
-/// Throttle and steering are all or nothing: the car's own input smoothing makes ramps of them.
+/// One half of the keyboard: the arrow keys with K, L and Enter, or W, A, S, D with 1, 2 and Tab. Always connected;
+/// cannot rumble. Throttle and steering are all or nothing: the car's own input smoothing makes ramps of them.
 class KeyboardController : public InputDevice {
 public:
     /// layout: 1 for the arrow keys, 2 for W, A, S, D.

@@ -1,14 +1,14 @@
 #include "input/XBOXController.h"
 
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 
 namespace {
 
 constexpr int kButtonCount = 7;
 
 // By InputDevice::Button.
-constexpr GamePadState::Button kButtons[kButtonCount] = {GamePadState::kUp, GamePadState::kDown, GamePadState::kLeft, GamePadState::kRight,
-    GamePadState::kA, GamePadState::kB, GamePadState::kStart};
+constexpr GamePadState::Button kButtons[kButtonCount] = {GamePadState::kUp, GamePadState::kDown, GamePadState::kLeft,
+    GamePadState::kRight, GamePadState::kA, GamePadState::kB, GamePadState::kStart};
 
 constexpr float kTriggerRange = 255.0f;
 constexpr float kStickRange = 32768.0f;

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "input/GamePads.h"
 #include "input/InputDevice.h"
-#include "platform/GamePads.h"
 
-/// A game-pad: triggers for throttle and brake, the left stick for steering, A to shoot, B for the hand brake. Its state is that of
-/// the last update() or isConnected(); unplugged, nothing is pressed and every axis at rest.
+/// A game-pad: triggers for throttle and brake, the left stick for steering, A to shoot, B for the hand brake. Its
+/// state is that of the last update() or isConnected(); unplugged, nothing is pressed and every axis at rest.
 class XBOXController : public InputDevice {
 public:
     /// number: 1 to 4, the pad's slot. The pads are borrowed.

@@ -11,7 +11,8 @@ PxU32 collidesWith(CollisionGroup group)
 {
     switch (group) {
     case kGroundGroup: return kChassisGroup | kObstacleGroup | kDrivableObstacleGroup;
-    case kWheelGroup: return kWheelGroup | kChassisGroup | kObstacleGroup; // the suspension rays carry the wheels, not the ground
+    case kWheelGroup:
+        return kWheelGroup | kChassisGroup | kObstacleGroup; // the suspension rays carry the wheels, not the ground
     case kChassisGroup:
     case kObstacleGroup: return kEveryGroup;
     case kDrivableObstacleGroup: return 0;
@@ -26,8 +27,8 @@ PxFilterData simulationFilter(CollisionGroup group)
     return {group, collidesWith(group), 0, 0};
 }
 
-PxFilterFlags filterCollisions(PxFilterObjectAttributes attributesA, PxFilterData a, PxFilterObjectAttributes attributesB, PxFilterData b,
-    PxPairFlags& pairFlags, const void*, PxU32)
+PxFilterFlags filterCollisions(PxFilterObjectAttributes attributesA, PxFilterData a,
+    PxFilterObjectAttributes attributesB, PxFilterData b, PxPairFlags& pairFlags, const void*, PxU32)
 {
     if (PxFilterObjectIsTrigger(attributesA) || PxFilterObjectIsTrigger(attributesB)) {
         pairFlags = PxPairFlag::eTRIGGER_DEFAULT;

@@ -2,8 +2,9 @@
 
 #include <PxFiltering.h>
 
-/// Who collides with whom. Each shape's simulation record holds its own group's bit in word0 and the groups that it touches in word1;
-/// word2 adds pair flags, bit 0 of word3 asks for swept contacts (no shape of the game uses these two).
+/// Who collides with whom. Each shape's simulation record holds its own group's bit in word0 and the groups that it
+/// touches in word1; word2 adds pair flags, bit 0 of word3 asks for swept contacts (no shape of the game uses these
+/// two).
 enum CollisionGroup : physx::PxU32 {
     kGroundGroup = 1,
     kWheelGroup = 2,
@@ -15,7 +16,8 @@ enum CollisionGroup : physx::PxU32 {
 /// The simulation record of a shape of that group. A drivable obstacle touches nothing of its own accord.
 physx::PxFilterData simulationFilter(CollisionGroup group);
 
-/// The scene's filter shader. A pair is suppressed when neither side lists the other; when both do, its touches are reported.
+/// The scene's filter shader. A pair is suppressed when neither side lists the other; when both do, its touches are
+/// reported.
 physx::PxFilterFlags filterCollisions(physx::PxFilterObjectAttributes attributesA, physx::PxFilterData a,
-    physx::PxFilterObjectAttributes attributesB, physx::PxFilterData b, physx::PxPairFlags& pairFlags, const void* constants,
-    physx::PxU32 constantsSize);
+    physx::PxFilterObjectAttributes attributesB, physx::PxFilterData b, physx::PxPairFlags& pairFlags,
+    const void* constants, physx::PxU32 constantsSize);

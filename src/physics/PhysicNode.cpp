@@ -1,6 +1,6 @@
 #include "physics/PhysicNode.h"
 
-#include "app/base/Assert.h"
+#include "base/Assert.h"
 #include "physics/PhysxManager.h"
 
 #include <PxPhysicsAPI.h>

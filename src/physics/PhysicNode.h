@@ -7,10 +7,11 @@ class PxRigidActor;
 class PxShape;
 }
 
-/// A scene node that follows a rigid actor, or one of its shapes. It belongs under a node whose world transform is the identity.
+/// A scene node that follows a rigid actor, or one of its shapes. It belongs under a node whose world transform is the
+/// identity.
 ///
-/// The creator sets `actor` (and `shape`) right after construction and puts the node into the tree. Nothing flows from the node to the
-/// actor except through setPosition, setLinearVelocity and destroy.
+/// The creator sets `actor` (and `shape`) right after construction and puts the node into the tree. Nothing flows from
+/// the node to the actor except through setPosition, setLinearVelocity and destroy.
 class PhysicNode : public Node {
 public:
     using Node::Node;

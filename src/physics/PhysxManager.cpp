@@ -1,6 +1,6 @@
 #include "physics/PhysxManager.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 #include "physics/CollisionGroups.h"
 #include "physics/PhysicNode.h"
 #include "physics/SampleVehicle_SceneQuery.h"
@@ -17,7 +17,8 @@ using namespace physx;
 
 namespace {
 
-const PxVec3 kSceneGravity(0, -29.43f, 0); // bodies move one step a pass while game time runs three times faster: 3 x 9.81
+const PxVec3 kSceneGravity(0, -29.43f,
+    0); // bodies move one step a pass while game time runs three times faster: 3 x 9.81
 
 constexpr float staticFrictions[] = {0.9f, 0.9f, 0.9f, 0.9f};
 constexpr float dynamicFrictions[] = {0.9f, 0.9f, 0.9f, 0.9f};
@@ -99,14 +100,17 @@ PhysxManager::~PhysxManager()
 
 void PhysxManager::createSdk()
 {
-    foundation = required(PxCreateFoundation(PX_PHYSICS_VERSION, allocator(), errorCallback()), "Could not create Phyx Foundation");
+    foundation = required(PxCreateFoundation(PX_PHYSICS_VERSION, allocator(), errorCallback()),
+        "Could not create Phyx Foundation");
     visualDebugger = PxCreatePvd(*foundation);
     if (!visualDebugger) logLine(0) << "PxProfileZoneManager::createProfileZoneManager failed!" << std::endl;
 
     const PxTolerancesScale scale;
-    physics = required(PxCreatePhysics(PX_PHYSICS_VERSION, *foundation, scale, true, visualDebugger), "PxCreatePhysics failed!");
+    physics = required(PxCreatePhysics(PX_PHYSICS_VERSION, *foundation, scale, true, visualDebugger),
+        "PxCreatePhysics failed!");
     if (!PxInitExtensions(*physics, visualDebugger)) logLine(0) << "PxInitExtensions failed!" << std::endl;
-    cooking = required(PxCreateCooking(PX_PHYSICS_VERSION, *foundation, PxCookingParams(scale)), "PxCreateCooking failed!");
+    cooking =
+        required(PxCreateCooking(PX_PHYSICS_VERSION, *foundation, PxCookingParams(scale)), "PxCreateCooking failed!");
 }
 
 void PhysxManager::createScene(PxSimulationEventCallback* game)
@@ -165,8 +169,9 @@ void PhysxManager::updateVehicles(float dt, const PxVec3& gravity)
 VehicleHandle* PhysxManager::createVehicle()
 {
     const auto x = static_cast<float>(std::rand() % kVehicleStartRange);
-    return vehicleManager->create4WVehicle(*scene, *physics, *cooking, *materials[kGameMaterial], kChassisMass, wheelCentreOffsets.data(),
-        chassisConvexMesh, wheelConvexMeshes.data(), PxTransform(PxVec3(x, kVehicleStartHeight, 0)), true);
+    return vehicleManager->create4WVehicle(*scene, *physics, *cooking, *materials[kGameMaterial], kChassisMass,
+        wheelCentreOffsets.data(), chassisConvexMesh, wheelConvexMeshes.data(),
+        PxTransform(PxVec3(x, kVehicleStartHeight, 0)), true);
 }
 
 PxMaterial& PhysxManager::getBallMaterial()
@@ -179,8 +184,8 @@ PxMaterial& PhysxManager::getBallMaterial()
 
 PhysicNode* PhysxManager::createBall()
 {
-    PxRigidDynamic* actor =
-        PxCreateDynamic(*physics, PxTransform(kBallStart), PxSphereGeometry(kBallRadius), getBallMaterial(), kBallDensity);
+    PxRigidDynamic* actor = PxCreateDynamic(*physics, PxTransform(kBallStart), PxSphereGeometry(kBallRadius),
+        getBallMaterial(), kBallDensity);
     std::array<PxShape*, 16> shapeBuffer;
     const PxU32 count = actor->getShapes(shapeBuffer.data(), static_cast<PxU32>(shapeBuffer.size()));
     for (PxU32 i = 0; i < count; ++i) {
@@ -200,7 +205,8 @@ Terrain* PhysxManager::createTerrain()
     PxFilterData queryFilter;
     setupDrivableSurface(queryFilter);
     terrains.push_back(std::make_unique<Terrain>());
-    terrains.back()->createPhysics(*physics, *cooking, *scene, *materials[kGameMaterial], simulationFilter(kGroundGroup), queryFilter);
+    terrains.back()->createPhysics(*physics, *cooking, *scene, *materials[kGameMaterial],
+        simulationFilter(kGroundGroup), queryFilter);
     return terrains.back().get();
 }
 

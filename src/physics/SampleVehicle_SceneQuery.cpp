@@ -1,6 +1,6 @@
 #include "physics/SampleVehicle_SceneQuery.h"
 
-#include "app/base/Assert.h"
+#include "base/Assert.h"
 
 #include <PxPhysicsAPI.h>
 
@@ -53,8 +53,8 @@ VehicleSceneQueryData* VehicleSceneQueryData::allocate(PxU32 wheels)
     const std::size_t headerBytes = alignedUp(sizeof(VehicleSceneQueryData));
     const std::size_t resultBytes = alignedUp(sizeof(PxRaycastQueryResult) * wheels);
     const std::size_t hitBytes = sizeof(PxRaycastHit) * wheels;
-    void* memory = PxGetFoundation().getAllocatorCallback().allocate(headerBytes + resultBytes + hitBytes, "PxVehicleNWSceneQueryData",
-        "SampleVehicle_SceneQuery", __LINE__);
+    void* memory = PxGetFoundation().getAllocatorCallback().allocate(headerBytes + resultBytes + hitBytes,
+        "PxVehicleNWSceneQueryData", "SampleVehicle_SceneQuery", __LINE__);
     auto* block = static_cast<std::byte*>(memory);
 
     auto* data = new (block) VehicleSceneQueryData{};

@@ -18,8 +18,8 @@ void setupVehicleShape(physx::PxFilterData& filterData); ///< cars do not drive 
 physx::PxQueryHitType::Enum filterWheelRay(physx::PxFilterData query, physx::PxFilterData object, const void* constants,
     physx::PxU32 constantsSize, physx::PxHitFlags& hitFlags);
 
-/// The buffers that the wheels' rays write into: a header, the results and the hits in one block from the SDK's allocator.
-/// allocate() and free() in pairs, both while the foundation exists.
+/// The buffers that the wheels' rays write into: a header, the results and the hits in one block from the SDK's
+/// allocator. allocate() and free() in pairs, both while the foundation exists.
 struct VehicleSceneQueryData {
     physx::PxRaycastQueryResult* results;
     physx::PxRaycastHit* hits;

@@ -1,6 +1,6 @@
 #include "physics/SampleVehicle_VehicleCooking.h"
 
-#include "app/base/Assert.h"
+#include "base/Assert.h"
 
 #include <PxPhysicsAPI.h>
 
@@ -29,12 +29,14 @@ PxConvexMesh* createConvexMesh(const PxVec3* points, PxU32 count, PxPhysics& phy
 
 } // namespace
 
-PxConvexMesh* createWheelConvexMesh(float width, float radius, PxU32 numCirclePoints, PxPhysics& physics, PxCooking& cooking)
+PxConvexMesh* createWheelConvexMesh(float width, float radius, PxU32 numCirclePoints, PxPhysics& physics,
+    PxCooking& cooking)
 {
     QKD_ASSERT(numCirclePoints < MAX_NUM_VERTS_IN_CIRCLE, "numCirclePoints<MAX_NUM_VERTS_IN_CIRCLE");
     std::vector<PxVec3> points;
     for (PxU32 i = 0; i < numCirclePoints; ++i) {
-        const float angle = static_cast<float>(i) * 2.0f * std::numbers::pi_v<float> / static_cast<float>(numCirclePoints);
+        const float angle =
+            static_cast<float>(i) * 2.0f * std::numbers::pi_v<float> / static_cast<float>(numCirclePoints);
         const float y = radius * std::cos(angle), z = radius * std::sin(angle);
         points.emplace_back(-width / 2, y, z);
         points.emplace_back(width / 2, y, z);

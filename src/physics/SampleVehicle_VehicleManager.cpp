@@ -1,6 +1,6 @@
 #include "physics/SampleVehicle_VehicleManager.h"
 
-#include "app/base/Assert.h"
+#include "base/Assert.h"
 #include "physics/CollisionGroups.h"
 #include "physics/SampleVehicle_SceneQuery.h"
 #include "physics/VehicleParameters.h"
@@ -30,7 +30,8 @@ const PxVehiclePadSmoothingData kPadSmoothing = {{6.0f, 6.0f, 12.0f, 2.5f, 2.5f}
 constexpr PxReal kSteerVsForwardSpeed[] = {0, 0.9f, 5, 0.7f, 30, 0.5f, 120, 0.3f};
 const PxFixedSizeLookupTable<8> kSteerVsForwardSpeedTable(kSteerVsForwardSpeed, 4);
 
-PxVehicleDrivableSurfaceToTireFrictionPairs* createFrictionPairs(const PxMaterial* const* materials, const PxU32* surfaceTypes)
+PxVehicleDrivableSurfaceToTireFrictionPairs* createFrictionPairs(const PxMaterial* const* materials,
+    const PxU32* surfaceTypes)
 {
     const PxMaterial* surfaceMaterials[kSurfaceTypes];
     PxVehicleDrivableSurfaceType types[kSurfaceTypes];
@@ -42,7 +43,8 @@ PxVehicleDrivableSurfaceToTireFrictionPairs* createFrictionPairs(const PxMateria
     auto* pairs = PxVehicleDrivableSurfaceToTireFrictionPairs::allocate(kTireTypes, kSurfaceTypes);
     pairs->setup(kTireTypes, kSurfaceTypes, surfaceMaterials, types);
     for (PxU32 surface = 0; surface < kSurfaceTypes; ++surface) {
-        for (PxU32 tire = 0; tire < kTireTypes; ++tire) pairs->setTypePairFriction(surface, tire, kFriction[surface][tire]);
+        for (PxU32 tire = 0; tire < kTireTypes; ++tire)
+            pairs->setTypePairFriction(surface, tire, kFriction[surface][tire]);
     }
     return pairs;
 }
@@ -61,8 +63,8 @@ void addShape(PxRigidDynamic& actor, PxConvexMesh* mesh, const PxMaterial& mater
     shape->setSimulationFilterData(simulationFilter(group));
 }
 
-PxRigidDynamic* createActor(PxPhysics& physics, const PxMaterial& material, const PxVehicleChassisData& chassis, PxConvexMesh* chassisMesh,
-    PxConvexMesh* const* wheelMeshes4)
+PxRigidDynamic* createActor(PxPhysics& physics, const PxMaterial& material, const PxVehicleChassisData& chassis,
+    PxConvexMesh* chassisMesh, PxConvexMesh* const* wheelMeshes4)
 {
     PxRigidDynamic* actor = physics.createRigidDynamic(PxTransform(PxIdentity));
     for (PxU32 i = 0; i < kWheelsPerVehicle; ++i) addShape(*actor, wheelMeshes4[i], material, kWheelGroup);
@@ -99,9 +101,9 @@ void VehicleManager::init(PxPhysics& physics, const PxMaterial* const* materials
     frictionPairs = createFrictionPairs(materials, surfaceTypes);
 }
 
-VehicleHandle* VehicleManager::create4WVehicle(PxScene& scene, PxPhysics& physics, PxCooking&, const PxMaterial& material,
-    PxF32 chassisMass, const PxVec3* wheelCentreOffsets4, PxConvexMesh* chassisMesh, PxConvexMesh* const* wheelMeshes4,
-    const PxTransform& startTransform, bool useAutoGearFlag)
+VehicleHandle* VehicleManager::create4WVehicle(PxScene& scene, PxPhysics& physics, PxCooking&,
+    const PxMaterial& material, PxF32 chassisMass, const PxVec3* wheelCentreOffsets4, PxConvexMesh* chassisMesh,
+    PxConvexMesh* const* wheelMeshes4, const PxTransform& startTransform, bool useAutoGearFlag)
 {
     QKD_ASSERT(mNumVehicles < MAX_NUM_4W_VEHICLES, "mNumVehicles<MAX_NUM_4W_VEHICLES");
 
@@ -139,15 +141,16 @@ void VehicleManager::update(float dt, const PxVec3& gravity, PxScene& scene)
 void VehicleManager::smoothInputs(float dt)
 {
     for (PxU32 i = 0; i < mNumVehicles; ++i) {
-        PxVehicleDrive4WSmoothAnalogRawInputsAndSetAnalogInputs(kPadSmoothing, kSteerVsForwardSpeedTable, handles[i]->getRawInputs(), dt,
-            PxVehicleIsInAir(vehicleQueries[i]), handles[i]->getVehicle());
+        PxVehicleDrive4WSmoothAnalogRawInputsAndSetAnalogInputs(kPadSmoothing, kSteerVsForwardSpeedTable,
+            handles[i]->getRawInputs(), dt, PxVehicleIsInAir(vehicleQueries[i]), handles[i]->getVehicle());
     }
 }
 
 void VehicleManager::castSuspensionRays(PxScene& scene)
 {
     if (!batchQuery) batchQuery = sceneQueryData->createBatchQuery(scene);
-    PxVehicleSuspensionRaycasts(batchQuery, mNumVehicles, mVehicles.data(), sceneQueryData->capacity, sceneQueryData->results);
+    PxVehicleSuspensionRaycasts(batchQuery, mNumVehicles, mVehicles.data(), sceneQueryData->capacity,
+        sceneQueryData->results);
 }
 
 void VehicleManager::release()

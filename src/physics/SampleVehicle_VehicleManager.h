@@ -23,21 +23,24 @@ struct VehicleSceneQueryData;
 constexpr physx::PxU32 MAX_NUM_4W_VEHICLES = 16;
 constexpr physx::PxU32 kWheelsPerVehicle = 4;
 
-/// Makes and owns all cars and advances them. Owned by PhysxManager: init() once, then update() once a pass; release() at the end.
+/// Makes and owns all cars and advances them. Owned by PhysxManager: init() once, then update() once a pass; release()
+/// at the end.
 class VehicleManager {
 public:
     VehicleManager();
     ~VehicleManager();
 
-    /// Initialises the SDK's vehicle library. Entry i of both four-element arrays: a standard material and its drivable surface type.
+    /// Initialises the SDK's vehicle library. Entry i of both four-element arrays: a standard material and its drivable
+    /// surface type.
     void init(physx::PxPhysics& physics, const physx::PxMaterial* const* materials, const physx::PxU32* surfaceTypes);
 
-    /// A car at rest in first gear at startTransform, in the scene. chassisMass in kilograms; wheelCentreOffsets4 (relative to the
-    /// chassis origin) and wheelMeshes4: front left, front right, rear left, rear right. A seventeenth car is an assertion.
+    /// A car at rest in first gear at startTransform, in the scene. chassisMass in kilograms; wheelCentreOffsets4
+    /// (relative to the chassis origin) and wheelMeshes4: front left, front right, rear left, rear right. A seventeenth
+    /// car is an assertion.
     VehicleHandle* create4WVehicle(physx::PxScene& scene, physx::PxPhysics& physics, physx::PxCooking& cooking,
         const physx::PxMaterial& material, physx::PxF32 chassisMass, const physx::PxVec3* wheelCentreOffsets4,
-        physx::PxConvexMesh* chassisMesh, physx::PxConvexMesh* const* wheelMeshes4, const physx::PxTransform& startTransform,
-        bool useAutoGearFlag);
+        physx::PxConvexMesh* chassisMesh, physx::PxConvexMesh* const* wheelMeshes4,
+        const physx::PxTransform& startTransform, bool useAutoGearFlag);
 
     /// Controls, wheel rays, then the cars' motion. dt: seconds of game time; gravity: units per second squared.
     void update(float dt, const physx::PxVec3& gravity, physx::PxScene& scene);
@@ -50,7 +53,10 @@ public:
     VehicleHandle* getHandle(physx::PxU32 i) const { return handles.at(i).get(); }
 
     /// What wheel `wheel` of car i stood on in the last update.
-    const physx::PxWheelQueryResult& getWheelQuery(physx::PxU32 i, physx::PxU32 wheel) const { return wheelQueries.at(i).at(wheel); }
+    const physx::PxWheelQueryResult& getWheelQuery(physx::PxU32 i, physx::PxU32 wheel) const
+    {
+        return wheelQueries.at(i).at(wheel);
+    }
 
 private:
     void smoothInputs(float dt);

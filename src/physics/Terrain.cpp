@@ -1,6 +1,6 @@
 #include "physics/Terrain.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 #include "physics/PhysicNode.h"
 #include "platform/Image.h"
 
@@ -38,10 +38,12 @@ Terrain::Terrain()
 
 void Terrain::sample(const Image& image)
 {
-    const int rowPixels = static_cast<int>(rowScale), columnPixels = static_cast<int>(columnScale); // one pixel a world unit
+    const int rowPixels = static_cast<int>(rowScale),
+              columnPixels = static_cast<int>(columnScale); // one pixel a world unit
     auto* next = samples.data();
     for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < columns; ++column) (next++)->height = *image.at(column * columnPixels, row * rowPixels);
+        for (int column = 0; column < columns; ++column)
+            (next++)->height = *image.at(column * columnPixels, row * rowPixels);
     }
 }
 

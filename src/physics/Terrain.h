@@ -16,16 +16,17 @@ class PxScene;
 class PhysicNode;
 struct Image;
 
-/// The playing field: a grid of heights sampled from "Textures/map.tga", as a static height-field actor and as vertices to draw.
-/// Made and owned by PhysxManager; construct, then createPhysics() once. Rows run along x, columns along z.
+/// The playing field: a grid of heights sampled from "Textures/map.tga", as a static height-field actor and as vertices
+/// to draw. Made and owned by PhysxManager; construct, then createPhysics() once. Rows run along x, columns along z.
 class Terrain {
 public:
-    /// Samples the picture's lower left 512 x 512 pixels. A missing, undecodable or smaller picture is logged; the field is flat then.
+    /// Samples the picture's lower left 512 x 512 pixels. A missing, undecodable or smaller picture is logged; the
+    /// field is flat then.
     Terrain();
 
     /// Puts the field into the scene with the given records on its shape and returns the node "Map" that follows it.
-    PhysicNode* createPhysics(physx::PxPhysics& physics, physx::PxCooking& cooking, physx::PxScene& scene, physx::PxMaterial& material,
-        physx::PxFilterData simulationFilterData, physx::PxFilterData queryFilterData);
+    PhysicNode* createPhysics(physx::PxPhysics& physics, physx::PxCooking& cooking, physx::PxScene& scene,
+        physx::PxMaterial& material, physx::PxFilterData simulationFilterData, physx::PxFilterData queryFilterData);
 
     /// Grid points in the node's frame, index row x 64 + column.
     std::vector<glm::vec3> getVertices() const;

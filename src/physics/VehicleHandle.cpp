@@ -1,6 +1,6 @@
 #include "physics/VehicleHandle.h"
 
-#include "app/base/Assert.h"
+#include "base/Assert.h"
 #include "physics/PhysicNode.h"
 
 #include <PxPhysicsAPI.h>

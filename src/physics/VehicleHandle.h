@@ -12,8 +12,9 @@ class PxVehicleDrive4W;
 }
 class PhysicNode;
 
-/// One car as the game sees it: its controls, its body and the nodes that follow its parts. Owned by the VehicleManager.
-/// Front is +z, up is +y, so the driver's right is -x. Shapes 0 to 3 are the wheels, shape 4 is the chassis.
+/// One car as the game sees it: its controls, its body and the nodes that follow its parts. Owned by the
+/// VehicleManager. Front is +z, up is +y, so the driver's right is -x. Shapes 0 to 3 are the wheels, shape 4 is the
+/// chassis.
 class VehicleHandle {
 public:
     explicit VehicleHandle(physx::PxVehicleDrive4W& drivenVehicle);
@@ -24,7 +25,10 @@ public:
     /// A new node that follows shape i (0 to 3: a wheel, 4: the chassis); the caller puts it into the tree.
     PhysicNode* createWheelNode(unsigned i);
 
-    PhysicNode* getChassisNode() const { return chassisNode; } ///< follows the actor; in no tree unless someone puts it there
+    PhysicNode* getChassisNode() const
+    {
+        return chassisNode;
+    } ///< follows the actor; in no tree unless someone puts it there
     physx::PxVehicleDrive4W& getVehicle() const { return vehicle; }
     physx::PxRigidDynamic* getActor() const; ///< the car's body, e.g. to recognise it in a contact report
 

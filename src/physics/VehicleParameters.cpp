@@ -15,7 +15,8 @@ constexpr PxU32 kFirstRearWheel = PxVehicleDrive4WWheelOrder::eREAR_LEFT;
 constexpr float kChassisHeight = 1.8494055f; // the box that stands for the chassis' mass, world units
 constexpr float kChassisLength = 4.8532596f;
 const PxVec3 kChassisCMOffset(0, -kChassisHeight * 0.5f + 0.65f, 0.25f); // centre of mass, from the chassis origin
-// Of a box 2.4758029 wide with 1500 kg, turning more readily (0.8) about the vertical axis than a box does; kilograms x units squared.
+// Of a box 2.4758029 wide with 1500 kg, turning more readily (0.8) about the vertical axis than a box does; kilograms x
+// units squared.
 const PxVec3 kChassisMOI(3371.8037f, 2968.3728f, 1193.7377f);
 
 constexpr float kWheelMass = 80;             // kilograms
@@ -88,9 +89,12 @@ void setUpDriveData(const PxVec3* offsets, PxVehicleDriveSimData4W& drive)
 
     PxVehicleAckermannGeometryData ackermann;
     ackermann.mAccuracy = kAckermannAccuracy;
-    ackermann.mFrontWidth = offsets[PxVehicleDrive4WWheelOrder::eFRONT_RIGHT].x - offsets[PxVehicleDrive4WWheelOrder::eFRONT_LEFT].x;
-    ackermann.mRearWidth = offsets[PxVehicleDrive4WWheelOrder::eREAR_RIGHT].x - offsets[PxVehicleDrive4WWheelOrder::eREAR_LEFT].x;
-    ackermann.mAxleSeparation = offsets[PxVehicleDrive4WWheelOrder::eFRONT_LEFT].z - offsets[PxVehicleDrive4WWheelOrder::eREAR_LEFT].z;
+    ackermann.mFrontWidth =
+        offsets[PxVehicleDrive4WWheelOrder::eFRONT_RIGHT].x - offsets[PxVehicleDrive4WWheelOrder::eFRONT_LEFT].x;
+    ackermann.mRearWidth =
+        offsets[PxVehicleDrive4WWheelOrder::eREAR_RIGHT].x - offsets[PxVehicleDrive4WWheelOrder::eREAR_LEFT].x;
+    ackermann.mAxleSeparation =
+        offsets[PxVehicleDrive4WWheelOrder::eFRONT_LEFT].z - offsets[PxVehicleDrive4WWheelOrder::eREAR_LEFT].z;
     drive.setAckermannGeometryData(ackermann);
 }
 

@@ -23,7 +23,9 @@ struct AxleLoads {
 };
 AxleLoads splitMass(float chassisMass);
 
-/// Fills in everything that the vehicle library wants to know of a car: wheels, tires, suspensions, drive train and chassis.
-/// chassisMass in kilograms; wheelCentreOffsets4 relative to the chassis origin; wheelSizes4 and offsets in the library's wheel order.
-void setUpVehicleSimulationData(float chassisMass, const WheelSize* wheelSizes4, const physx::PxVec3* wheelCentreOffsets4,
-    physx::PxVehicleWheelsSimData& wheels, physx::PxVehicleDriveSimData4W& drive, physx::PxVehicleChassisData& chassis);
+/// Fills in everything that the vehicle library wants to know of a car: wheels, tires, suspensions, drive train and
+/// chassis. chassisMass in kilograms; wheelCentreOffsets4 relative to the chassis origin; wheelSizes4 and offsets in
+/// the library's wheel order.
+void setUpVehicleSimulationData(float chassisMass, const WheelSize* wheelSizes4,
+    const physx::PxVec3* wheelCentreOffsets4, physx::PxVehicleWheelsSimData& wheels,
+    physx::PxVehicleDriveSimData4W& drive, physx::PxVehicleChassisData& chassis);

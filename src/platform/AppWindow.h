@@ -1,14 +1,15 @@
 #pragma once
 
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 #include "platform/Keyboard.h"
 
 struct GLFWwindow;
 
-/// The application's one window with its OpenGL 4.3 core debug context, by GLFW 3; also the program's clock and keyboard.
+/// The application's one window with its OpenGL 4.3 core debug context, by GLFW 3; also the program's clock and
+/// keyboard.
 ///
-/// Owned by the renderer: initialize(), then open(), then swapBuffers() once a frame while isOpen(), then terminate(). GLFW 3 polls no
-/// events in its swap as 2.7 did, so swapBuffers() does. All on the main thread.
+/// Owned by the renderer: initialize(), then open(), then swapBuffers() once a frame while isOpen(), then terminate().
+/// GLFW 3 polls no events in its swap as 2.7 did, so swapBuffers() does. All on the main thread.
 class AppWindow : public IClock, public IKeyboard {
 public:
     /// Starts the window library. False when it cannot (no display).

@@ -1,6 +1,6 @@
 #include "platform/DataFolder.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 
 #include <filesystem>
 #include <vector>
@@ -36,7 +36,8 @@ bool enterDataFolder()
         fs::current_path(folder, error);
         if (!error) return true;
     }
-    logLine(0) << "no data folder found: neither the working directory nor a folder beside the program holds Shader and Textures"
+    logLine(0) << "no data folder found: neither the working directory nor a folder beside the program holds Shader "
+                  "and Textures"
                << std::endl;
     return false;
 }

@@ -28,7 +28,8 @@ bool holdsAllPixels(const std::vector<unsigned char>& bytes)
     const int kind = bytes[2];
     const auto pixels = static_cast<std::size_t>(word(bytes, 12)) * static_cast<std::size_t>(word(bytes, 14));
     const auto pixelBytes = static_cast<std::size_t>((bytes[16] + 7) / 8);
-    const std::size_t mapBytes = bytes[1] ? static_cast<std::size_t>(word(bytes, 5)) * static_cast<std::size_t>((bytes[7] + 7) / 8) : 0;
+    const std::size_t mapBytes =
+        bytes[1] ? static_cast<std::size_t>(word(bytes, 5)) * static_cast<std::size_t>((bytes[7] + 7) / 8) : 0;
     std::size_t at = kTgaHeaderBytes + bytes[0] + mapBytes;
     if (!(kind & kRunLengthBit)) return bytes.size() >= at + pixels * pixelBytes;
 
@@ -47,7 +48,8 @@ bool isTgaHeader(const std::vector<unsigned char>& bytes)
 {
     const int kind = bytes[2] & ~kRunLengthBit;
     const int width = word(bytes, 12), height = word(bytes, 14), bits = bytes[16];
-    const bool kindFits = bytes[1] == 1 ? kind == kColourMapped : bytes[1] == 0 && (kind == kTrueColour || kind == kGrey);
+    const bool kindFits =
+        bytes[1] == 1 ? kind == kColourMapped : bytes[1] == 0 && (kind == kTrueColour || kind == kGrey);
     const bool bitsFit = bits == 8 || bits == 15 || bits == 16 || bits == 24 || bits == 32;
     return kindFits && bitsFit && width > 0 && height > 0 && width <= kLargestSide && height <= kLargestSide;
 }
@@ -74,15 +76,16 @@ std::optional<Image> readTga(const std::string& path, std::string& error)
 
     Image image;
     stbi_set_flip_vertically_on_load(1);
-    unsigned char* decoded =
-        stbi_load_from_memory(bytes.data(), static_cast<int>(bytes.size()), &image.width, &image.height, &image.channels, 0);
+    unsigned char* decoded = stbi_load_from_memory(bytes.data(), static_cast<int>(bytes.size()), &image.width,
+        &image.height, &image.channels, 0);
     if (!decoded) {
         error = "picture cannot be decoded";
         return std::nullopt;
     }
     image.pixels.assign(decoded,
         decoded +
-            static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * static_cast<std::size_t>(image.channels));
+            static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) *
+                static_cast<std::size_t>(image.channels));
     stbi_image_free(decoded);
     return image;
 }
@@ -94,16 +97,19 @@ Image resampledToPowersOfTwo(Image image)
     if (width == image.width && height == image.height) return image;
 
     Image result{width, height, image.channels, {}};
-    result.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * static_cast<std::size_t>(image.channels));
-    stbir_resize_uint8_generic(image.pixels.data(), image.width, image.height, 0, result.pixels.data(), width, height, 0, image.channels,
-        STBIR_ALPHA_CHANNEL_NONE, 0, STBIR_EDGE_CLAMP, STBIR_FILTER_TRIANGLE, STBIR_COLORSPACE_LINEAR, nullptr);
+    result.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) *
+        static_cast<std::size_t>(image.channels));
+    stbir_resize_uint8_generic(image.pixels.data(), image.width, image.height, 0, result.pixels.data(), width, height,
+        0, image.channels, STBIR_ALPHA_CHANNEL_NONE, 0, STBIR_EDGE_CLAMP, STBIR_FILTER_TRIANGLE,
+        STBIR_COLORSPACE_LINEAR, nullptr);
     return result;
 }
 
 Image halved(const Image& image)
 {
     Image half{std::max(image.width / 2, 1), std::max(image.height / 2, 1), image.channels, {}};
-    const int stepX = image.width / half.width, stepY = image.height / half.height; // 2, or 1 along a side that is used up
+    const int stepX = image.width / half.width,
+              stepY = image.height / half.height; // 2, or 1 along a side that is used up
     half.pixels.reserve(static_cast<std::size_t>(half.width) * static_cast<std::size_t>(half.height) *
         static_cast<std::size_t>(half.channels));
     for (int y = 0; y < half.height; ++y) {

@@ -1,6 +1,7 @@
 #pragma once
 
-/// The state of the keys, by GLFW 3 key code. The game's window provides it; tests and benchmarks put a scripted one in its place.
+/// The state of the keys, by GLFW 3 key code. The game's window provides it; tests and benchmarks put a scripted one in
+/// its place.
 class IKeyboard {
 public:
     virtual ~IKeyboard() = default;
@@ -11,7 +12,8 @@ public:
     virtual void poll() = 0;
 };
 
-/// The keyboard in use; never null. Until a window is opened (or a test sets one) it is one on which no key is ever down.
+/// The keyboard in use; never null. Until a window is opened (or a test sets one) it is one on which no key is ever
+/// down.
 IKeyboard& keyboard();
 
 /// Borrowed; it must outlive its use. Null goes back to the keyboard without keys.

@@ -10,7 +10,8 @@ struct AIControllerHolder {
     AIController controller;
 };
 
-/// A computer player: a grey car that makes little noise and has no place on the screen. The match creates it as it does a player.
+/// A computer player: a grey car that makes little noise and has no place on the screen. The match creates it as it
+/// does a player.
 class AIPlayer final : private AIControllerHolder, public Player {
 public:
     AIPlayer(IMatch& match, IStage& stage);

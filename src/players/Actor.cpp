@@ -17,7 +17,8 @@ const glm::vec4 kClearColour(0.3f, 0.6f, 1.0f, 1.0f);
 Actor::Actor(IMatch& ownMatch, InputDevice& ownDevice)
     : match(ownMatch), device(ownDevice),
       node(ownMatch.getSceneGraph()->getRoot()->createChild("Actor" + std::to_string(ownMatch.getActorCount()))),
-      number(ownMatch.getActorCount()), camera(kFov, kAspect, kNear, kFar, kInitialTranslation), viewport(0, 0, 800, 600)
+      number(ownMatch.getActorCount()), camera(kFov, kAspect, kNear, kFar, kInitialTranslation),
+      viewport(0, 0, 800, 600)
 {
     viewport.camera = &camera;
     viewport.clearColour = kClearColour;

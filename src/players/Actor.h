@@ -11,8 +11,8 @@ class IMatch;
 class InputDevice;
 class Node;
 
-/// A participant of the match with a camera and a viewport of its own. Created by the match, never destroyed. Its node, "Actor" and the
-/// number, is a child of the scene's root; the match lays the viewport out later.
+/// A participant of the match with a camera and a viewport of its own. Created by the match, never destroyed. Its node,
+/// "Actor" and the number, is a child of the scene's root; the match lays the viewport out later.
 class Actor {
 public:
     /// match and device are borrowed; both outlive the actor.

@@ -1,6 +1,6 @@
 #include "players/Ball.h"
 
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
 #include "players/IStage.h"
@@ -10,7 +10,8 @@
 #include <PxPhysicsAPI.h>
 
 Ball::Ball(SceneGraph& scene, IStage& ownStage, Player& shooter)
-    : node(PhysxManager::instance()->createBall()), owner(&shooter), stage(ownStage), spawnTime(FrameTimer::getInstance()->getTimeMs())
+    : node(PhysxManager::instance()->createBall()), owner(&shooter), stage(ownStage),
+      spawnTime(FrameTimer::getInstance()->getTimeMs())
 {
     node->setName("Ball");
     model = stage.dressBall(*node, shooter.getColor());

@@ -8,7 +8,8 @@ class SceneGraph;
 
 /// One shot, from the moment it leaves the shooter's car. Owned by the match, which removes it when it is spent.
 ///
-/// What stays of it afterwards is its scene node (some 300 bytes), detached: nodes are never freed. Its body and its picture go with it.
+/// What stays of it afterwards is its scene node (some 300 bytes), detached: nodes are never freed. Its body and its
+/// picture go with it.
 class Ball {
 public:
     static constexpr int kDamage = 20;      ///< of a car's 100 health points

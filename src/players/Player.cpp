@@ -1,7 +1,7 @@
 #include "players/Player.h"
 
-#include "app/base/FrameTimer.h"
-#include "app/base/Logger.h"
+#include "base/FrameTimer.h"
+#include "base/Logger.h"
 #include "input/InputDevice.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
@@ -58,7 +58,8 @@ float randomPlace()
 } // namespace
 
 Player::Player(IMatch& ownMatch, IStage& ownStage, InputDevice& ownDevice)
-    : Actor(ownMatch, ownDevice), stage(ownStage), lastShotTime(FrameTimer::getInstance()->getTimeMs()), health(kFullHealth)
+    : Actor(ownMatch, ownDevice), stage(ownStage), lastShotTime(FrameTimer::getInstance()->getTimeMs()),
+      health(kFullHealth)
 {
 }
 

@@ -9,8 +9,8 @@ class IStage;
 class PhysicNode;
 class VehicleHandle;
 
-/// A driver with a car, steered by an input device. The match creates it, calls setUp() once, puts it into its lists, and from then on
-/// update() once a frame; it decides hits and points and calls takeDamage(), addScore() and die().
+/// A driver with a car, steered by an input device. The match creates it, calls setUp() once, puts it into its lists,
+/// and from then on update() once a frame; it decides hits and points and calls takeDamage(), addScore() and die().
 class Player : public Actor, public IPilot {
 public:
     Player(IMatch& match, IStage& stage, InputDevice& device);

@@ -1,7 +1,7 @@
 #include "players/Spectator.h"
 
-#include "app/base/FrameTimer.h"
-#include "app/base/Logger.h"
+#include "base/FrameTimer.h"
+#include "base/Logger.h"
 #include "input/InputDevice.h"
 #include "players/IMatch.h"
 #include "scene/Node.h"
@@ -56,7 +56,8 @@ void Spectator::turn(float steering)
 void Spectator::move()
 {
     const glm::vec3 forward(0, 0, -1), left(-1, 0, 0);
-    const glm::vec3 direction = forward * (pressed(device, InputDevice::kAccelerate) - pressed(device, InputDevice::kBrake)) +
+    const glm::vec3 direction =
+        forward * (pressed(device, InputDevice::kAccelerate) - pressed(device, InputDevice::kBrake)) +
         left * (pressed(device, InputDevice::kSteerLeft) - pressed(device, InputDevice::kSteerRight));
     if (direction == glm::vec3(0)) return;
     yawNode->transform(translation(glm::normalize(direction) * gameDelta()), true);

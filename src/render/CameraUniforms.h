@@ -1,10 +1,11 @@
 #pragma once
 
-#include "gpu/GlobalUniform.h"
+#include "render/GlobalUniform.h"
 
 #include <glm/glm.hpp>
 
-// The matrices of the camera that the renderer is drawing at the moment. One source of each serves every viewport. Owned by the renderer.
+// The matrices of the camera that the renderer is drawing at the moment. One source of each serves every viewport.
+// Owned by the renderer.
 
 class Uniform_ViewMatrix : public GlobalUniform<glm::mat4> {
 public:

@@ -39,7 +39,8 @@ DebugRenderer::Shape DebugRenderer::makeShape(const Mesh* mesh) const
 {
     Shape shape;
     if (!mesh) return shape;
-    shape.geometry = std::make_unique<MeshGeometry>(*mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position});
+    shape.geometry =
+        std::make_unique<MeshGeometry>(*mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position});
     shape.vertexArray = shape.geometry->layout.createVAO(program, &shape.geometry->vertices);
     return shape;
 }

@@ -12,8 +12,9 @@ class Mesh;
 class MeshGeometry;
 class Shaderprogram;
 
-/// Overlays the scene's structure: a marker box at the origin of every node and the camera model at the pose of every camera, without
-/// depth testing. Created by the application once meshes and shaders are loaded; the renderer walks the scene with it before each render().
+/// Overlays the scene's structure: a marker box at the origin of every node and the camera model at the pose of every
+/// camera, without depth testing. Created by the application once meshes and shaders are loaded; the renderer walks the
+/// scene with it before each render().
 class DebugRenderer final : public INodeVisitor {
 public:
     DebugRenderer();

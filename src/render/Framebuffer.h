@@ -2,8 +2,8 @@
 
 #include "render/TargetTexture.h"
 
-/// A GL framebuffer object over target textures, which it borrows. Move-only; an empty or moved-from one has name 0, which is the
-/// window's own framebuffer. An incomplete one is reported on standard error and stays as it is.
+/// A GL framebuffer object over target textures, which it borrows. Move-only; an empty or moved-from one has name 0,
+/// which is the window's own framebuffer. An incomplete one is reported on standard error and stays as it is.
 class Framebuffer {
 public:
     Framebuffer() = default;

@@ -1,6 +1,6 @@
 #include "render/GlDebug.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 
 namespace {
 
@@ -52,7 +52,8 @@ const char* severityName(GLenum severity)
 
 } // namespace
 
-void GLAPIENTRY onGlDebugMessage(GLenum source, GLenum type, GLuint id, GLenum severity, GLsizei, const GLchar* message, const void*)
+void GLAPIENTRY onGlDebugMessage(GLenum source, GLenum type, GLuint id, GLenum severity, GLsizei, const GLchar* message,
+    const void*)
 {
     logLine(0) << "OpenGL Error: " << message << " [Source = " << sourceName(source) << ", Type = " << typeName(type)
                << ", Severity = " << severityName(severity) << ", ID = " << id << "]" << std::endl;

@@ -11,12 +11,14 @@ constexpr float kDepthReach = 100.0f; // world units, before and behind the ligh
 
 glm::mat4 lightViewProjection()
 {
-    const glm::mat4 projection = glm::ortho(-kHalfExtent, kHalfExtent, -kHalfExtent, kHalfExtent, -kDepthReach, kDepthReach);
+    const glm::mat4 projection =
+        glm::ortho(-kHalfExtent, kHalfExtent, -kHalfExtent, kHalfExtent, -kDepthReach, kDepthReach);
     return projection * glm::lookAt(glm::vec3(0.3f, 1, 0), glm::vec3(0, 0, 0), glm::vec3(0, 1, 0));
 }
 
 glm::mat4 biasedLightViewProjection()
 {
-    const glm::mat4 bias(glm::vec4(0.5f, 0, 0, 0), glm::vec4(0, 0.5f, 0, 0), glm::vec4(0, 0, 0.5f, 0), glm::vec4(0.5f, 0.5f, 0.5f, 1));
+    const glm::mat4 bias(glm::vec4(0.5f, 0, 0, 0), glm::vec4(0, 0.5f, 0, 0), glm::vec4(0, 0, 0.5f, 0),
+        glm::vec4(0.5f, 0.5f, 0.5f, 1));
     return bias * lightViewProjection();
 }

@@ -4,7 +4,8 @@
 
 #include <set>
 
-/// A visitor that collects the models of the scene, each once. The walk only adds; releaseModel withdraws one. Models are borrowed.
+/// A visitor that collects the models of the scene, each once. The walk only adds; releaseModel withdraws one. Models
+/// are borrowed.
 class ModelRegistry : public INodeVisitor {
 public:
     void visitModel(Model* model) override { registry.insert(model); }

@@ -44,8 +44,8 @@ void ModelRenderer::render(Camera* camera)
     Shaderprogram::unuse();
 }
 
-/// By render order; then near things before the ground and the ground before the sky, so that hidden pixels are never shaded; then by
-/// program, so that consecutive models share it.
+/// By render order; then near things before the ground and the ground before the sky, so that hidden pixels are never
+/// shaded; then by program, so that consecutive models share it.
 std::vector<Model*> ModelRenderer::sorted() const
 {
     std::vector<Model*> models(registry.begin(), registry.end());

@@ -8,14 +8,14 @@ class Camera;
 class Model;
 class Renderer;
 
-/// Draws the scene's models into one viewport, with what shaders need to look up the shadows. Owned by the renderer, which walks the
-/// scene with it before each render(): the walk only adds models, releaseModel withdraws one.
+/// Draws the scene's models into one viewport, with what shaders need to look up the shadows. Owned by the renderer,
+/// which walks the scene with it before each render(): the walk only adds models, releaseModel withdraws one.
 class ModelRenderer final : public ModelRegistry {
 public:
     explicit ModelRenderer(Renderer* owner) : renderer(owner) {}
 
-    /// Draws what the camera may see, by render order, into the framebuffer and viewport that are set, and queues the text "culled: "
-    /// with the number of models left out.
+    /// Draws what the camera may see, by render order, into the framebuffer and viewport that are set, and queues the
+    /// text "culled: " with the number of models left out.
     void render(Camera* camera);
 
 private:

@@ -1,7 +1,7 @@
 #include "render/ParticleSystem.h"
 
-#include "app/base/FrameTimer.h"
 #include "assets/Library.h"
+#include "base/FrameTimer.h"
 #include "gpu/DrawCalls.h"
 #include "gpu/Shaderprogram.h"
 
@@ -25,7 +25,8 @@ std::vector<float> startingBlock()
 } // namespace
 
 ParticleSystem::ParticleSystem(Shaderprogram* movementProgram)
-    : format(particleLayout()), movement(movementProgram), renderBuffer(&format, kParticles), feedbackBuffer(&format, kParticles)
+    : format(particleLayout()), movement(movementProgram), renderBuffer(&format, kParticles),
+      feedbackBuffer(&format, kParticles)
 {
     cullable = false;
     blended = true;

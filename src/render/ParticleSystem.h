@@ -6,15 +6,19 @@
 
 #include <glm/glm.hpp>
 
-/// Exhaust smoke whose particles live on the GPU only: update() advances them by transform feedback, from the render buffer into the
-/// feedback buffer, and swaps the two; draw() draws the render buffer as blended points. Owned by the player it follows.
+/// Exhaust smoke whose particles live on the GPU only: update() advances them by transform feedback, from the render
+/// buffer into the feedback buffer, and swaps the two; draw() draws the render buffer as blended points. Owned by the
+/// player it follows.
 class ParticleSystem final : public Model {
 public:
     /// The movement program is borrowed; null, or one that did not link, leaves the particles where they are.
     explicit ParticleSystem(Shaderprogram* movementProgram);
     ~ParticleSystem();
 
-    void setEmitterPosition(const glm::vec3& position) { emitterPosition = position; } ///< world; the owner sets it each frame
+    void setEmitterPosition(const glm::vec3& position)
+    {
+        emitterPosition = position;
+    } ///< world; the owner sets it each frame
 
     void update() override; ///< one step of game time
     void draw() override;

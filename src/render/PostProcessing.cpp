@@ -42,8 +42,8 @@ void PostProcessing::showUnprocessed(const Framebuffer& scene) const
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }
 
-void PostProcessing::blur(const TargetTexture& sceneColour, const TargetTexture& sceneDepth, const TargetTexture& lightDepth,
-    double milliseconds) const
+void PostProcessing::blur(const TargetTexture& sceneColour, const TargetTexture& sceneDepth,
+    const TargetTexture& lightDepth, double milliseconds) const
 {
     blurFramebuffer.bind();
     clearTarget();

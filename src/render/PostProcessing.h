@@ -4,8 +4,9 @@
 #include "render/FullScreenQuad.h"
 #include "render/TargetTexture.h"
 
-/// The two full-screen passes at the end of a frame: "Blur" from the scene's targets into its own colour texture, "CelPostProc" from
-/// there into the window. Owned by the renderer, which calls them in this order while isUsable(), and showUnprocessed() otherwise.
+/// The two full-screen passes at the end of a frame: "Blur" from the scene's targets into its own colour texture,
+/// "CelPostProc" from there into the window. Owned by the renderer, which calls them in this order while isUsable(),
+/// and showUnprocessed() otherwise.
 class PostProcessing {
 public:
     explicit PostProcessing(glm::ivec2 windowSize); ///< pixels

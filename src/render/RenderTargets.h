@@ -12,8 +12,9 @@ struct RenderTargets {
     explicit RenderTargets(glm::ivec2 windowSize) ///< pixels
         : sceneColour(GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, windowSize),
           sceneDepth(GL_DEPTH_COMPONENT24, GL_DEPTH_COMPONENT, GL_UNSIGNED_SHORT, windowSize),
-          lightDepth(GL_DEPTH_COMPONENT24, GL_DEPTH_COMPONENT, GL_FLOAT, windowSize * kShadowMapScale), light(nullptr, &lightDepth),
-          scene(&sceneColour, &sceneDepth), post(windowSize), shadowCache(lightDepth, light)
+          lightDepth(GL_DEPTH_COMPONENT24, GL_DEPTH_COMPONENT, GL_FLOAT, windowSize * kShadowMapScale),
+          light(nullptr, &lightDepth), scene(&sceneColour, &sceneDepth), post(windowSize),
+          shadowCache(lightDepth, light)
     {
     }
 

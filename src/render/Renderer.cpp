@@ -1,8 +1,8 @@
 #include "render/Renderer.h"
 
-#include "app/base/FrameTimer.h"
-#include "app/base/IGameState.h"
-#include "app/base/Logger.h"
+#include "base/FrameTimer.h"
+#include "base/IGameState.h"
+#include "base/Logger.h"
 #include "render/DebugRenderer.h"
 #include "render/FrameProbe.h"
 #include "render/GlDebug.h"
@@ -46,8 +46,8 @@ void apply(const Viewport& viewport)
 
 Renderer::Renderer()
     : modelRenderer(this), viewMatrix(this), projectionMatrix(this),
-      normalMatrix(this), globalUniforms{
-                              {"viewMatrix", &viewMatrix}, {"projectionMatrix", &projectionMatrix}, {"normalMatrix", &normalMatrix}}
+      normalMatrix(this), globalUniforms{{"viewMatrix", &viewMatrix}, {"projectionMatrix", &projectionMatrix},
+                              {"normalMatrix", &normalMatrix}}
 {
     IRenderServices::setCurrent(this);
 }
@@ -183,7 +183,9 @@ void Renderer::postProcess()
 {
     const PostProcessing& post = targets->post;
     const bool usable = post.isUsable();
-    if (usable) post.blur(targets->sceneColour, targets->sceneDepth, targets->lightDepth, FrameTimer::getInstance()->getTimeMs());
+    if (usable)
+        post.blur(targets->sceneColour, targets->sceneDepth, targets->lightDepth,
+            FrameTimer::getInstance()->getTimeMs());
     stepDone("Blur");
     if (usable) post.celPostProc();
     else post.showUnprocessed(targets->scene);

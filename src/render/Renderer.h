@@ -22,16 +22,16 @@ struct RenderTargets;
 
 /// Owns the window, its OpenGL context, the off-screen targets and the passes, and draws one frame at a time.
 ///
-/// Owned by the application's core. initialize() once, before any shader or texture is loaded; then render() once per drawn frame until
-/// shouldClose(); then terminate(). Viewports, scene graph and debug renderer are borrowed and may be replaced between frames. Its GL
-/// objects live until the process ends.
+/// Owned by the application's core. initialize() once, before any shader or texture is loaded; then render() once per
+/// drawn frame until shouldClose(); then terminate(). Viewports, scene graph and debug renderer are borrowed and may be
+/// replaced between frames. Its GL objects live until the process ends.
 class Renderer final : public IRenderServices {
 public:
     Renderer();
     ~Renderer();
 
-    /// Opens the window and creates everything that frames need. False, with a log line at level 0, when there is no display, no
-    /// OpenGL 4.3 or no entry points; then nothing else may be called but terminate().
+    /// Opens the window and creates everything that frames need. False, with a log line at level 0, when there is no
+    /// display, no OpenGL 4.3 or no entry points; then nothing else may be called but terminate().
     [[nodiscard]] bool initialize();
 
     /// Draws and presents one frame. The state (or null) gets its per-camera call after each viewport's models.

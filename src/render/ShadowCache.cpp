@@ -33,7 +33,8 @@ ShadowCache::ShadowCache(const TargetTexture& lightDepthTexture, const Framebuff
 void ShadowCache::draw(const ShadowMappingRender& shadows)
 {
     std::vector<Model*> still = shadows.casters();
-    const auto firstMoving = std::stable_partition(still.begin(), still.end(), [](const Model* model) { return model->isStatic; });
+    const auto firstMoving =
+        std::stable_partition(still.begin(), still.end(), [](const Model* model) { return model->isStatic; });
     const std::vector<Model*> moving(firstMoving, still.end());
     still.erase(firstMoving, still.end());
 
@@ -77,8 +78,8 @@ void ShadowCache::drawStatic(const std::vector<Model*>& casters)
 void ShadowCache::restore(const Rect& rect) const
 {
     if (rect.width <= 0 || rect.height <= 0) return;
-    glCopyImageSubData(staticTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x, rect.y, 0, lightTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x,
-        rect.y, 0, rect.width, rect.height, 1);
+    glCopyImageSubData(staticTexture.getHandle(), GL_TEXTURE_2D, 0, rect.x, rect.y, 0, lightTexture.getHandle(),
+        GL_TEXTURE_2D, 0, rect.x, rect.y, 0, rect.width, rect.height, 1);
 }
 
 ShadowCache::Rect ShadowCache::wholeTexture() const
@@ -88,16 +89,18 @@ ShadowCache::Rect ShadowCache::wholeTexture() const
 
 ShadowCache::Rect ShadowCache::coveredBy(const Model& model) const
 {
-    // The light's projection is orthographic: the sphere becomes an ellipsoid, which reaches as far along a texture axis as the row of
-    // that axis is long, however the node's transform scales and shears.
+    // The light's projection is orthographic: the sphere becomes an ellipsoid, which reaches as far along a texture
+    // axis as the row of that axis is long, however the node's transform scales and shears.
     const glm::mat4 toTexture = biasedLightViewProjection() * model.getNode()->getWorldTransform();
     const glm::mat4 rows = glm::transpose(toTexture);
     const glm::vec2 size(lightTexture.getSize());
     const glm::vec2 centre = glm::vec2(toTexture[3]) * size;
-    const glm::vec2 reach = model.boundingRadius * glm::vec2(glm::length(glm::vec3(rows[0])), glm::length(glm::vec3(rows[1]))) * size;
+    const glm::vec2 reach =
+        model.boundingRadius * glm::vec2(glm::length(glm::vec3(rows[0])), glm::length(glm::vec3(rows[1]))) * size;
     const glm::vec2 low = glm::clamp(glm::floor(centre - reach) - kMarginTexels, glm::vec2(0), size);
     const glm::vec2 high = glm::clamp(glm::ceil(centre + reach) + kMarginTexels, glm::vec2(0), size);
-    return {static_cast<int>(low.x), static_cast<int>(low.y), static_cast<int>(high.x - low.x), static_cast<int>(high.y - low.y)};
+    return {static_cast<int>(low.x), static_cast<int>(low.y), static_cast<int>(high.x - low.x),
+        static_cast<int>(high.y - low.y)};
 }
 
 void ShadowCache::target(const Framebuffer& framebuffer) const

@@ -10,9 +10,9 @@
 class Model;
 class ShadowMappingRender;
 
-/// Fills the light depth texture with the same picture as clearing it and drawing every caster would give, without drawing what never
-/// moves again each frame: the static casters are kept in a texture of their own, and only the rectangles that moving casters covered
-/// in the frame before are restored from it.
+/// Fills the light depth texture with the same picture as clearing it and drawing every caster would give, without
+/// drawing what never moves again each frame: the static casters are kept in a texture of their own, and only the
+/// rectangles that moving casters covered in the frame before are restored from it.
 ///
 /// Owned by the renderer. draw() once a frame, after the scene update and the shadow visitor's walk.
 class ShadowCache {

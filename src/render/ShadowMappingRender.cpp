@@ -20,7 +20,8 @@ void ShadowMappingRender::render()
 std::vector<Model*> ShadowMappingRender::casters() const
 {
     std::vector<Model*> result;
-    std::copy_if(registry.begin(), registry.end(), std::back_inserter(result), [](Model* model) { return model->castsShadow; });
+    std::copy_if(registry.begin(), registry.end(), std::back_inserter(result),
+        [](Model* model) { return model->castsShadow; });
     return result;
 }
 

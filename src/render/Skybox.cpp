@@ -16,7 +16,8 @@ Skybox::Skybox()
     shader = Library::getInstance()->getShaderprogram("SkyboxShader");
     Mesh box;
     createBox(box, glm::vec3(-kHalfEdge), glm::vec3(kHalfEdge));
-    geometry = std::make_unique<MeshGeometry>(box, std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Texcoord});
+    geometry = std::make_unique<MeshGeometry>(box,
+        std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Texcoord});
     setGeometry(*geometry);
     setName("Skybox");
     setCullable(false);
@@ -28,7 +29,8 @@ Skybox::~Skybox() = default;
 
 void Skybox::draw()
 {
-    // The box is seen from inside, where its faces are wound the other way; nothing hides behind it, so both windings may show.
+    // The box is seen from inside, where its faces are wound the other way; nothing hides behind it, so both windings
+    // may show.
     glDisable(GL_CULL_FACE);
     glDepthMask(GL_FALSE);
     Model::draw();

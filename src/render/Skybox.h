@@ -4,8 +4,8 @@
 
 #include <memory>
 
-/// A large textured box around the play area, drawn without writing depth: everything else stays in front of it. Built by the game,
-/// which binds its uniforms "view", "projection" and "tex".
+/// A large textured box around the play area, drawn without writing depth: everything else stays in front of it. Built
+/// by the game, which binds its uniforms "view", "projection" and "tex".
 class Skybox final : public Model {
 public:
     Skybox();

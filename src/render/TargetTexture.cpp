@@ -1,6 +1,7 @@
 #include "render/TargetTexture.h"
 
-TargetTexture::TargetTexture(GLint internalFormat, GLenum format, GLenum type, glm::ivec2 sizeInPixels) : size(sizeInPixels)
+TargetTexture::TargetTexture(GLint internalFormat, GLenum format, GLenum type, glm::ivec2 sizeInPixels)
+    : size(sizeInPixels)
 {
     glGenTextures(1, &name);
     glBindTexture(GL_TEXTURE_2D, name);

@@ -8,10 +8,11 @@
 class Shaderprogram;
 class Texture;
 
-/// Draws lines of monospaced text from a bitmap font of 16 x 16 glyph cells, in normalised device coordinates of the whole window.
+/// Draws lines of monospaced text from a bitmap font of 16 x 16 glyph cells, in normalised device coordinates of the
+/// whole window.
 ///
-/// Owned by the renderer. Once a pass: clear(), any number of addText(), one render(). The queue is kept on the CPU and uploaded whole
-/// with every addText.
+/// Owned by the renderer. Once a pass: clear(), any number of addText(), one render(). The queue is kept on the CPU and
+/// uploaded whole with every addText.
 class TextRenderer {
 public:
     TextRenderer();
@@ -19,7 +20,8 @@ public:
     void setShader(Shaderprogram* program) { shader = program; } ///< borrowed; null draws nothing
     void setFont(Texture* texture) { font = texture; }           ///< borrowed; null draws nothing
 
-    /// Queues the text with the lower-left corner of its first glyph at (x, y). Glyphs are 0.0625 wide and high; text never wraps.
+    /// Queues the text with the lower-left corner of its first glyph at (x, y). Glyphs are 0.0625 wide and high; text
+    /// never wraps.
     void addText(const std::string& text, double x, double y);
 
     void render(); ///< draws the queue, which stays

@@ -32,6 +32,7 @@ void TextureFilters::cycleMinification()
 void TextureFilters::apply() const
 {
     for (Texture* texture : Library::getInstance()->getAll<Texture>()) {
-        texture->setFilter(linearMagnification ? GL_LINEAR : GL_NEAREST, kMinification[linearMagnification][minificationMode]);
+        texture->setFilter(linearMagnification ? GL_LINEAR : GL_NEAREST,
+            kMinification[linearMagnification][minificationMode]);
     }
 }

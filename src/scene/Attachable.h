@@ -2,7 +2,8 @@
 
 #include "scene/INodeVisitor.h"
 
-/// Something that hangs on a scene node: a model, a camera, a particle system. Owned by whoever created it; the node only borrows it.
+/// Something that hangs on a scene node: a model, a camera, a particle system. Owned by whoever created it; the node
+/// only borrows it.
 class Attachable {
 public:
     /// Once per scene update, after the owning node's world transform is current.

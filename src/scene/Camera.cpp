@@ -16,17 +16,19 @@ constexpr float kVisibilityMargin = 5.0f; // world units outside a plane that st
 } // namespace
 
 Camera::Camera(float fov, float aspect, float near, float far, const glm::vec3& position)
-    : projection(glm::perspective(glm::radians(kProjectionFovDegrees), kProjectionAspect, kProjectionNear, kProjectionFar)),
+    : projection(glm::perspective(glm::radians(kProjectionFovDegrees), kProjectionAspect, kProjectionNear,
+          kProjectionFar)),
       eyeOffset(glm::lookAt(glm::vec3(0, 0, 0), glm::vec3(0, 0, -1), glm::vec3(0, 1, 0)))
 {
     view = eyeOffset * translation(position);
 
-    // Half angles in degrees go to sine and cosine as they are: 22.5 radians makes a wedge of about 29 degrees to either side,
-    // a little wider than what the projection shows, and the game's pictures are composed for it.
+    // Half angles in degrees go to sine and cosine as they are: 22.5 radians makes a wedge of about 29 degrees to
+    // either side, a little wider than what the projection shows, and the game's pictures are composed for it.
     const float h = fov / 2;
     const float k = fov / aspect / 2;
     planes = {glm::vec4(0, 0, -1, near), glm::vec4(0, 0, 1, far), glm::vec4(std::cos(h), 0, std::sin(h), 0),
-        glm::vec4(-std::cos(h), 0, std::sin(h), 0), glm::vec4(0, -std::sin(k), std::cos(k), 0), glm::vec4(0, std::sin(k), std::cos(k), 0)};
+        glm::vec4(-std::cos(h), 0, std::sin(h), 0), glm::vec4(0, -std::sin(k), std::cos(k), 0),
+        glm::vec4(0, std::sin(k), std::cos(k), 0)};
 }
 
 void Camera::update()

@@ -6,12 +6,13 @@
 
 #include <array>
 
-/// Turns the pose of the node it hangs on into a view matrix, carries a perspective projection, and answers whether a point lies
-/// roughly inside the view. Owned by an actor or a game state; drawn through a Viewport.
+/// Turns the pose of the node it hangs on into a view matrix, carries a perspective projection, and answers whether a
+/// point lies roughly inside the view. Owned by an actor or a game state; drawn through a Viewport.
 class Camera final : public Attachable {
 public:
-    /// fov in degrees, near and far in world units. They shape the culling planes only: the projection is the same for every camera
-    /// (45 degrees, 1.3333334, 0.1, 1000). position is the initial view's translation, until the first update().
+    /// fov in degrees, near and far in world units. They shape the culling planes only: the projection is the same for
+    /// every camera (45 degrees, 1.3333334, 0.1, 1000). position is the initial view's translation, until the first
+    /// update().
     Camera(float fov, float aspect, float near, float far, const glm::vec3& position);
 
     void update() override; ///< view from the node's world transform

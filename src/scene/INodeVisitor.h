@@ -5,8 +5,8 @@ class Camera;
 class Model;
 class Node;
 
-/// Walks the scene tree by double dispatch: the tree calls visitNode for each node, each attachment calls the operation of its own kind.
-/// The release operations mirror the visits for the walk that withdraws a subtree.
+/// Walks the scene tree by double dispatch: the tree calls visitNode for each node, each attachment calls the operation
+/// of its own kind. The release operations mirror the visits for the walk that withdraws a subtree.
 class INodeVisitor {
 public:
     virtual void visitModel(Model* model) = 0;

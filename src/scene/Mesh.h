@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/base/ILibraryObject.h"
+#include "base/ILibraryObject.h"
 
 #include <glm/glm.hpp>
 
 #include <vector>
 
-/// Geometry on the CPU: per-vertex arrays of equal length and a list of 16-bit triangle indices. Imported meshes are shared through
-/// the asset library; generated ones belong to their maker.
+/// Geometry on the CPU: per-vertex arrays of equal length and a list of 16-bit triangle indices. Imported meshes are
+/// shared through the asset library; generated ones belong to their maker.
 class Mesh final : public ILibraryObject {
 public:
     std::vector<glm::vec3> positions;
@@ -22,8 +22,8 @@ public:
     /// Lowers min and raises max to take in every position; the caller supplies their starting values.
     void getBounds(glm::vec3& min, glm::vec3& max) const;
 
-    /// Replaces the normals by smooth ones: the sum of the adjoining faces' unit normals, each the negative of the usual
-    /// counter-clockwise one, normalised.
+    /// Replaces the normals by smooth ones: the sum of the adjoining faces' unit normals, each the negative of the
+    /// usual counter-clockwise one, normalised.
     void calculateNormals();
 
     /// Swaps two components of every normal: x and y if both are named, else x and z, else y and z.

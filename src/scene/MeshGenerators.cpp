@@ -1,6 +1,6 @@
 #include "scene/MeshGenerators.h"
 
-#include "app/base/Assert.h"
+#include "base/Assert.h"
 #include "scene/Mesh.h"
 
 #include <array>

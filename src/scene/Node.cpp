@@ -1,6 +1,6 @@
 #include "scene/Node.h"
 
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 #include "scene/Attachable.h"
 #include "scene/INodeVisitor.h"
 

@@ -12,14 +12,15 @@ class INodeVisitor;
 
 /// A frame of reference in the scene tree: world = parent's world x local, column vectors.
 ///
-/// Nodes are created detached or by createChild, live until the process ends, and are never freed: destroy() only takes them out of
-/// the tree. World transforms are as fresh as the last SceneGraph::update.
+/// Nodes are created detached or by createChild, live until the process ends, and are never freed: destroy() only takes
+/// them out of the tree. World transforms are as fresh as the last SceneGraph::update.
 class Node {
 public:
     Node() = default;
     explicit Node(std::string nodeName);
 
-    /// From memory that nodes have to themselves: thousands of them, scattered among what is freed again, would break the heap to pieces.
+    /// From memory that nodes have to themselves: thousands of them, scattered among what is freed again, would break
+    /// the heap to pieces.
     static void* operator new(std::size_t bytes);
     static void operator delete(void*) {}
 

@@ -1,6 +1,6 @@
 #include "scene/RangeCuller.h"
 
-#include "app/base/Assert.h"
+#include "base/Assert.h"
 #include "scene/Mesh.h"
 
 #include <algorithm>
@@ -20,7 +20,8 @@ bool isOutside(const glm::vec3& min, const glm::vec3& max, const glm::mat4& toCl
             above[axis] += clip[axis] > clip.w;
         }
     }
-    return std::any_of(below, below + 3, [](int n) { return n == 8; }) || std::any_of(above, above + 3, [](int n) { return n == 8; });
+    return std::any_of(below, below + 3, [](int n) { return n == 8; }) ||
+        std::any_of(above, above + 3, [](int n) { return n == 8; });
 }
 
 } // namespace

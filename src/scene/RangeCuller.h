@@ -14,15 +14,17 @@ struct IndexRange {
     bool operator==(const IndexRange&) const = default;
 };
 
-/// Finds the stretches of a large static mesh that a view may show, so that the rest never reaches the GPU. Keeps the bounds of runs of
-/// consecutive triangles; the order of the indices stays as it is. Built once per mesh, which is not needed afterwards.
+/// Finds the stretches of a large static mesh that a view may show, so that the rest never reaches the GPU. Keeps the
+/// bounds of runs of consecutive triangles; the order of the indices stays as it is. Built once per mesh, which is not
+/// needed afterwards.
 class RangeCuller {
 public:
     /// indicesPerRun: a multiple of 3, at least 3. Runs do best when they are compact: some cells of one row of a grid.
     RangeCuller(const Mesh& mesh, unsigned indicesPerRun);
 
-    /// The stretches whose bounds touch the view and whose nearest point to the eye is at least `from` and less than `to` away, in order,
-    /// neighbours joined. toClip: the mesh's coordinates to clip space; eye, from and to in the mesh's coordinates and units.
+    /// The stretches whose bounds touch the view and whose nearest point to the eye is at least `from` and less than
+    /// `to` away, in order, neighbours joined. toClip: the mesh's coordinates to clip space; eye, from and to in the
+    /// mesh's coordinates and units.
     std::vector<IndexRange> visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const;
 
 private:

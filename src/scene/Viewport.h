@@ -4,7 +4,8 @@
 
 class Camera;
 
-/// One rectangle of the window and the camera drawn into it: plain data, which the renderer applies. Owned by an actor or a game state.
+/// One rectangle of the window and the camera drawn into it: plain data, which the renderer applies. Owned by an actor
+/// or a game state.
 class Viewport {
 public:
     struct Rect {

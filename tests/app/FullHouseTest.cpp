@@ -1,12 +1,12 @@
 #include "BenchGame.h"
 #include "app/Core.h"
 #include "app/GameStateManager.h"
-#include "app/base/IGameState.h"
-#include "app/match/ViewportLayout.h"
 #include "assets/Library.h"
+#include "base/IGameState.h"
 #include "e2e/Picture.h"
 #include "gpu/Shaderprogram.h"
 #include "input/VirtualPad.h"
+#include "match/ViewportLayout.h"
 #include "physics/VehicleHandle.h"
 #include "players/Ball.h"
 #include "players/Player.h"
@@ -34,7 +34,8 @@ class Screen : public IFrameProbe {
 public:
     void stepDone(const char* step) override
     {
-        if (step == std::string("CelPostProc")) glReadPixels(0, 0, 1024, 768, GL_RGB, GL_UNSIGNED_BYTE, whole.pixels.data());
+        if (step == std::string("CelPostProc"))
+            glReadPixels(0, 0, 1024, 768, GL_RGB, GL_UNSIGNED_BYTE, whole.pixels.data());
     }
 
     /// A viewport's picture, upside down.
@@ -50,8 +51,8 @@ private:
     Picture whole{1024, 768, std::vector<unsigned char>(1024 * 768 * 3)};
 };
 
-/// The whole game with its window: six people, four of them with game-pads, and ten computer players have joined on the registration
-/// screen. There is one game to a process, so the tests share the match.
+/// The whole game with its window: six people, four of them with game-pads, and ten computer players have joined on the
+/// registration screen. There is one game to a process, so the tests share the match.
 class FullHouse : public testing::Test {
 protected:
     struct House {
@@ -184,14 +185,17 @@ TEST_F(FullHouse, StartsAtOnceWithSixteenCarsAndSixViews)
 TEST_F(FullHouse, GroundFarAwayLooksAsIfItWereDrawnInPatchesToo)
 {
     const Screen usual = drawAgain();
-    Library::getInstance()->getShaderprogram("TerrainFar")->createProgram(); // not linked: everything is drawn in patches
+    Library::getInstance()
+        ->getShaderprogram("TerrainFar")
+        ->createProgram(); // not linked: everything is drawn in patches
     const Screen patches = drawAgain();
     Library::getInstance()->loadShader("TerrainFar", "Shader/TerrainFar.shader");
 
     constexpr double kSmoke = 0.03; // what rises from one drawing to the next
     for (int i = 0; i < kMaxHumanPlayers; ++i) {
         const Picture view = usual.cell(viewportCell(kMaxHumanPlayers, i, 1024, 768));
-        EXPECT_LT(changedShare(view, patches.cell(viewportCell(kMaxHumanPlayers, i, 1024, 768)), view.whole()), kSmoke) << "view " << i;
+        EXPECT_LT(changedShare(view, patches.cell(viewportCell(kMaxHumanPlayers, i, 1024, 768)), view.whole()), kSmoke)
+            << "view " << i;
     }
 }
 
@@ -218,7 +222,8 @@ TEST_F(FullHouse, EverybodyDrivesTheirOwnCarAndShoots)
     for (int driver = 0; driver < kMaxHumanPlayers; ++driver) {
         steppedOn(driver, true);
         pass();
-        for (int i = 0; i < kMaxHumanPlayers; ++i) EXPECT_EQ(throttleOf(player(i)), i == driver ? 1 : 0) << driver << " drives " << i;
+        for (int i = 0; i < kMaxHumanPlayers; ++i)
+            EXPECT_EQ(throttleOf(player(i)), i == driver ? 1 : 0) << driver << " drives " << i;
         steppedOn(driver, false);
     }
 

@@ -1,5 +1,5 @@
 #include "app/GameStateManager.h"
-#include "app/base/IGameState.h"
+#include "base/IGameState.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,9 @@ std::string calls;
 
 class LoggingState : public IGameState {
 public:
-    LoggingState(const std::string& stateName, std::string callName) : IGameState(stateName), call(std::move(callName)) {}
+    LoggingState(const std::string& stateName, std::string callName) : IGameState(stateName), call(std::move(callName))
+    {
+    }
 
     void enter() override { calls += "enter " + call + ". "; }
     void leave() override { calls += "leave " + call + ". "; }

@@ -11,10 +11,12 @@
 
 namespace {
 
-const std::string kVertex = "#version 430 core\nin vec3 position;\nvoid main() { gl_Position = vec4(position, 1.0); }\n";
+const std::string kVertex =
+    "#version 430 core\nin vec3 position;\nvoid main() { gl_Position = vec4(position, 1.0); }\n";
 const std::string kFragment = "#version 430 core\nout vec4 colour;\nvoid main() { colour = vec4(1.0); }\n";
 // The layout of the file into lines means nothing.
-const std::string kProgram = "\n\n \tVERTEX_SHADER\r\n Shader/plain.vert\r\n\nFRAGMENT_SHADER   Shader/plain.frag  \r\n";
+const std::string kProgram =
+    "\n\n \tVERTEX_SHADER\r\n Shader/plain.vert\r\n\nFRAGMENT_SHADER   Shader/plain.frag  \r\n";
 
 class LibraryLoadersTest : public GlTest {
 protected:
@@ -64,7 +66,8 @@ TEST_F(LibraryLoadersTest, ALoadThatEndsEarlyGivesOneErrorAndRegistersNothing)
         {"VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER absent.frag", "couldn't open file: absent.frag\n"},
         {"VERTEX_SHADER folder", "couldn't open file: folder\n"},
         {"VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER", "couldn't open file: \n"},
-        {"VERTEX_SHADER Shader/plain.vert fragment_shader x", "unknown shader stage \"fragment_shader\" in any.shader\n"},
+        {"VERTEX_SHADER Shader/plain.vert fragment_shader x",
+            "unknown shader stage \"fragment_shader\" in any.shader\n"},
         {std::string("\x89PNG\x02\xff") + std::string(500, '\xe4'),
             "unknown shader stage \"?PNG" + std::string(36, '?') + "\" in any.shader\n"}};
     for (const auto& [text, error] : rows) {
@@ -81,9 +84,11 @@ TEST_F(LibraryLoadersTest, ALoadThatEndsEarlyGivesOneErrorAndRegistersNothing)
 TEST_F(LibraryLoadersTest, SpoiledStagesAreNamedAndTheProgramIsRegisteredUnusable)
 {
     CompilerErrorsExpected spoiled;
-    const std::string withSpoiled = "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER spoiled.frag", withoutStages = " \n \n";
+    const std::string withSpoiled = "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER spoiled.frag",
+                      withoutStages = " \n \n";
     const std::pair<std::string, std::string> rows[] = {// text of the .shader file, text of the stage
-        {withoutStages, ""}, {withSpoiled, ""}, {withSpoiled, std::string(100000, '(')}, {withSpoiled, kFragment.substr(0, 40)}};
+        {withoutStages, ""}, {withSpoiled, ""}, {withSpoiled, std::string(100000, '(')},
+        {withSpoiled, kFragment.substr(0, 40)}};
     for (const auto& [program, stage] : rows) {
         data.write("any.shader", program);
         data.write("spoiled.frag", stage);

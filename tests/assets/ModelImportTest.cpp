@@ -60,7 +60,8 @@ TEST_F(ModelImportTest, PositionsAreMirroredInZAndWhatTheFileLacksGetsItsDefault
 TEST_F(ModelImportTest, TextureCoordinatesComeWithTangentsAndSharedCornersAreJoined)
 {
     // a square in the xy plane whose u runs along y
-    data.write("square.obj", "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nvt 0 0\nvt 0 1\nvt 1 1\nvt 1 0\nf 1/1 2/2 3/3\nf 1/1 3/3 4/4\n");
+    data.write("square.obj",
+        "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nvt 0 0\nvt 0 1\nvt 1 1\nvt 1 0\nf 1/1 2/2 3/3\nf 1/1 3/3 4/4\n");
     const auto mesh = importMesh("square.obj");
     ASSERT_TRUE(mesh);
     EXPECT_EQ(mesh->getVertexCount(), 4u);
@@ -100,7 +101,8 @@ TEST_F(ModelImportTest, Md5MeshesAreStoodUpByTheCaseSensitiveEndOfTheirPath)
     const std::string model =
         "MD5Version 10\ncommandline \"\"\n\nnumJoints 1\nnumMeshes 1\n\n"
         "joints {\n\t\"origin\" -1 ( 0 0 0 ) ( 0 0 0 )\n}\n\n"
-        "mesh {\n\tshader \"none\"\n\n\tnumverts 3\n\tvert 0 ( 0 0 ) 0 1\n\tvert 1 ( 1 0 ) 1 1\n\tvert 2 ( 0 1 ) 2 1\n\n"
+        "mesh {\n\tshader \"none\"\n\n\tnumverts 3\n\tvert 0 ( 0 0 ) 0 1\n\tvert 1 ( 1 0 ) 1 1\n\tvert 2 ( 0 1 ) 2 "
+        "1\n\n"
         "\tnumtris 1\n\ttri 0 0 1 2\n\n\tnumweights 3\n\tweight 0 0 1 ( 1 2 3 )\n\tweight 1 0 1 ( 4 5 6 )\n"
         "\tweight 2 0 1 ( 7 8 10 )\n}\n";
     data.write("knight.md5mesh", model);
@@ -144,8 +146,8 @@ TEST_F(ModelImportTest, AFileWithoutAMeshGivesOneWarningThatNamesItAndRegistersN
     data.write("hugeCount.dae", cameraWith("count=\"432\"", "count=\"99999999999999999999\""));
     data.write("picture.tga", "no model at all");
     std::filesystem::create_directory("folder.dae");
-    for (const char* path : {"absent.dae", "garbage.dae", "noGeometry.dae", "noIndex.dae", "noNumber.dae", "noCount.dae", "tooFar.dae",
-             "narrow.dae", "hugeCount.dae", "picture.tga", "folder.dae"}) {
+    for (const char* path : {"absent.dae", "garbage.dae", "noGeometry.dae", "noIndex.dae", "noNumber.dae",
+             "noCount.dae", "tooFar.dae", "narrow.dae", "hugeCount.dae", "picture.tga", "folder.dae"}) {
         SCOPED_TRACE(path);
         CapturedLog log;
         library.loadModel("Spoiled", path);
@@ -164,7 +166,8 @@ TEST_F(ModelImportTest, AFileCutAnywhereEitherGivesAWholeMeshOrNone)
         data.write("cut.dae", whole.substr(0, length));
         const auto mesh = importMesh("cut.dae");
         if (!mesh) continue;
-        for (const unsigned short index : mesh->indices) EXPECT_LT(index, mesh->getVertexCount()) << "cut at " << length;
+        for (const unsigned short index : mesh->indices)
+            EXPECT_LT(index, mesh->getVertexCount()) << "cut at " << length;
     }
 }
 

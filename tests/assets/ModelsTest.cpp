@@ -67,12 +67,14 @@ TEST_F(ModelsTest, AHellknightSetsItsUniformsForTheCameraItself)
     other.bind();
     knight.bind(&camera);
     knight.draw();
-    EXPECT_EQ(pixelAt(kSide / 2, kSide / 2), glm::ivec4(0, 0, 0, 255)) << "its texture is missing; another one was left in its place";
+    EXPECT_EQ(pixelAt(kSide / 2, kSide / 2), glm::ivec4(0, 0, 0, 255))
+        << "its texture is missing; another one was left in its place";
 
     library.loadTexture("Hellknight_Diffuse", "knight.tga");
     knight.bind(&camera);
     knight.draw();
-    EXPECT_EQ(pixelAt(kSide / 2, kSide / 2), glm::ivec4(255, 0, 255, 255)) << "right half, lower half of the picture; facing the camera";
+    EXPECT_EQ(pixelAt(kSide / 2, kSide / 2), glm::ivec4(255, 0, 255, 255))
+        << "right half, lower half of the picture; facing the camera";
     EXPECT_EQ(pixelAt(2, kSide / 2), glm::ivec4(0)) << "five units off, it does not fill the view";
 }
 

@@ -29,7 +29,8 @@ std::vector<glm::vec3> duckInCar()
 std::vector<glm::vec3> hatInCar()
 {
     std::vector<glm::vec3> result;
-    for (const glm::vec3& p : import("partyhat.dae").positions) result.push_back(0.5f * glm::vec3(p.x - 0.1f, p.z + 7.3f, 1.0f - p.y));
+    for (const glm::vec3& p : import("partyhat.dae").positions)
+        result.push_back(0.5f * glm::vec3(p.x - 0.1f, p.z + 7.3f, 1.0f - p.y));
     return result;
 }
 
@@ -46,7 +47,8 @@ struct Bounds {
 
 TEST(Models, KeepToTheirBudgetAndShowTheirOutside)
 {
-    for (const auto& [file, budget] : {std::pair{"duck.dae", 1500u}, std::pair{"partyhat.dae", 400u}, std::pair{"camera.dae", 300u}}) {
+    for (const auto& [file, budget] :
+        {std::pair{"duck.dae", 1500u}, std::pair{"partyhat.dae", 400u}, std::pair{"camera.dae", 300u}}) {
         SCOPED_TRACE(file);
         const Mesh mesh = import(file);
         EXPECT_GT(mesh.indices.size(), 3 * 50u);
@@ -87,7 +89,8 @@ TEST(HatModel, SitsOnTheDucksHead)
 {
     const std::vector<glm::vec3> duck = duckInCar();
     const Bounds hat(hatInCar());
-    const glm::vec3 crown = *std::max_element(duck.begin(), duck.end(), [](const glm::vec3& a, const glm::vec3& b) { return a.y < b.y; });
+    const glm::vec3 crown =
+        *std::max_element(duck.begin(), duck.end(), [](const glm::vec3& a, const glm::vec3& b) { return a.y < b.y; });
     constexpr float kBob = 0.5f; // units up and down
     EXPECT_LT(hat.low.y - kBob, crown.y) << "at its lowest it touches the head";
     EXPECT_GT(hat.low.y + kBob, crown.y + 0.2f) << "at its highest it is off";

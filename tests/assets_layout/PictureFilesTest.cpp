@@ -29,11 +29,13 @@ int difference(const Image& image, int x, int y, int otherX, int otherY)
 
 TEST(Pictures, AreUploadedWithoutResampling)
 {
-    for (const auto& [file, channels] : {std::pair{"Models/skybox.tga", 3}, std::pair{"Textures/Dirt.tga", 3},
-             std::pair{"Textures/Grass.tga", 3}, std::pair{"Textures/Smoke.tga", 4}, std::pair{"Textures/font.tga", 4}}) {
+    for (const auto& [file, channels] :
+        {std::pair{"Models/skybox.tga", 3}, std::pair{"Textures/Dirt.tga", 3}, std::pair{"Textures/Grass.tga", 3},
+            std::pair{"Textures/Smoke.tga", 4}, std::pair{"Textures/font.tga", 4}}) {
         const Image image = read(file);
         EXPECT_EQ(image.channels, channels) << file;
-        for (const int side : {image.width, image.height}) EXPECT_TRUE(std::has_single_bit(static_cast<unsigned>(side))) << file;
+        for (const int side : {image.width, image.height})
+            EXPECT_TRUE(std::has_single_bit(static_cast<unsigned>(side))) << file;
     }
 }
 
@@ -43,7 +45,8 @@ TEST(Pictures, OfTheGroundRepeatWithoutASeam)
         const Image image = read(file);
         const auto stepBetweenRows = [&](int y, int next) {
             int sum = 0;
-            for (int x = 0; x < image.width; ++x) sum += difference(image, x, y, x, next) + difference(image, y, x, next, x);
+            for (int x = 0; x < image.width; ++x)
+                sum += difference(image, x, y, x, next) + difference(image, y, x, next, x);
             return sum;
         };
         int largest = 0;
@@ -79,7 +82,8 @@ TEST_F(FontTest, GlyphsKeepOffTheirNeighbours)
     const int side = font.width / 16;
     const auto isRim = [side](int at) { return at % side == 0 || at % side == side - 1; };
     for (int y = 0; y < font.height; ++y)
-        for (int x = 0; x < font.width; ++x) ASSERT_FALSE((isRim(x) || isRim(y)) && font.at(x, y)[3] >= kDrawnFrom) << x << ", " << y;
+        for (int x = 0; x < font.width; ++x)
+            ASSERT_FALSE((isRim(x) || isRim(y)) && font.at(x, y)[3] >= kDrawnFrom) << x << ", " << y;
 }
 
 TEST(SkyPicture, HasFacesThatMeetAndAFloorOfOneColour)
@@ -105,7 +109,8 @@ TEST(SkyPicture, HasFacesThatMeetAndAFloorOfOneColour)
     constexpr int kFloorTolerance = 2;
     for (int x = 0; x < sky.width; ++x) {
         ASSERT_LE(difference(sky, 0, 0, x, 0), kFloorTolerance) << "lower edge at " << x;
-        ASSERT_LE(difference(sky, 0, 0, x, sky.height - 1), kFloorTolerance) << "upper edge, which filtering mixes in, at " << x;
+        ASSERT_LE(difference(sky, 0, 0, x, sky.height - 1), kFloorTolerance)
+            << "upper edge, which filtering mixes in, at " << x;
     }
 }
 
@@ -119,13 +124,16 @@ TEST(HeightImage, LiesHighAndGentleWhereCarsEnter)
     ASSERT_GE(map.width, 512);
     ASSERT_GE(map.height, 512);
 
-    const auto height = [&](int row, int column) { return static_cast<float>(*map.at(column * kSpacing, row * kSpacing)) * kUnitsAByte; };
+    const auto height = [&](int row, int column) {
+        return static_cast<float>(*map.at(column * kSpacing, row * kSpacing)) * kUnitsAByte;
+    };
     const auto isEntry = [](int sample) { return std::abs(sample * kSpacing - 256) <= 100 + kSpacing; };
     for (int row = 0; row + 1 < kSamples; ++row) {
         for (int column = 0; column + 1 < kSamples; ++column) {
             if (!isEntry(row) || !isEntry(column)) continue;
             const float h = height(row, column);
-            EXPECT_TRUE(h >= kLow && h <= kHigh) << h << " at x " << row * kSpacing - 256 << ", z " << column * kSpacing - 256;
+            EXPECT_TRUE(h >= kLow && h <= kHigh)
+                << h << " at x " << row * kSpacing - 256 << ", z " << column * kSpacing - 256;
             EXPECT_LE(std::hypot(height(row + 1, column) - h, height(row, column + 1) - h) / kSpacing, kSteepest)
                 << "at x " << row * kSpacing - 256 << ", z " << column * kSpacing - 256;
         }

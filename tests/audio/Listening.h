@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/SoundOutput.h"
+#include "audio/SoundOutput.h"
 
 #include <gtest/gtest.h>
 #include <sndfile.h>
@@ -33,7 +33,8 @@ inline std::vector<float> tone(double hertz, int frames, double amplitude, int r
 {
     std::vector<float> samples;
     samples.reserve(static_cast<std::size_t>(frames));
-    for (int i = 0; i < frames; ++i) samples.push_back(static_cast<float>(amplitude * std::sin(2 * std::numbers::pi * hertz * i / rate)));
+    for (int i = 0; i < frames; ++i)
+        samples.push_back(static_cast<float>(amplitude * std::sin(2 * std::numbers::pi * hertz * i / rate)));
     return samples;
 }
 
@@ -62,7 +63,8 @@ inline Samples decoded(const std::string& path)
     return samples;
 }
 
-/// What is heard over these frames of the game, each of which updates the output and then lasts `passFrames` frames of sound.
+/// What is heard over these frames of the game, each of which updates the output and then lasts `passFrames` frames of
+/// sound.
 inline Samples listen(SoundOutput& output, int frames, int passFrames = kRate / 60)
 {
     Samples heard{std::vector<float>(2 * static_cast<std::size_t>(frames))};

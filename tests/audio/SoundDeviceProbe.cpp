@@ -4,7 +4,8 @@
 #include <string>
 #include <thread>
 
-/// Half a second of a match as the sound system sees it: music, an engine, a shot every ten passes. Its argument is the data folder.
+/// Half a second of a match as the sound system sees it: music, an engine, a shot every ten passes. Its argument is the
+/// data folder.
 int main(int, char** arguments)
 {
     constexpr int kPasses = 100;

@@ -15,7 +15,8 @@ TEST(SoundDevices, AreReportedOnceAndNeverStopTheGame)
 {
     const Machine rows[] = {{"a device that works, and is given back at the end", "null", "2>&1", ""},
         {"no device", "nosuch", "2>/dev/null", "ERROR | Error, initializing Audiosystem!\n"},
-        {"a device that goes away: its disk is full", "wave", "2>/dev/null", "ERROR | The sound device is gone; going on without sound\n"}};
+        {"a device that goes away: its disk is full", "wave", "2>/dev/null",
+            "ERROR | The sound device is gone; going on without sound\n"}};
     const TemporaryFolder folder;
     const std::string settings = folder.write("full.conf", "[wave]\nfile=/dev/full\n");
     for (const Machine& row : rows) {

@@ -56,7 +56,8 @@ TEST_F(SoundFilesTest, BrokenOnesAreRefusedWithALineThatNamesThem)
 
 TEST_F(SoundFilesTest, OfCutOnesWhatIsLeftIsPlayed)
 {
-    const std::pair<const char*, int> rows[] = {{"engine.wav", 2}, {"quackdash.mp3", 20}}; // seconds within which it has ended
+    const std::pair<const char*, int> rows[] = {
+        {"engine.wav", 2}, {"quackdash.mp3", 20}}; // seconds within which it has ended
     for (const auto& [name, goneAfter] : rows) {
         const std::string whole = gameFile(name);
         ASSERT_EQ(output.createSound(folder.write(name, whole.substr(0, whole.size() / 10)), sound), kSoundOk);

@@ -57,7 +57,8 @@ TEST_F(SoundOutputTest, HearsFilesAtTheFrequencyAndVolumeAskedFor)
         EXPECT_EQ(output.setVolume(channel, row.volume), kSoundOk);
         listen(output, kRate / 10); // a volume is reached within the first passes
         const Samples heard = listen(output, kRate);
-        EXPECT_NEAR(amplitudeAt(heard, row.heard), 0.5 * row.volume, 0.003) << row.fileRate << " Hz at " << row.frequency;
+        EXPECT_NEAR(amplitudeAt(heard, row.heard), 0.5 * row.volume, 0.003)
+            << row.fileRate << " Hz at " << row.frequency;
         EXPECT_LT(amplitudeAt(heard, row.heard * 1.02), 0.002) << "the frequency is only near the one asked for";
         EXPECT_EQ(output.setVolume(channel, 0), kSoundOk);
     }
@@ -75,12 +76,14 @@ TEST_F(SoundOutputTest, KeepsLeftAndRightApartAndPlaysOneChannelOnBoth)
     play(loadWave(tone(900, kRate, 0.25)));
     heard = listen(output, kRate);
     EXPECT_NEAR(amplitudeAt(heard, 900), 0.25, 0.001);
-    EXPECT_NEAR(heard.right(1000), heard.left(1000) - 0.5f * std::sin(2 * std::numbers::pi_v<float> * 500 * 1000 / kRate), 0.001f);
+    EXPECT_NEAR(heard.right(1000),
+        heard.left(1000) - 0.5f * std::sin(2 * std::numbers::pi_v<float> * 500 * 1000 / kRate), 0.001f);
 }
 
 TEST_F(SoundOutputTest, LoopsWithoutAGapAlsoAtThreeAndFourTimesTheSpeed)
 {
-    const std::vector<float> samples = tone(441, 4411, 0.5); // three and four don't divide its length: the loop point moves
+    const std::vector<float> samples =
+        tone(441, 4411, 0.5); // three and four don't divide its length: the loop point moves
     for (const int speed : {1, 3, 4}) {
         const SoundChannel channel = play(loadWave(samples));
         EXPECT_EQ(output.setFrequency(channel, static_cast<float>(speed * kRate)), kSoundOk);
@@ -129,13 +132,15 @@ TEST_F(SoundOutputTest, LetsTheOldestOneShotGiveWayToThe33rdSound)
     const auto hertz = [](int i) { return 400.0 + 100 * i; };
     SoundChannel oldest;
     for (int i = 0; i < 32; ++i) { // the first two loop: they stay
-        const SoundChannel channel = play(loadWave(tone(hertz(i), kRate, 0.02)), i < 2 ? SoundMode::LoopNormal : SoundMode::LoopOff);
+        const SoundChannel channel =
+            play(loadWave(tone(hertz(i), kRate, 0.02)), i < 2 ? SoundMode::LoopNormal : SoundMode::LoopOff);
         if (i == 2) oldest = channel;
     }
     const SoundChannel late = play(loadWave(tone(hertz(32), kRate, 0.02)), SoundMode::LoopOff);
 
     const Samples heard = listen(output, kRate / 2);
-    for (int i = 0; i <= 32; ++i) EXPECT_NEAR(amplitudeAt(heard, hertz(i)), i == 2 ? 0.0 : 0.02, 0.001) << "sound " << i;
+    for (int i = 0; i <= 32; ++i)
+        EXPECT_NEAR(amplitudeAt(heard, hertz(i)), i == 2 ? 0.0 : 0.02, 0.001) << "sound " << i;
     EXPECT_NE(output.setVolume(oldest, 0), kSoundOk) << "its channel is another sound's";
     EXPECT_NE(output.setFrequency(oldest, kRate), kSoundOk);
     EXPECT_EQ(output.setVolume(late, 0), kSoundOk);

@@ -24,7 +24,8 @@ TEST(FrameTimerTest, PassesLastAtLeastTheirPeriodAndAreMeasuredInWholeMillisecon
     FrameTimer& timer = *FrameTimer::getInstance();
     for (const Pass& row : rows) {
         SteppedClock clock;
-        const double start = std::ceil(timer.getTimeMs() / 1000.0) + 1; // there is one timer, and it goes on where the last row left it
+        const double start =
+            std::ceil(timer.getTimeMs() / 1000.0) + 1; // there is one timer, and it goes on where the last row left it
         for (const double moment : {row.begin, row.end}) {
             clock.sleep(start + moment - clock.now());
             timer.tick();

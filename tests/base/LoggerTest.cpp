@@ -1,4 +1,4 @@
-#include "app/base/Logger.h"
+#include "base/Logger.h"
 
 #include "support/DataCapturedLog.h"
 
@@ -29,7 +29,8 @@ TEST(LoggerTest, LinesArePrintedAs)
             },
             "WARNING | a\nWARNING | b\n"},
         {"an empty message", [] { logLine(2) << "" << std::endl; }, "DEBUG | \n"},
-        {"parts of one line, six significant digits", [] { logLine(2) << "Vertices: " << 1234567 << ' ' << 59.8802395 << std::endl; },
+        {"parts of one line, six significant digits",
+            [] { logLine(2) << "Vertices: " << 1234567 << ' ' << 59.8802395 << std::endl; },
             "DEBUG | Vertices: 1234567 59.8802\n"},
         {"unfinished text opens the next line, under that line's level",
             [] {

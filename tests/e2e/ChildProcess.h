@@ -11,7 +11,8 @@
 /// Calls `condition` every few milliseconds until it holds; false when it does not within `seconds`.
 bool waitUntil(double seconds, const std::function<bool()>& condition);
 
-/// A program that a test starts, watches and, at the end of its scope at the latest, kills. Also ends with the test itself.
+/// A program that a test starts, watches and, at the end of its scope at the latest, kills. Also ends with the test
+/// itself.
 class ChildProcess {
 public:
     struct Settings {

@@ -31,8 +31,8 @@ void GameSession::launch(const std::vector<std::string>& environment, bool withD
 bool GameSession::start()
 {
     launch();
-    return waitForLog("Enter RegisterPlayersGamestate", 1, kStartSeconds) && display.waitForWindow("Quackdash", kStartSeconds) &&
-        waitUntil(kStartSeconds, [this] {
+    return waitForLog("Enter RegisterPlayersGamestate", 1, kStartSeconds) &&
+        display.waitForWindow("Quackdash", kStartSeconds) && waitUntil(kStartSeconds, [this] {
             return detailShare(display.look(), {0, 0, 200, 200}) > 0.01 || !process->isRunning();
         });
 }
@@ -55,7 +55,8 @@ bool GameSession::startMatch()
 
 bool GameSession::waitForLog(const std::string& text, int times, double seconds)
 {
-    return waitUntil(seconds, [&] { return countInLog(text) >= times || !process->isRunning(); }) && countInLog(text) >= times;
+    return waitUntil(seconds, [&] { return countInLog(text) >= times || !process->isRunning(); }) &&
+        countInLog(text) >= times;
 }
 
 int GameSession::countInLog(const std::string& text) const

@@ -8,13 +8,14 @@
 #include <string>
 #include <vector>
 
-/// One run of the built program on a virtual display of its own, over a scratch copy of the data folder, which is also the test's working
-/// directory: spoil files there before start().
+/// One run of the built program on a virtual display of its own, over a scratch copy of the data folder, which is also
+/// the test's working directory: spoil files there before start().
 class GameSession {
 public:
     GameSession();
 
-    /// Starts the program and waits until the registration screen is up. False when that takes too long or the program ends.
+    /// Starts the program and waits until the registration screen is up. False when that takes too long or the program
+    /// ends.
     [[nodiscard]] bool start();
 
     /// Starts it without waiting. environment: VARIABLE=value each.
@@ -36,7 +37,8 @@ public:
     std::string complaints() const;
 
     /// Waits until the picture in the region differs from `before` in more than that share of its pixels.
-    [[nodiscard]] bool waitForChange(const Picture& before, const ScreenArea& region, double share, double seconds = 20);
+    [[nodiscard]] bool waitForChange(const Picture& before, const ScreenArea& region, double share,
+        double seconds = 20);
 
     /// Presses Escape and returns the exit status; -1 when the program does not end.
     int quit();

@@ -42,11 +42,13 @@ protected:
 TEST_F(Match, PeopleAndComputerPlayersJoinDriveShootAndAreRankedEveryThreeSeconds)
 {
     game.tap("k");
-    ASSERT_TRUE(game.waitForLog("DEBUG | Registering (0) Player 0, Pfeil\nDEBUG | ")) << "lines must arrive while the program runs";
+    ASSERT_TRUE(game.waitForLog("DEBUG | Registering (0) Player 0, Pfeil\nDEBUG | "))
+        << "lines must arrive while the program runs";
     game.tap("Return");
     game.tap("1");
     ASSERT_TRUE(game.waitForLog("Registering (0) Player 1, WASD"));
-    EXPECT_EQ(game.countInLog("Enter PlayGamestate"), 0) << "one player alone must not start, nor when the second joins";
+    EXPECT_EQ(game.countInLog("Enter PlayGamestate"), 0)
+        << "one player alone must not start, nor when the second joins";
     ASSERT_TRUE(waitUntil(60, [this] {
         game.tap("space");
         return game.countInLog(", AI-Controller ") == kComputerPlayers;
@@ -81,8 +83,9 @@ TEST_F(Match, FunctionKeysDoTheirWorkAndLeaveTheLogClean)
     const ScreenArea fpsText{100, 665, 400, 30};
     before = game.screen().lookAt(fpsText);
     game.tap("F2");
-    EXPECT_TRUE(waitUntil(10, [&] { return changedShare(before, game.screen().lookAt(fpsText), before.whole()) > 0.05; }))
-        << "no frame rate";
+    EXPECT_TRUE(waitUntil(10, [&] {
+        return changedShare(before, game.screen().lookAt(fpsText), before.whole()) > 0.05;
+    })) << "no frame rate";
     game.tap("F2");
 
     before = game.screen().look();

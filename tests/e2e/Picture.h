@@ -16,7 +16,8 @@ struct Picture {
     ScreenArea whole() const { return {0, 0, width, height}; }
     const unsigned char* at(int x, int y) const
     {
-        return pixels.data() + 3 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x));
+        return pixels.data() +
+            3 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x));
     }
 };
 
@@ -26,5 +27,6 @@ double changedShare(const Picture& before, const Picture& after, const ScreenAre
 /// The share (0 to 1) of a region's pixels that differ visibly from the region's upper-left one: 0 for a blank region.
 double detailShare(const Picture& picture, const ScreenArea& region);
 
-/// How many of a region's pixels are nearly black: outlines of letters and figures, rubber. The landscape and the sky have none.
+/// How many of a region's pixels are nearly black: outlines of letters and figures, rubber. The landscape and the sky
+/// have none.
 int darkPixels(const Picture& picture, const ScreenArea& region);

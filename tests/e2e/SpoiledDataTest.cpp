@@ -38,7 +38,8 @@ void spoil(const fs::path& file, Spoiling spoiling)
 std::vector<std::vector<std::string>> manifest()
 {
     std::vector<std::vector<std::string>> batches{{"Models/duck.dae", "Models/partyhat.dae", "Models/camera.dae"},
-        {"Textures/map.tga", "Textures/Grass.tga", "Textures/Smoke.tga", "Models/skybox.tga"}, {"Textures/Dirt.tga", "Textures/font.tga"},
+        {"Textures/map.tga", "Textures/Grass.tga", "Textures/Smoke.tga", "Models/skybox.tga"},
+        {"Textures/Dirt.tga", "Textures/font.tga"},
         {"Audio/quackdash.mp3", "Audio/duck.wav", "Audio/bang.wav", "Audio/engine.wav"}};
     std::vector<std::string> descriptions, sources;
     for (const auto& entry : fs::directory_iterator("Shader")) {
@@ -53,8 +54,8 @@ std::vector<std::vector<std::string>> manifest()
     return batches;
 }
 
-/// Whether cutting the file leaves it bad at all: half of a description may be a whole shorter one, half of a shader may compile, half of a
-/// sound is a shorter one.
+/// Whether cutting the file leaves it bad at all: half of a description may be a whole shorter one, half of a shader
+/// may compile, half of a sound is a shorter one.
 bool mustBeReported(const std::string& file, Spoiling spoiling)
 {
     const bool isDescription = fs::path(file).extension() == ".shader";
@@ -98,9 +99,12 @@ TEST_P(SpoiledData, IsNamedInTheLogAndTheGameGoesOn)
         const std::string log = game.log();
         for (const std::string& file : batches[batch]) {
             if (!mustBeReported(file, GetParam())) continue;
-            // Half a shader may still compile: then its program does not link, and the description's name stands for it.
+            // Half a shader may still compile: then its program does not link, and the description's name stands for
+            // it.
             const fs::path program = fs::path(file).replace_extension(".shader");
-            EXPECT_TRUE(complainsAbout(file, log) || complainsAbout(program.string(), log)) << file << " is not named:\n" << log;
+            EXPECT_TRUE(complainsAbout(file, log) || complainsAbout(program.string(), log))
+                << file << " is not named:\n"
+                << log;
         }
         // The driver's compiler may say what it thinks of a spoiled shader; nothing may be drawn wrongly because of it.
         EXPECT_EQ(game.countInLog("OpenGL Error:"), game.countInLog("[Source = Shader Compiler,")) << log;

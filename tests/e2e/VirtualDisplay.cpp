@@ -21,8 +21,8 @@ int ignoreError(Display*, XErrorEvent*)
     return 0;
 }
 
-/// The server prints the number of the free display that it took on a line of its own, among remarks about those that were taken.
-/// -1 until it has.
+/// The server prints the number of the free display that it took on a line of its own, among remarks about those that
+/// were taken. -1 until it has.
 int displayNumber(const ChildProcess& server)
 {
     std::istringstream lines(server.output());
@@ -39,7 +39,8 @@ int displayNumber(const ChildProcess& server)
 VirtualDisplay::VirtualDisplay(const std::filesystem::path& outputFolder)
 {
     server = std::make_unique<ChildProcess>(ChildProcess::Settings{
-        {"Xvfb", "-displayfd", "1", "-screen", "0", kScreen, "-nolisten", "tcp", "-noreset"}, {}, {}, outputFolder / "xvfb.txt"});
+        {"Xvfb", "-displayfd", "1", "-screen", "0", kScreen, "-nolisten", "tcp", "-noreset"}, {}, {},
+        outputFolder / "xvfb.txt"});
     waitUntil(kServerSeconds, [this] { return displayNumber(*server) >= 0 || !server->isRunning(); });
     displayName = ":" + std::to_string(displayNumber(*server));
 
@@ -68,7 +69,8 @@ bool VirtualDisplay::findWindow(const std::string& title)
         XWindowAttributes attributes{};
         char* name = nullptr;
         if (!XFetchName(connection, candidate, &name)) continue;
-        if (title == name && XGetWindowAttributes(connection, candidate, &attributes) && attributes.map_state == IsViewable) {
+        if (title == name && XGetWindowAttributes(connection, candidate, &attributes) &&
+            attributes.map_state == IsViewable) {
             windowId = candidate;
             window = {attributes.x, attributes.y, attributes.width, attributes.height};
         }
@@ -115,14 +117,16 @@ Picture VirtualDisplay::lookAt(const ScreenArea& region) const
 {
     XImage* image = XGetImage(connection, DefaultRootWindow(connection), window.x + region.x, window.y + region.y,
         static_cast<unsigned>(region.width), static_cast<unsigned>(region.height), AllPlanes, ZPixmap);
-    if (!image || image->bits_per_pixel != 32) throw std::runtime_error("the window does not lie whole on the virtual screen");
+    if (!image || image->bits_per_pixel != 32)
+        throw std::runtime_error("the window does not lie whole on the virtual screen");
 
     Picture picture{region.width, region.height, {}};
     picture.pixels.reserve(3 * static_cast<std::size_t>(region.width) * static_cast<std::size_t>(region.height));
     for (int y = 0; y < region.height; ++y) {
         const char* row = image->data + static_cast<std::ptrdiff_t>(y) * image->bytes_per_line;
         for (int x = 0; x < region.width; ++x) { // blue, green, red, unused
-            for (int component : {2, 1, 0}) picture.pixels.push_back(static_cast<unsigned char>(row[4 * x + component]));
+            for (int component : {2, 1, 0})
+                picture.pixels.push_back(static_cast<unsigned char>(row[4 * x + component]));
         }
     }
     XDestroyImage(image);

@@ -8,10 +8,11 @@
 
 struct _XDisplay;
 
-/// An X server of one's own that draws into memory (Xvfb), with the hands and eyes of a player: keys, and pictures of one window.
+/// An X server of one's own that draws into memory (Xvfb), with the hands and eyes of a player: keys, and pictures of
+/// one window.
 ///
-/// Construct, start the game on name(), waitForWindow(), then the rest. There is no window manager: keys go to the window under the
-/// pointer, which waitForWindow() places. Failures to start throw std::runtime_error.
+/// Construct, start the game on name(), waitForWindow(), then the rest. There is no window manager: keys go to the
+/// window under the pointer, which waitForWindow() places. Failures to start throw std::runtime_error.
 class VirtualDisplay {
 public:
     explicit VirtualDisplay(const std::filesystem::path& outputFolder); ///< the folder takes the server's messages

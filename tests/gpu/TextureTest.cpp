@@ -48,10 +48,12 @@ struct Picture {
 
 TEST_F(TextureTest, SidesAreRaisedToPowersOfTwoAndTheChannelsDecideTheFormat)
 {
-    const Picture rows[] = {{300, 200, 3, 512, 256, GL_RGB, 10}, {256, 256, 4, 256, 256, GL_RGBA, 9}, {3, 5, 1, 4, 8, GL_RGB, 4}};
+    const Picture rows[] = {
+        {300, 200, 3, 512, 256, GL_RGB, 10}, {256, 256, 4, 256, 256, GL_RGBA, 9}, {3, 5, 1, 4, 8, GL_RGB, 4}};
     for (const Picture& row : rows) {
         SCOPED_TRACE(row.width);
-        data.writeTga("Textures/picture.tga", row.width, row.height, row.channels, [](int, int, int i) { return 40 * (i + 1); });
+        data.writeTga("Textures/picture.tga", row.width, row.height, row.channels,
+            [](int, int, int i) { return 40 * (i + 1); });
         Texture texture;
         texture.load("Textures/picture.tga");
         EXPECT_EQ(level(texture, 0, GL_TEXTURE_WIDTH), row.textureWidth);
@@ -59,7 +61,8 @@ TEST_F(TextureTest, SidesAreRaisedToPowersOfTwoAndTheChannelsDecideTheFormat)
         EXPECT_EQ(level(texture, 0, GL_TEXTURE_INTERNAL_FORMAT), row.format);
         EXPECT_EQ(level(texture, row.levels - 1, GL_TEXTURE_WIDTH), 1) << "the mipmaps go down to one texel";
         EXPECT_EQ(level(texture, row.levels, GL_TEXTURE_WIDTH), 0);
-        const glm::u8vec4 expected(40, row.channels == 1 ? 40 : 80, row.channels == 1 ? 40 : 120, row.channels == 4 ? 160 : 255);
+        const glm::u8vec4 expected(40, row.channels == 1 ? 40 : 80, row.channels == 1 ? 40 : 120,
+            row.channels == 4 ? 160 : 255);
         for (const glm::u8vec4& texel : texelsOf(texture)) ASSERT_EQ(texel, expected);
     }
 }
@@ -76,7 +79,8 @@ TEST_F(TextureTest, RowsRunFromTheBottomUpAndSamplingRepeatsTrilinearly)
     const std::vector<glm::u8vec4> texels = texelsOf(texture);
     for (int y = 0; y < 4; ++y)
         for (int x = 0; x < 2; ++x)
-            EXPECT_EQ(texels[static_cast<std::size_t>(2 * y + x)], glm::u8vec4(60 * y, 200 * x, 7, 255)) << x << ", " << y;
+            EXPECT_EQ(texels[static_cast<std::size_t>(2 * y + x)], glm::u8vec4(60 * y, 200 * x, 7, 255))
+                << x << ", " << y;
 
     EXPECT_EQ(parameter(texture, GL_TEXTURE_WRAP_S), GL_REPEAT);
     EXPECT_EQ(parameter(texture, GL_TEXTURE_WRAP_T), GL_REPEAT);

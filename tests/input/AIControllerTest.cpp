@@ -13,7 +13,10 @@ namespace {
 struct FakePilot : IPilot {
     glm::vec3 getPosition() const override { return position; }
     glm::mat4 getChassisTransform() const override { return glm::translate(glm::mat4(1.0f), position) * attitude; }
-    glm::mat4 getLaunchTransform() const override { return getChassisTransform() * glm::translate(glm::mat4(1.0f), glm::vec3(0, 2, 3)); }
+    glm::mat4 getLaunchTransform() const override
+    {
+        return getChassisTransform() * glm::translate(glm::mat4(1.0f), glm::vec3(0, 2, 3));
+    }
     float getForwardSpeed() const override { return speed; }
     int getDeaths() const override { return deaths; }
 
@@ -51,7 +54,8 @@ protected:
     void preyAt(float degreesRight, float distance)
     {
         const float radians = glm::radians(degreesRight);
-        prey.position = own.position + glm::mat3(own.attitude) * glm::vec3(-std::sin(radians), 0, std::cos(radians)) * distance;
+        prey.position =
+            own.position + glm::mat3(own.attitude) * glm::vec3(-std::sin(radians), 0, std::cos(radians)) * distance;
     }
 
     /// A fresh look at the opponent, whatever was held before.
@@ -86,10 +90,12 @@ struct BearingRow {
 
 TEST_F(AIControllerTest, SteersTowardsTheTargetShootsAtWhatIsAheadAndHandBrakesInSharpTurnsAtSpeed)
 {
-    const BearingRow rows[] = {{1, 0, 0.30389f, 1 - 1.0f / 360, true, false}, {-19, 0, -0.37389f, 1 - 19.0f / 360, true, false},
-        {21, 0, 0.38167f, 1 - 21.0f / 360, false, false}, {-59, 0, -0.52944f, 1 - 59.0f / 360, false, false},
-        {-61, 0, -0.53722f, 1, false, false}, {89, 20, 0.64611f, 1, false, false}, {91, 7.9f, 0.65389f, 1, false, false},
-        {-91, 8.1f, -0.65389f, 1, false, true}, {91, -20, 0.65389f, 1, false, false}, {-170, 20, -0.96111f, 1, false, true}};
+    const BearingRow rows[] = {{1, 0, 0.30389f, 1 - 1.0f / 360, true, false},
+        {-19, 0, -0.37389f, 1 - 19.0f / 360, true, false}, {21, 0, 0.38167f, 1 - 21.0f / 360, false, false},
+        {-59, 0, -0.52944f, 1 - 59.0f / 360, false, false}, {-61, 0, -0.53722f, 1, false, false},
+        {89, 20, 0.64611f, 1, false, false}, {91, 7.9f, 0.65389f, 1, false, false},
+        {-91, 8.1f, -0.65389f, 1, false, true}, {91, -20, 0.65389f, 1, false, false},
+        {-170, 20, -0.96111f, 1, false, true}};
     own.position = {30, 12, -80};
     own.attitude = glm::rotate(glm::mat4(1.0f), glm::radians(100.0f), glm::vec3(0, 1, 0));
     for (const BearingRow& row : rows) {
@@ -122,7 +128,8 @@ TEST_F(AIControllerTest, PointBlankItShootsInAnyDirection)
 
 TEST_F(AIControllerTest, ATargetWithoutADirectionIsNoTrouble)
 {
-    for (const glm::vec3& position : {glm::vec3(0, 30, 0), glm::vec3(0), glm::vec3(0, 0, -40)}) { // above, in the same place, right behind
+    for (const glm::vec3& position :
+        {glm::vec3(0, 30, 0), glm::vec3(0), glm::vec3(0, 0, -40)}) { // above, in the same place, right behind
         prey.position = position;
         lookAfresh();
         EXPECT_EQ(steering(), 0) << position.y;

@@ -1,4 +1,4 @@
-#include "platform/GamePadSlots.h"
+#include "input/GamePadSlots.h"
 
 #include <gtest/gtest.h>
 
@@ -16,11 +16,13 @@ struct Comeback {
 
 TEST(GamePadSlots, TwinsFindTheirOwnSlotsByWhateverTellsThemApart)
 {
-    const Comeback rows[] = {{"serial numbers", {1, "m", "A", "p1"}, {2, "m", "B", "p2"}, {3, "m", "B", "p1"}, {4, "m", "A", "p2"}, 1},
+    const Comeback rows[] = {
+        {"serial numbers", {1, "m", "A", "p1"}, {2, "m", "B", "p2"}, {3, "m", "B", "p1"}, {4, "m", "A", "p2"}, 1},
         {"paths", {1, "m", "", "p1"}, {2, "m", "", "p2"}, {3, "m", "", "p2"}, {4, "m", "", "p1"}, 1},
-        {"paths, where all tell the same serial number", {1, "m", "0", "p1"}, {2, "m", "0", "p2"}, {3, "m", "0", "p2"}, {4, "m", "0", "p1"},
+        {"paths, where all tell the same serial number", {1, "m", "0", "p1"}, {2, "m", "0", "p2"}, {3, "m", "0", "p2"},
+            {4, "m", "0", "p1"}, 1},
+        {"models, against the paths", {1, "m", "", "p1"}, {2, "n", "", "p2"}, {3, "n", "", "p1"}, {4, "m", "", "p2"},
             1},
-        {"models, against the paths", {1, "m", "", "p1"}, {2, "n", "", "p2"}, {3, "n", "", "p1"}, {4, "m", "", "p2"}, 1},
         {"nothing: the order", {1, "m", "", ""}, {2, "m", "", ""}, {3, "m", "", ""}, {4, "m", "", ""}, 0}};
     for (const Comeback& row : rows) {
         SCOPED_TRACE(row.what);

@@ -15,9 +15,10 @@ struct KeyRow {
 
 TEST(KeyboardController, OneKeyPressesOneButtonAndMovesAtMostOneAxis)
 {
-    const KeyRow rows[] = {{1, GLFW_KEY_UP, 0, 0, 1.0f}, {1, GLFW_KEY_DOWN, 1, 1, -1.0f}, {1, GLFW_KEY_LEFT, 2, 2, -1.0f},
-        {1, GLFW_KEY_RIGHT, 3, 2, 1.0f}, {1, GLFW_KEY_K, 4, -1, 0}, {1, GLFW_KEY_L, 5, -1, 0}, {1, GLFW_KEY_ENTER, 6, -1, 0},
-        {2, GLFW_KEY_W, 0, 0, 1.0f}, {2, GLFW_KEY_S, 1, 1, -1.0f}, {2, GLFW_KEY_A, 2, 2, -1.0f}, {2, GLFW_KEY_D, 3, 2, 1.0f},
+    const KeyRow rows[] = {{1, GLFW_KEY_UP, 0, 0, 1.0f}, {1, GLFW_KEY_DOWN, 1, 1, -1.0f},
+        {1, GLFW_KEY_LEFT, 2, 2, -1.0f}, {1, GLFW_KEY_RIGHT, 3, 2, 1.0f}, {1, GLFW_KEY_K, 4, -1, 0},
+        {1, GLFW_KEY_L, 5, -1, 0}, {1, GLFW_KEY_ENTER, 6, -1, 0}, {2, GLFW_KEY_W, 0, 0, 1.0f},
+        {2, GLFW_KEY_S, 1, 1, -1.0f}, {2, GLFW_KEY_A, 2, 2, -1.0f}, {2, GLFW_KEY_D, 3, 2, 1.0f},
         {2, GLFW_KEY_1, 4, -1, 0}, {2, GLFW_KEY_2, 5, -1, 0}, {2, GLFW_KEY_TAB, 6, -1, 0}};
     ScriptedKeyboard keys;
     for (const KeyRow& row : rows) {
@@ -28,7 +29,8 @@ TEST(KeyboardController, OneKeyPressesOneButtonAndMovesAtMostOneAxis)
             EXPECT_EQ(device.isPressed(button), button == row.button) << "button " << button;
             EXPECT_FALSE(otherHalf.isPressed(button)) << "the other half's button " << button;
         }
-        for (int axis = 0; axis <= 3; ++axis) EXPECT_EQ(device.getAxis(axis), axis == row.axis ? row.value : 0.0f) << "axis " << axis;
+        for (int axis = 0; axis <= 3; ++axis)
+            EXPECT_EQ(device.getAxis(axis), axis == row.axis ? row.value : 0.0f) << "axis " << axis;
     }
 }
 

@@ -23,7 +23,8 @@ class VirtualPad {
 public:
     using Motors = std::pair<int, int>; ///< left, right
 
-    explicit VirtualPad(Uint16 ownModel = 1, SDL_JoystickType ownType = SDL_JOYSTICK_TYPE_GAMECONTROLLER) : model(ownModel), type(ownType)
+    explicit VirtualPad(Uint16 ownModel = 1, SDL_JoystickType ownType = SDL_JOYSTICK_TYPE_GAMECONTROLLER)
+        : model(ownModel), type(ownType)
     {
         plugIn();
     }
@@ -69,7 +70,10 @@ public:
     void release(SDL_GameControllerButton button) { SDL_JoystickSetVirtualButton(device, button, 0); }
 
     /// Raw values, -32768 to 32767 on every axis: a trigger's whole way too.
-    void move(SDL_GameControllerAxis axis, int value) { SDL_JoystickSetVirtualAxis(device, axis, static_cast<Sint16>(value)); }
+    void move(SDL_GameControllerAxis axis, int value)
+    {
+        SDL_JoystickSetVirtualAxis(device, axis, static_cast<Sint16>(value));
+    }
 
     std::vector<Motors> rumbles; ///< what the motors were set to, in order
     int timesAsked = 0;          ///< how often the library read it

@@ -34,11 +34,15 @@ protected:
     std::string connected()
     {
         std::string shown;
-        for (XBOXController& controller : controllers) shown += controller.isConnected() ? controller.getName().back() : '-';
+        for (XBOXController& controller : controllers)
+            shown += controller.isConnected() ? controller.getName().back() : '-';
         return shown;
     }
 
-    bool isShooting(int number) { return controllers[static_cast<std::size_t>(number - 1)].isPressed(InputDevice::kShoot); }
+    bool isShooting(int number)
+    {
+        return controllers[static_cast<std::size_t>(number - 1)].isPressed(InputDevice::kShoot);
+    }
 
     PadLibrary library;
     SteppedClock clock;
@@ -57,16 +61,17 @@ struct ButtonRow {
 TEST_F(XBOXControllerTest, EveryPadButtonHasItsRole)
 {
     VirtualPad pad;
-    const ButtonRow rows[] = {{SDL_CONTROLLER_BUTTON_DPAD_UP, 0, false, false}, {SDL_CONTROLLER_BUTTON_DPAD_DOWN, 1, false, false},
-        {SDL_CONTROLLER_BUTTON_DPAD_LEFT, 2, false, false}, {SDL_CONTROLLER_BUTTON_DPAD_RIGHT, 3, false, false},
-        {SDL_CONTROLLER_BUTTON_A, 4, false, false}, {SDL_CONTROLLER_BUTTON_B, 5, false, false},
-        {SDL_CONTROLLER_BUTTON_START, 6, true, false}, {SDL_CONTROLLER_BUTTON_BACK, -1, false, true},
-        {SDL_CONTROLLER_BUTTON_X, -1, false, false}};
+    const ButtonRow rows[] = {{SDL_CONTROLLER_BUTTON_DPAD_UP, 0, false, false},
+        {SDL_CONTROLLER_BUTTON_DPAD_DOWN, 1, false, false}, {SDL_CONTROLLER_BUTTON_DPAD_LEFT, 2, false, false},
+        {SDL_CONTROLLER_BUTTON_DPAD_RIGHT, 3, false, false}, {SDL_CONTROLLER_BUTTON_A, 4, false, false},
+        {SDL_CONTROLLER_BUTTON_B, 5, false, false}, {SDL_CONTROLLER_BUTTON_START, 6, true, false},
+        {SDL_CONTROLLER_BUTTON_BACK, -1, false, true}, {SDL_CONTROLLER_BUTTON_X, -1, false, false}};
     for (const ButtonRow& row : rows) {
         SCOPED_TRACE(SDL_GameControllerGetStringForButton(row.held));
         pad.press(row.held);
         pass();
-        for (int button = -1; button <= 7; ++button) EXPECT_EQ(first.isPressed(button), button >= 0 && button == row.button) << button;
+        for (int button = -1; button <= 7; ++button)
+            EXPECT_EQ(first.isPressed(button), button >= 0 && button == row.button) << button;
         EXPECT_EQ(first.isStartPressed(), row.start);
         EXPECT_EQ(first.isBackPressed(), row.back);
         pad.release(row.held);
@@ -95,7 +100,8 @@ TEST_F(XBOXControllerTest, TriggersAndStickMoveTheirAxesOutsideTheDeadZone)
         SCOPED_TRACE(testing::Message() << SDL_GameControllerGetStringForAxis(row.moved) << " at " << row.value);
         pad.move(row.moved, row.value);
         pass();
-        for (int axis = -1; axis <= 4; ++axis) EXPECT_EQ(first.getAxis(axis), axis == row.axis ? row.amount : 0.0f) << "axis " << axis;
+        for (int axis = -1; axis <= 4; ++axis)
+            EXPECT_EQ(first.getAxis(axis), axis == row.axis ? row.amount : 0.0f) << "axis " << axis;
         const bool isTrigger = row.moved == kLeft || row.moved == kRight;
         pad.move(row.moved, isTrigger ? -32768 : 0);
     }
@@ -175,7 +181,8 @@ TEST_F(XBOXControllerTest, FourPadsFillFourSlotsAndAFifthWaitsUntilOneIsFreeForG
     EXPECT_TRUE(isShooting(2));
     EXPECT_EQ(fifth.light, 1);
     const std::pair<const char*, int> lines[] = {{"DEBUG | Game-pad 2 plugged in: Test pad\n", 2},
-        {"DEBUG | Game-pad waits for a free slot: Test pad\n", 1}, {"DEBUG | Game-pad 3 unplugged: Test pad\n", 1}, {"\n", 9}};
+        {"DEBUG | Game-pad waits for a free slot: Test pad\n", 1}, {"DEBUG | Game-pad 3 unplugged: Test pad\n", 1},
+        {"\n", 9}};
     for (const auto& [line, times] : lines) EXPECT_EQ(log.count(line), times) << line << log.text();
 }
 

@@ -28,9 +28,11 @@ TEST_P(InstalledGame, StartsFromTheRootFolderWithAndWithoutAHome)
 
     VirtualDisplay screen(folder.path());
     int run = 0;
-    for (const std::string& home : {std::string("HOME=/nonexistent"), "HOME=" + folder.path().string(), std::string("NO_HOME=1")}) {
-        ChildProcess game({{"env", "-i", home, "DISPLAY=" + screen.name(), "ALSOFT_DRIVERS=null", folder.path() / GetParam().program}, "/",
-            screen.name(), folder.path() / ("log" + std::to_string(++run))});
+    for (const std::string& home :
+        {std::string("HOME=/nonexistent"), "HOME=" + folder.path().string(), std::string("NO_HOME=1")}) {
+        ChildProcess game({{"env", "-i", home, "DISPLAY=" + screen.name(), "ALSOFT_DRIVERS=null",
+                               folder.path() / GetParam().program},
+            "/", screen.name(), folder.path() / ("log" + std::to_string(++run))});
         const auto isUp = [&] { return game.output().find("Enter RegisterPlayersGamestate") != std::string::npos; };
         EXPECT_TRUE(waitUntil(60, [&] { return isUp() || !game.isRunning(); }) && isUp());
         ASSERT_TRUE(screen.waitForWindow("Quackdash", 10)) << home << '\n' << game.output();

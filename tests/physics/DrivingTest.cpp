@@ -42,7 +42,10 @@ protected:
     float speed() const { return car.computeForwardSpeed(); }
     physx::PxU32 gear() const { return car.getVehicle().mDriveDynData.getCurrentGear(); }
     glm::vec3 position() const { return WorldFixture::positionOf(car); }
-    const physx::PxWheelQueryResult& wheel(physx::PxU32 i) const { return world.manager.getVehicleManager().getWheelQuery(0, i); }
+    const physx::PxWheelQueryResult& wheel(physx::PxU32 i) const
+    {
+        return world.manager.getVehicleManager().getWheelQuery(0, i);
+    }
     void setSpeed(float metresPerSecond) { car.getActor()->setLinearVelocity(physx::PxVec3(0, 0, metresPerSecond)); }
 
     WorldFixture world;
@@ -126,8 +129,9 @@ TEST_F(DrivingTest, FaintControlsDoNotChangeDirection)
         DriverInput input;
         bool reverses;
     };
-    for (const Row& row : {Row{0, {0, -0.1f, 0, false}, false}, Row{0, {0, -0.11f, 0, false}, true}, Row{-1, {0.1f, 0, 0, false}, true},
-             Row{-1, {0.11f, 0, 0, false}, false}, Row{0, {1, -1, 0, false}, false}}) {
+    for (const Row& row :
+        {Row{0, {0, -0.1f, 0, false}, false}, Row{0, {0, -0.11f, 0, false}, true}, Row{-1, {0.1f, 0, 0, false}, true},
+            Row{-1, {0.11f, 0, 0, false}, false}, Row{0, {1, -1, 0, false}, false}}) {
         setSpeed(row.speed);
         decide(row.input);
         EXPECT_EQ(controls.isReversing(), row.reverses) << row.input.accel << ", " << row.input.brake;
@@ -148,8 +152,8 @@ TEST_F(DrivingTest, TheHandBrakeSlowsOnlyTheRearWheels)
 
 TEST_F(DrivingTest, SteersLessTheFasterItGoes)
 {
-    for (const auto& [metresPerSecond, factor] :
-        {std::pair{0.0f, 0.9f}, std::pair{5.0f, 0.7f}, std::pair{17.5f, 0.6f}, std::pair{75.0f, 0.4f}, std::pair{150.0f, 0.3f}}) {
+    for (const auto& [metresPerSecond, factor] : {std::pair{0.0f, 0.9f}, std::pair{5.0f, 0.7f}, std::pair{17.5f, 0.6f},
+             std::pair{75.0f, 0.4f}, std::pair{150.0f, 0.3f}}) {
         SCOPED_TRACE(metresPerSecond);
         // The smoothing alone: a longer drive would change the speed. Held until the input has risen all the way.
         for (int i = 0; i < 60; ++i) {
@@ -158,7 +162,8 @@ TEST_F(DrivingTest, SteersLessTheFasterItGoes)
             decide({0, 0, -1, false});
             updateVehicles();
         }
-        EXPECT_NEAR(std::max(std::abs(wheel(0).steerAngle), std::abs(wheel(1).steerAngle)), factor * kMaxSteer, 0.01f) << "the inner wheel";
+        EXPECT_NEAR(std::max(std::abs(wheel(0).steerAngle), std::abs(wheel(1).steerAngle)), factor * kMaxSteer, 0.01f)
+            << "the inner wheel";
         EXPECT_NEAR(wheel(2).steerAngle, 0, 1e-4f);
     }
 }

@@ -39,7 +39,8 @@ TEST(Terrain, TakesEveryEighthPixelAndStandsAroundTheOrigin)
     WorldFixture world;
     Terrain& terrain = world.ground([](int x, int y) { return x == 16 && y == 8 ? 128 : 0; });
     const std::vector<glm::vec3> vertices = terrain.getVertices();
-    EXPECT_TRUE(isNear(worldVertex(vertices, 66), glm::vec3(-248, 25.098f, -240), 1e-3f)) << "a picture's rows lie along z";
+    EXPECT_TRUE(isNear(worldVertex(vertices, 66), glm::vec3(-248, 25.098f, -240), 1e-3f))
+        << "a picture's rows lie along z";
     EXPECT_EQ(std::count_if(vertices.begin(), vertices.end(), [](const glm::vec3& v) { return v.y != 0; }), 1);
 
     SceneGraph graph;
@@ -69,8 +70,8 @@ TEST(Terrain, DrawnTrianglesLieOnThePhysicalGround)
     ASSERT_LT(*std::max_element(indices.begin(), indices.end()), vertices.size());
 
     // Shares of a triangle's corners: near each of them and in the middle.
-    const glm::vec3 spots[] = {
-        {0.98f, 0.01f, 0.01f}, {0.01f, 0.98f, 0.01f}, {0.01f, 0.01f, 0.98f}, {0.33f, 0.33f, 0.34f}, {0.48f, 0.04f, 0.48f}};
+    const glm::vec3 spots[] = {{0.98f, 0.01f, 0.01f}, {0.01f, 0.98f, 0.01f}, {0.01f, 0.01f, 0.98f},
+        {0.33f, 0.33f, 0.34f}, {0.48f, 0.04f, 0.48f}};
     for (std::size_t first = 0; first < indices.size(); first += 21) { // every seventh triangle
         const glm::vec3 a = worldVertex(vertices, indices[first]), b = worldVertex(vertices, indices[first + 1]),
                         c = worldVertex(vertices, indices[first + 2]);
@@ -92,7 +93,8 @@ TEST(Terrain, APictureThatIsTooSmallIsReportedOnceAndGivesAFlatField)
     CapturedLog log;
     const std::vector<glm::vec3> vertices = world.manager.createTerrain()->getVertices();
     EXPECT_EQ(log.text(), "ERROR | height picture is smaller than 512 x 512: Textures/map.tga\n");
-    EXPECT_TRUE(std::all_of(vertices.begin(), vertices.end(), [&](const glm::vec3& v) { return v.y == vertices[0].y; }));
+    EXPECT_TRUE(std::all_of(vertices.begin(), vertices.end(),
+        [&](const glm::vec3& v) { return v.y == vertices[0].y; }));
     EXPECT_NEAR(groundHeight(world.manager, 10, 10).value_or(-1), vertices[0].y, 1e-3f);
     EXPECT_LT(vertices[0].y, 50) << "cars enter at height 50";
 }

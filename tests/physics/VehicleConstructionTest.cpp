@@ -21,7 +21,8 @@ TEST(CarConstruction, PutsWheelsAndSpringsWhereTheyCarryTheCar)
         SCOPED_TRACE(i);
         const bool front = i < 2;
         EXPECT_NEAR(wheels.getSuspensionData(i).mSprungMass, front ? 432.9507f : 317.0493f, 1e-3f);
-        const glm::vec3 centre(i % 2 ? 0.9193479f : -0.9193479f, -0.4778746f, front ? 1.26114f : -1.76114f); // from the centre of mass
+        const glm::vec3 centre(i % 2 ? 0.9193479f : -0.9193479f, -0.4778746f,
+            front ? 1.26114f : -1.76114f); // from the centre of mass
         const glm::vec3 force(centre.x, -0.3f, centre.z);
         EXPECT_TRUE(isNear(toGlm(wheels.getWheelCentreOffset(i)), centre, 1e-5f));
         EXPECT_TRUE(isNear(toGlm(wheels.getSuspForceAppPointOffset(i)), force, 1e-5f));

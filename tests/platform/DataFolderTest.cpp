@@ -16,9 +16,10 @@ struct Installation {
 
 TEST(DataFolder, IsFoundFrom)
 {
-    const Installation rows[] = {
-        {"the working directory before all others", "usr/games/quackdash", {"work", "usr/share/games/quackdash"}, "work"},
-        {"an installed program's share folder", "usr/games/quackdash", {"usr/share/games/quackdash"}, "usr/share/games/quackdash"},
+    const Installation rows[] = {{"the working directory before all others", "usr/games/quackdash",
+                                     {"work", "usr/share/games/quackdash"}, "work"},
+        {"an installed program's share folder", "usr/games/quackdash", {"usr/share/games/quackdash"},
+            "usr/share/games/quackdash"},
         {"a share folder without games", "opt/bin/quackdash", {"opt/share/quackdash"}, "opt/share/quackdash"},
         {"beside the program", "unpacked/quackdash", {"unpacked/data"}, "unpacked/data"},
         {"the source tree of a build", "tree/build/release/quackdash", {"tree/data"}, "tree/data"},
@@ -35,7 +36,8 @@ TEST(DataFolder, IsFoundFrom)
 
         const CommandResult run = runCommand("cd '" + work.string() + "' && '" + program.string() + "'");
         EXPECT_EQ(run.status, row.expected ? 0 : 1);
-        const std::string expected = row.expected ? (folder.path() / row.expected).string() + "\n" : "ERROR | no data folder found";
+        const std::string expected =
+            row.expected ? (folder.path() / row.expected).string() + "\n" : "ERROR | no data folder found";
         EXPECT_TRUE(run.output.starts_with(expected)) << run.output;
     }
 }

@@ -17,8 +17,9 @@ constexpr char kTopDown = 0x20; // the descriptor's bit for files that begin wit
 std::string header(int kind, int width, int height, int bits, int descriptor = 0, int mapEntries = 0)
 {
     const auto byte = [](int value) { return static_cast<char>(value & 0xFF); };
-    return {0, byte(mapEntries > 0), byte(kind), 0, 0, byte(mapEntries), byte(mapEntries >> 8), byte(mapEntries > 0 ? 24 : 0), 0, 0, 0, 0,
-        byte(width), byte(width >> 8), byte(height), byte(height >> 8), byte(bits), byte(descriptor)};
+    return {0, byte(mapEntries > 0), byte(kind), 0, 0, byte(mapEntries), byte(mapEntries >> 8),
+        byte(mapEntries > 0 ? 24 : 0), 0, 0, 0, 0, byte(width), byte(width >> 8), byte(height), byte(height >> 8),
+        byte(bits), byte(descriptor)};
 }
 
 struct Picture {
@@ -32,17 +33,20 @@ struct Picture {
 const std::string kLowerRow = "BGRbgrXYZ", kUpperRow = "123456789";
 const std::string kDecoded = "RGBrgbZYX321654987";
 
-const std::string kRunLengthRows = std::string("\x02") + kLowerRow + "\x82" + "abc"; // three pixels, then one pixel three times
+const std::string kRunLengthRows =
+    std::string("\x02") + kLowerRow + "\x82" + "abc"; // three pixels, then one pixel three times
 
 TEST(ImageTest, FilesDecodeToRowsFromTheBottomUp)
 {
     const Picture rows[] = {{"24 bits, lower row first", header(2, 3, 2, 24) + kLowerRow + kUpperRow, 3, kDecoded},
         {"24 bits, upper row first", header(2, 3, 2, 24, kTopDown) + kUpperRow + kLowerRow, 3, kDecoded},
         {"run-length encoded", header(10, 3, 2, 24) + kRunLengthRows, 3, "RGBrgbZYXcbacbacba"},
-        {"run-length encoded, upper row first", header(10, 3, 2, 24, kTopDown) + kRunLengthRows, 3, "cbacbacbaRGBrgbZYX"},
+        {"run-length encoded, upper row first", header(10, 3, 2, 24, kTopDown) + kRunLengthRows, 3,
+            "cbacbacbaRGBrgbZYX"},
         {"32 bits", header(2, 3, 2, 32, 8) + "BGRAbgraXYZ0123A456a7890", 4, "RGBArgbaZYX0321A654a9870"},
         {"grey", header(3, 3, 2, 8) + "abcdef", 1, "abcdef"},
-        {"colour-mapped", header(1, 3, 2, 8, 0, 2) + "BGRbgr" + std::string("\0\1\0\1\1\1", 6), 3, "RGBrgbRGBrgbrgbrgb"},
+        {"colour-mapped", header(1, 3, 2, 8, 0, 2) + "BGRbgr" + std::string("\0\1\0\1\1\1", 6), 3,
+            "RGBrgbRGBrgbrgbrgb"},
         {"followed by a footer", header(2, 3, 2, 24) + kLowerRow + kUpperRow + std::string(26, '\0'), 3, kDecoded}};
     const TemporaryFolder folder;
     for (const Picture& row : rows) {
@@ -61,9 +65,11 @@ TEST(ImageTest, BadFilesAreRefusedWithAReason)
     const char* const kCutShort = "picture is cut short";
     const std::pair<std::string, const char*> rows[] = {{"", kNoTga}, {header(2, 3, 2, 24).substr(0, 17), kNoTga},
         {header(2, 3, 2, 24), kCutShort}, {header(2, 3, 2, 24) + kLowerRow + kUpperRow.substr(1), kCutShort},
-        {header(10, 3, 2, 24) + kRunLengthRows.substr(0, 12), kCutShort}, {header(10, 3, 2, 24) + kRunLengthRows.substr(0, 10), kCutShort},
-        {header(1, 3, 2, 8, 0, 256) + std::string(700, 'x'), kCutShort}, {header(10, 16384, 16384, 32) + "abc", kCutShort},
-        {header(2, 0, 2, 24), kNoTga}, {header(10, 65535, 65535, 24), kNoTga}, {header(2, 3, 2, 17) + kLowerRow + kUpperRow, kNoTga},
+        {header(10, 3, 2, 24) + kRunLengthRows.substr(0, 12), kCutShort},
+        {header(10, 3, 2, 24) + kRunLengthRows.substr(0, 10), kCutShort},
+        {header(1, 3, 2, 8, 0, 256) + std::string(700, 'x'), kCutShort},
+        {header(10, 16384, 16384, 32) + "abc", kCutShort}, {header(2, 0, 2, 24), kNoTga},
+        {header(10, 65535, 65535, 24), kNoTga}, {header(2, 3, 2, 17) + kLowerRow + kUpperRow, kNoTga},
         {"\x89PNG\r\n\x1a\n" + std::string(40, 'x'), kNoTga}};
     const TemporaryFolder folder;
     std::string error;
@@ -88,7 +94,8 @@ TEST(ImageTest, GarbledFilesAreRefusedOrDecodedWhole)
         std::string error;
         const std::optional<Image> image = readTga(folder.write("garbled.tga", file), error);
         EXPECT_NE(image.has_value(), !error.empty());
-        const std::size_t expected = image ? static_cast<std::size_t>(image->width * image->height * image->channels) : 0;
+        const std::size_t expected =
+            image ? static_cast<std::size_t>(image->width * image->height * image->channels) : 0;
         EXPECT_EQ(image ? image->pixels.size() : 0, expected);
     }
 }
@@ -98,7 +105,8 @@ TEST(ImageTest, OddSidesAreRaisedToPowersOfTwoBilinearly)
     Image ramp{300, 200, 3, {}};
     for (int y = 0; y < ramp.height; ++y)
         for (int x = 0; x < ramp.width; ++x)
-            for (int value : {x * 255 / 299, y * 255 / 199, 77}) ramp.pixels.push_back(static_cast<unsigned char>(value));
+            for (int value : {x * 255 / 299, y * 255 / 199, 77})
+                ramp.pixels.push_back(static_cast<unsigned char>(value));
 
     const Image raised = resampledToPowersOfTwo(ramp);
     ASSERT_EQ((std::array{raised.width, raised.height}), (std::array{512, 256}));

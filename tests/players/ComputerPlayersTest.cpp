@@ -25,7 +25,8 @@ TEST_F(ComputerPlayers, TurnTowardsTheirTargetsAndShoot)
         match.stage.sounds.clear();
         const auto facing = [&] {
             const glm::vec3 forward(computer.getChassisTransform()[2]);
-            return glm::dot(forward, glm::normalize((one.getPosition() + two.getPosition()) / 2.0f - computer.getPosition()));
+            return glm::dot(forward,
+                glm::normalize((one.getPosition() + two.getPosition()) / 2.0f - computer.getPosition()));
         };
         EXPECT_NEAR(facing(), 0, 0.05f);
         for (int i = 0; i < 960 && facing() < 0.94f; ++i) match.pass();

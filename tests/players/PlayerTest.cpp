@@ -43,7 +43,8 @@ TEST_F(PlayerTest, PeopleAndComputerPlayersAreCountedNamedAndColouredInTheOrderO
         float volume; // of the quack with which it appears
     } const rows[] = {{true, "(0) Player 0, Script", {0.9f, 0.2f, 0.1f, 1}, 1},
         {false, "(0) Player 1, AI-Controller -1", {1, 1, 1, 0}, 0.2f},
-        {false, "(0) Player 2, AI-Controller 0", {0.9f, 0.9f, 0.9f, 0}, 0.2f}, {true, "(0) Player 3, Script", {0.2f, 0.9f, 0.1f, 1}, 1}};
+        {false, "(0) Player 2, AI-Controller 0", {0.9f, 0.9f, 0.9f, 0}, 0.2f},
+        {true, "(0) Player 3, Script", {0.2f, 0.9f, 0.1f, 1}, 1}};
     for (const auto& row : rows) {
         CapturedLog log;
         Player& player = row.isPerson ? match.join() : match.addComputerPlayer();
@@ -105,7 +106,8 @@ TEST_F(PlayerTest, LabelsStandAtTheViewportsLeftEdgeAndNeverAboveTheWindow)
         Viewport::Rect rect;
         double x, y;
     } const rows[] = {
-        {{0, 0, 1024, 768}, -0.95, 0.9}, {{512, 384, 512, 384}, 0.05, 0.9}, {{681, 0, 340, 384}, 2.0 * 681 / 1024 - 0.95, 0.9},
+        {{0, 0, 1024, 768}, -0.95, 0.9}, {{512, 384, 512, 384}, 0.05, 0.9},
+        {{681, 0, 340, 384}, 2.0 * 681 / 1024 - 0.95, 0.9},
         {{256, 576, 256, 192}, -0.45, 0.5}, // a lower edge high up pulls the label down
     };
     for (const auto& [rect, x, y] : rows) {

@@ -1,6 +1,6 @@
 #include "players/Spectator.h"
-#include "app/base/FrameTimer.h"
-#include "app/base/Logger.h"
+#include "base/FrameTimer.h"
+#include "base/Logger.h"
 #include "support/DataCapturedLog.h"
 #include "support/HeadlessMatch.h"
 #include "support/Near.h"
@@ -15,7 +15,8 @@ class SpectatorTest : public testing::Test {
 protected:
     SpectatorTest() { match.pass(); }
 
-    /// One frame with these buttons down and that much steering; how far the spectator came, in units of the frame's game time.
+    /// One frame with these buttons down and that much steering; how far the spectator came, in units of the frame's
+    /// game time.
     glm::vec3 frame(std::initializer_list<int> buttons, float steering = 0)
     {
         device.buttons.fill(false);
@@ -46,9 +47,11 @@ TEST_F(SpectatorTest, FliesLevelInAnyDirectionAndTurnsAndTiltsBySteering)
         std::initializer_list<int> buttons;
         glm::vec3 moved;
         float steering = 0;
-    } rows[] = {{{}, {0, 0, 0}}, {{Device::kAccelerate}, {0, 0, -1}}, {{Device::kBrake}, {0, 0, 1}}, {{Device::kSteerLeft}, {-1, 0, 0}},
-        {{Device::kSteerRight}, {1, 0, 0}}, {{Device::kAccelerate, Device::kBrake}, {0, 0, 0}},
-        {{Device::kAccelerate, Device::kSteerLeft}, {-kDiagonal, 0, -kDiagonal}}, {{Device::kShoot, Device::kHandBrake}, {0, 0, 0}},
+    } rows[] = {{{}, {0, 0, 0}}, {{Device::kAccelerate}, {0, 0, -1}}, {{Device::kBrake}, {0, 0, 1}},
+        {{Device::kSteerLeft}, {-1, 0, 0}}, {{Device::kSteerRight}, {1, 0, 0}},
+        {{Device::kAccelerate, Device::kBrake}, {0, 0, 0}},
+        {{Device::kAccelerate, Device::kSteerLeft}, {-kDiagonal, 0, -kDiagonal}},
+        {{Device::kShoot, Device::kHandBrake}, {0, 0, 0}},
         {{Device::kAccelerate}, {1, 0, 0}, kRightAngle}, // turns before it moves
         {{Device::kAccelerate}, {1, 0, 0}}};
     for (const auto& [buttons, moved, steering] : rows) EXPECT_TRUE(isNear(frame(buttons, steering), moved, 1e-3f));

@@ -41,8 +41,10 @@ TEST_F(DebugRendererTest, MarksNodesAndCamerasThroughThingsInEveryViewportWhileF
     for (const bool held : {true, true, false}) {
         if (held) keys.hold({GLFW_KEY_F6});
         else keys.hold({});
-        EXPECT_EQ(trianglesOfAFrame() - usual, held * kViews * (kNodes * kMarkerTriangles + kCameras * cameraTriangles));
-        for (const glm::ivec4& pixel : {windowPixel(256, 192), windowPixel(768, 576)}) EXPECT_EQ(pixel != glm::ivec4(0, 255, 0, 255), held);
+        EXPECT_EQ(trianglesOfAFrame() - usual,
+            held * kViews * (kNodes * kMarkerTriangles + kCameras * cameraTriangles));
+        for (const glm::ivec4& pixel : {windowPixel(256, 192), windowPixel(768, 576)})
+            EXPECT_EQ(pixel != glm::ivec4(0, 255, 0, 255), held);
     }
 }
 

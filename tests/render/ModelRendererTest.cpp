@@ -60,7 +60,8 @@ TEST_F(ModelRendererTest, CullsWhatLiesBehindTheCameraOfEachViewportAndSaysHowMa
         std::vector<int> draws; ///< of the four
     };
     const Row rows[] = {{{}, {{"culled: 2", -1, -1}, {"culled: 1", -1, -1}}, {1, 1, 1, 2}},
-        {{GLFW_KEY_F8}, {{"culled: 0", -1, -1}, {"culled: 0", -1, -1}}, {2, 2, 2, 2}}, {{GLFW_KEY_F1}, {}, {1, 1, 1, 2}}};
+        {{GLFW_KEY_F8}, {{"culled: 0", -1, -1}, {"culled: 0", -1, -1}}, {2, 2, 2, 2}},
+        {{GLFW_KEY_F1}, {}, {1, 1, 1, 2}}};
     for (const Row& row : rows) {
         SCOPED_TRACE(&row - rows);
         keys.hold(row.keys);

@@ -1,6 +1,6 @@
 #include "RenderFixture.h"
 
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 #include "render/ParticleSystem.h"
 #include "support/Near.h"
 
@@ -21,7 +21,8 @@ std::vector<Particle> particlesOf(const ParticleSystem& system)
 {
     std::vector<Particle> particles(100);
     glBindBuffer(GL_COPY_READ_BUFFER, system.getRenderBuffer().getHandle());
-    glGetBufferSubData(GL_COPY_READ_BUFFER, 0, static_cast<GLsizeiptr>(particles.size() * sizeof(Particle)), particles.data());
+    glGetBufferSubData(GL_COPY_READ_BUFFER, 0, static_cast<GLsizeiptr>(particles.size() * sizeof(Particle)),
+        particles.data());
     return particles;
 }
 
@@ -47,7 +48,8 @@ TEST_F(ParticleSystemTest, SmokeMovesOneStepAnUpdateNearItsEmitterAndDrawingMove
         systems.push_back(&add<ParticleSystem>(glm::mat4(1.0f), realMovement()));
         systems.back()->setEmitterPosition(glm::vec3(10 * i, 0, 0));
     }
-    Library::getInstance()->loadShader("ParticleMovement", "Shader/ParticleMovement.shader"); // a reload keeps what is recorded
+    Library::getInstance()->loadShader("ParticleMovement",
+        "Shader/ParticleMovement.shader"); // a reload keeps what is recorded
     ParticleSystem& watched = *systems[3];
     for (int k = 0; k < 60; ++k) {
         const std::vector<Particle> before = particlesOf(watched);

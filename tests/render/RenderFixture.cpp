@@ -1,7 +1,7 @@
 #include "RenderFixture.h"
 
-#include "app/base/FrameTimer.h"
 #include "assets/MeshGeometry.h"
+#include "base/FrameTimer.h"
 #include "gpu/DrawCalls.h"
 #include "platform/DataFolder.h"
 #include "render/FrameProbe.h"
@@ -32,7 +32,10 @@ public:
         glReadPixels(0, 0, kWidth, kHeight, GL_RGBA, GL_UNSIGNED_BYTE, picture.data());
     }
 
-    glm::ivec4 pixel(int x, int y) const { return picture.at(static_cast<std::size_t>(y) * kWidth + static_cast<std::size_t>(x)); }
+    glm::ivec4 pixel(int x, int y) const
+    {
+        return picture.at(static_cast<std::size_t>(y) * kWidth + static_cast<std::size_t>(x));
+    }
 
 private:
     std::vector<glm::u8vec4> picture;
@@ -53,7 +56,8 @@ public:
 
 [[maybe_unused]] const testing::Environment* const closeWindow = testing::AddGlobalTestEnvironment(new CloseWindow);
 
-/// Opens the window and draws a frame with an empty library, GL messages going to the log: no error but the one that is made.
+/// Opens the window and draws a frame with an empty library, GL messages going to the log: no error but the one that is
+/// made.
 void openAndDrawWithoutAssets()
 {
     CapturedLog log;
@@ -69,7 +73,8 @@ void openAndDrawWithoutAssets()
     shared->setViewports({&view});
     shared->render(nullptr);
     EXPECT_EQ(log.count("ERROR"), 1) << log.text();
-    EXPECT_TRUE(log.contains("ERROR | OpenGL Error: quack [Source = Application, Type = Error, Severity = High, ID = 7]\n"));
+    EXPECT_TRUE(log.contains("ERROR | OpenGL Error: quack [Source = Application, Type = Error, Severity = High, ID = "
+                             "7]\n"));
     EXPECT_EQ(recorder.pixel(512, 384), glm::ivec4(255, 0, 0, 255));
 }
 
@@ -77,8 +82,8 @@ void loadAssets()
 {
     if (!enterDataFolder()) throw std::runtime_error("no data folder");
     Library* library = Library::getInstance();
-    for (const char* name : {"ShadowDepth", "Cel", "Blur", "CelPostProc", "TextShader", "ParticleMovement", "ParticleRender",
-             "SkyboxShader", "ColorShader", "WireframeShader"}) {
+    for (const char* name : {"ShadowDepth", "Cel", "Blur", "CelPostProc", "TextShader", "ParticleMovement",
+             "ParticleRender", "SkyboxShader", "ColorShader", "WireframeShader"}) {
         library->loadShader(name, std::string("Shader/") + name + ".shader");
     }
     library->loadTexture("Font", "Textures/font.tga");

@@ -39,8 +39,9 @@ private:
     Uniform_Color color;
 };
 
-/// A scene of its own before the one real renderer, which all tests share: the window is opened before the first, with the game's shaders
-/// and textures. GL errors fail the test. Time stands still between frames unless the test moves the clock.
+/// A scene of its own before the one real renderer, which all tests share: the window is opened before the first, with
+/// the game's shaders and textures. GL errors fail the test. Time stands still between frames unless the test moves the
+/// clock.
 class RenderTest : public testing::Test {
 public:
     static void SetUpTestSuite();
@@ -52,7 +53,8 @@ protected:
     static Renderer& renderer();
 
     /// A viewport in the frame's list, with a camera of its own that looks along -z of its node.
-    Viewport& addView(const Viewport::Rect& rect, const glm::mat4& pose = glm::mat4(1.0f), const glm::vec4& clearColour = {0, 0, 0, 1});
+    Viewport& addView(const Viewport::Rect& rect, const glm::mat4& pose = glm::mat4(1.0f),
+        const glm::vec4& clearColour = {0, 0, 0, 1});
     Viewport& addWholeWindow(const glm::mat4& pose = glm::mat4(1.0f)) { return addView({0, 0, 1024, 768}, pose); }
 
     Node* addNode(const glm::mat4& pose);
@@ -66,7 +68,10 @@ protected:
         models.push_back(model);
         return *model;
     }
-    BoxModel& addBox(const glm::mat4& pose, const glm::vec4& colour = {1, 1, 1, 1}) { return add<BoxModel>(pose, colour); }
+    BoxModel& addBox(const glm::mat4& pose, const glm::vec4& colour = {1, 1, 1, 1})
+    {
+        return add<BoxModel>(pose, colour);
+    }
 
     /// As the main loop draws one: empties the text queue, ticks, renders.
     void frame();

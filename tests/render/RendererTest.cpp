@@ -53,11 +53,12 @@ TEST_F(RenderTest, AFrameGoesOnWithoutAnyOneOfItsPrograms)
     addBox(at(0, 0, -10), {1, 0, 0, 1});
     addView({0, 0, 512, 768});
     addView({512, 0, 512, 768}, glm::mat4(1.0f), {0, 0, 1, 1});
-    add<ParticleSystem>(glm::mat4(1.0f), Library::getInstance()->getShaderprogram("ParticleMovement")).setEmitterPosition({0, 100, 0});
+    add<ParticleSystem>(glm::mat4(1.0f), Library::getInstance()->getShaderprogram("ParticleMovement"))
+        .setEmitterPosition({0, 100, 0});
     DebugRenderer overlay;
     renderer().setDebugRenderer(&overlay);
-    for (const std::string name :
-        {"ColorShader", "Blur", "CelPostProc", "ShadowDepth", "TextShader", "WireframeShader", "ParticleMovement", "ParticleRender"}) {
+    for (const std::string name : {"ColorShader", "Blur", "CelPostProc", "ShadowDepth", "TextShader", "WireframeShader",
+             "ParticleMovement", "ParticleRender"}) {
         SCOPED_TRACE(name);
         Library::getInstance()->getShaderprogram(name)->createProgram(); // not linked
         addBox(at(2.5f, 0, -10), {0, 1, 0, 1}).isStatic = true;          // has the static shadows drawn anew
@@ -83,8 +84,10 @@ TEST_F(RenderTest, FilterSwitchesChangeEveryTextureOfTheLibraryByTheTable)
         GLint magnification, minification;
     };
     const Row rows[] = {{&Renderer::toggleMagFilter, GL_NEAREST, GL_NEAREST_MIPMAP_LINEAR},
-        {&Renderer::cycleMinFilter, GL_NEAREST, GL_NEAREST}, {&Renderer::cycleMinFilter, GL_NEAREST, GL_NEAREST_MIPMAP_NEAREST},
-        {&Renderer::toggleMagFilter, GL_LINEAR, GL_LINEAR_MIPMAP_NEAREST}, {&Renderer::cycleMinFilter, GL_LINEAR, GL_LINEAR_MIPMAP_LINEAR}};
+        {&Renderer::cycleMinFilter, GL_NEAREST, GL_NEAREST},
+        {&Renderer::cycleMinFilter, GL_NEAREST, GL_NEAREST_MIPMAP_NEAREST},
+        {&Renderer::toggleMagFilter, GL_LINEAR, GL_LINEAR_MIPMAP_NEAREST},
+        {&Renderer::cycleMinFilter, GL_LINEAR, GL_LINEAR_MIPMAP_LINEAR}};
     Library::getInstance()->loadTexture("Smoke", "Textures/Smoke.tga");
     for (const Row& row : rows) {
         SCOPED_TRACE(&row - rows);

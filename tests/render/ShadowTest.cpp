@@ -19,11 +19,14 @@ protected:
     void moveTo(const glm::vec3& middle)
     {
         ground.getNode()->setTransform(glm::scale(glm::translate(glm::mat4(1.0f), middle), glm::vec3(60, 1, 60)));
-        ball.getNode()->setTransform(glm::scale(glm::translate(glm::mat4(1.0f), middle + glm::vec3(0, kHeight, 0)), glm::vec3(2)));
-        camera.getNode()->setTransform(glm::inverse(glm::lookAt(middle + glm::vec3(0, kEye, 0), middle, glm::vec3(0, 0, -1))));
+        ball.getNode()->setTransform(glm::scale(glm::translate(glm::mat4(1.0f), middle + glm::vec3(0, kHeight, 0)),
+            glm::vec3(2)));
+        camera.getNode()->setTransform(glm::inverse(glm::lookAt(middle + glm::vec3(0, kEye, 0), middle,
+            glm::vec3(0, 0, -1))));
     }
 
-    /// Where the ground lies in shadow, of these three places to the left and right of the one below the ball, in units along x.
+    /// Where the ground lies in shadow, of these three places to the left and right of the one below the ball, in units
+    /// along x.
     std::vector<int> dark() const
     {
         std::vector<int> places;
@@ -41,7 +44,8 @@ protected:
 
 TEST_F(ShadowPicture, FallsAlongTheLightWhereverThereIsGround)
 {
-    for (const glm::vec3& middle : {glm::vec3(0), glm::vec3(0, -30, 0), glm::vec3(0, 0, 250), glm::vec3(240, 0, -250)}) {
+    for (const glm::vec3& middle :
+        {glm::vec3(0), glm::vec3(0, -30, 0), glm::vec3(0, 0, 250), glm::vec3(240, 0, -250)}) {
         moveTo(middle);
         frame();
         EXPECT_EQ(dark(), std::vector<int>{-6}) << middle.x << ", " << middle.y << ", " << middle.z;
@@ -88,7 +92,8 @@ class ShadowCacheTest : public RenderTest {
 protected:
     float pick(float low, float high) { return std::uniform_real_distribution<float>(low, high)(random); }
 
-    /// Somewhere, partly over the edges, leaning, scaled differently along each axis, now and then sheared by a parent's scale.
+    /// Somewhere, partly over the edges, leaning, scaled differently along each axis, now and then sheared by a
+    /// parent's scale.
     glm::mat4 anyPose()
     {
         glm::mat4 pose = at(pick(-330, 330), pick(-40, 40), pick(-330, 330));
@@ -119,7 +124,8 @@ protected:
         const std::vector<GLuint> expected = fresh.depths();
         const auto index = std::mismatch(actual.begin(), actual.end(), expected.begin()).first - actual.begin();
         if (actual == expected) return testing::AssertionSuccess();
-        return testing::AssertionFailure() << "first differs at texel (" << index % kSize.x << ", " << index / kSize.x << ")";
+        return testing::AssertionFailure()
+            << "first differs at texel (" << index % kSize.x << ", " << index / kSize.x << ")";
     }
 
     void remove(BoxModel& box)
@@ -162,11 +168,14 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
         box.getNode()->setTransform(glm::scale(pose, glm::vec3(scale)));
     };
     const std::pair<const char*, std::function<void()>> changes[] = {{"first frame", [] {}},
-        {"a static caster moves", [&] { place(wall, at(-80, 0, 20), 20); }}, {"a static caster goes", [&] { remove(wall); }},
+        {"a static caster moves", [&] { place(wall, at(-80, 0, 20), 20); }},
+        {"a static caster goes", [&] { remove(wall); }},
         {"a static caster comes", [&] { addStatic(glm::scale(at(120, 0, -120), glm::vec3(20))); }},
-        {"a static caster casts no more", [&] { ground.castsShadow = false; }}, {"and casts again", [&] { ground.castsShadow = true; }},
-        {"bounds become unknown", [&] { unknown.boundingRadius = 0; }}, {"and it moves", [&] { place(unknown, at(90, 0, 0), 12); }},
-        {"and goes", [&] { remove(unknown); }}, {"a moving caster rests for good", [&] { car.isStatic = true; }},
+        {"a static caster casts no more", [&] { ground.castsShadow = false; }},
+        {"and casts again", [&] { ground.castsShadow = true; }},
+        {"bounds become unknown", [&] { unknown.boundingRadius = 0; }},
+        {"and it moves", [&] { place(unknown, at(90, 0, 0), 12); }}, {"and goes", [&] { remove(unknown); }},
+        {"a moving caster rests for good", [&] { car.isStatic = true; }},
         {"and drives off",
             [&] {
                 car.isStatic = false;
@@ -178,8 +187,10 @@ TEST_F(ShadowCacheTest, EqualsAFreshPictureAfterEveryKindOfChange)
                 glClear(GL_DEPTH_BUFFER_BIT);
                 cache.invalidate();
             }},
-        {"a depth program that does not link", [&] { Library::getInstance()->getShaderprogram("ShadowDepth")->createProgram(); }},
-        {"the right one again", [&] { Library::getInstance()->loadShader("ShadowDepth", "Shader/ShadowDepth.shader"); }}};
+        {"a depth program that does not link",
+            [&] { Library::getInstance()->getShaderprogram("ShadowDepth")->createProgram(); }},
+        {"the right one again",
+            [&] { Library::getInstance()->loadShader("ShadowDepth", "Shader/ShadowDepth.shader"); }}};
     for (const auto& [name, change] : changes) {
         change();
         EXPECT_TRUE(frameIsRight()) << "after: " << name;

@@ -15,9 +15,11 @@ protected:
     SkyboxTest() : sky(add<Skybox>(glm::mat4(1.0f))), picture(&texture, 0)
     {
         const DataScratch scratch;
-        scratch.writeTga("sky.tga", 64, 32, 3, [](int x, int y, int i) { return colour(x / 16, y / 16, x % 16 >= 8, y % 16 >= 8)[i]; });
+        scratch.writeTga("sky.tga", 64, 32, 3,
+            [](int x, int y, int i) { return colour(x / 16, y / 16, x % 16 >= 8, y % 16 >= 8)[i]; });
         texture.load("sky.tga");
-        texture.setFilter(GL_NEAREST, GL_NEAREST); // the bottom samples one corner, where linear filtering takes in the opposite edges
+        texture.setFilter(GL_NEAREST,
+            GL_NEAREST); // the bottom samples one corner, where linear filtering takes in the opposite edges
         sky.bindCameraUniforms(false);
         sky.uniforms["tex"] = &picture;
     }
@@ -39,8 +41,8 @@ TEST_F(SkyboxTest, IsSeenFromInsideMirroredInEveryDirectionWithItsOwnCell)
         glm::vec3 direction, up;
         int column, row;
     };
-    const Row rows[] = {{"-x", {-1, 0, 0}, {0, 1, 0}, 0, 0}, {"+z", {0, 0, 1}, {0, 1, 0}, 1, 0}, {"+x", {1, 0, 0}, {0, 1, 0}, 2, 0},
-        {"-z", {0, 0, -1}, {0, 1, 0}, 3, 0}, {"top", {0, 1, 0}, {0, 0, -1}, 1, 1}};
+    const Row rows[] = {{"-x", {-1, 0, 0}, {0, 1, 0}, 0, 0}, {"+z", {0, 0, 1}, {0, 1, 0}, 1, 0},
+        {"+x", {1, 0, 0}, {0, 1, 0}, 2, 0}, {"-z", {0, 0, -1}, {0, 1, 0}, 3, 0}, {"top", {0, 1, 0}, {0, 0, -1}, 1, 1}};
     const Viewport& view = addWholeWindow();
     const glm::vec3 eye(0);
     for (const Row& row : rows) {
@@ -48,7 +50,8 @@ TEST_F(SkyboxTest, IsSeenFromInsideMirroredInEveryDirectionWithItsOwnCell)
         frame();
         for (const bool right : {false, true})
             for (const bool upper : {false, true})
-                EXPECT_EQ(windowPixel(right ? 400 : 600, upper ? 450 : 300), colour(row.column, row.row, right, upper)) << row.face;
+                EXPECT_EQ(windowPixel(right ? 400 : 600, upper ? 450 : 300), colour(row.column, row.row, right, upper))
+                    << row.face;
     }
     view.camera->getNode()->setTransform(glm::inverse(glm::lookAt(eye, {0, -1, 0}, {0, 0, 1})));
     frame();

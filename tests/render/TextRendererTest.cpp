@@ -14,8 +14,8 @@ TEST_F(RenderTest, TextTakesItsCellsByTheTruncatingRule)
         char character;
         float u, v;
     };
-    const Row rows[] = {
-        {'!', 0, 0}, {'1', 0, 0.0625f}, {'~', 0.8125f, 0.3125f}, {' ', 0, 0.375f}, {'\t', -0.5f, -0.0625f}, {'\xE4', -0.8125f, -0.1875f}};
+    const Row rows[] = {{'!', 0, 0}, {'1', 0, 0.0625f}, {'~', 0.8125f, 0.3125f}, {' ', 0, 0.375f},
+        {'\t', -0.5f, -0.0625f}, {'\xE4', -0.8125f, -0.1875f}};
     for (const Row& row : rows) {
         TextRenderer text;
         text.addText(std::string(1, row.character), 0, 0);
@@ -61,7 +61,8 @@ TEST_F(TextPicture, PaintsUprightGlyphsWhereTheyWereAskedFor)
     EXPECT_GT(glyph(2), 30);
     EXPECT_EQ(glyph(0) + glyph(2), all);
     const int half = kGlyphHeight / 2;
-    EXPECT_GT(painted(256, 480 + half, kGlyphWidth, half), painted(256, 480, kGlyphWidth, half)) << "a T is heavier at its top";
+    EXPECT_GT(painted(256, 480 + half, kGlyphWidth, half), painted(256, 480, kGlyphWidth, half))
+        << "a T is heavier at its top";
     EXPECT_GT(painted(320, 480, kGlyphWidth, half), painted(320, 480 + half, kGlyphWidth, half)) << "an L at its foot";
 }
 

@@ -26,8 +26,9 @@ TEST(MeshTest, NormalsAreTheUnweightedSumOfTheFacesOnTheirBackSide)
     for (int shared : {0, 1}) EXPECT_TRUE(isNear(mesh.normals.at(static_cast<std::size_t>(shared)), {0, -half, -half}));
 }
 
-/// Every face must be clockwise as seen from outside, since front faces are culled, and each edge between two faces walked once in either
-/// direction: then the surface has no hole. Vertices at the same place count as one. The mesh is convex around the origin.
+/// Every face must be clockwise as seen from outside, since front faces are culled, and each edge between two faces
+/// walked once in either direction: then the surface has no hole. Vertices at the same place count as one. The mesh is
+/// convex around the origin.
 void expectClosedAndClockwise(const Mesh& mesh)
 {
     using Place = std::array<float, 3>;

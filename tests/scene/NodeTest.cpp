@@ -90,7 +90,8 @@ TEST_F(NodeTest, DestroyTakesAWholeSubtreeOutEachByItsOwnOperation)
     body.attach(&witness);
 
     car.destroy();
-    EXPECT_TRUE(body.left && second.left) << "children that leave during the walk must not make it skip their neighbours";
+    EXPECT_TRUE(body.left && second.left)
+        << "children that leave during the walk must not make it skip their neighbours";
     EXPECT_TRUE(root.getChildren().empty());
     for (Node* node : std::initializer_list<Node*>{&car, &duck, &body, &second}) {
         EXPECT_TRUE(node->getChildren().empty());

@@ -5,14 +5,16 @@
 #include <iostream>
 #include <string>
 
-/// Collects what the program writes to standard output, log lines and printf alike, from its construction to its first text(). One at a time.
+/// Collects what the program writes to standard output, log lines and printf alike, from its construction to its first
+/// text(). One at a time.
 class CapturedLog {
 public:
     CapturedLog() { testing::internal::CaptureStdout(); }
     ~CapturedLog()
     {
         text();
-        if (testing::Test::HasFailure()) std::cout << captured << std::flush; // an expectation that failed meanwhile has its message here
+        if (testing::Test::HasFailure())
+            std::cout << captured << std::flush; // an expectation that failed meanwhile has its message here
     }
     CapturedLog(const CapturedLog&) = delete;
     CapturedLog& operator=(const CapturedLog&) = delete;
@@ -31,7 +33,8 @@ public:
     int count(const std::string& part)
     {
         int found = 0;
-        for (std::size_t at = text().find(part); at != std::string::npos; at = text().find(part, at + part.size())) ++found;
+        for (std::size_t at = text().find(part); at != std::string::npos; at = text().find(part, at + part.size()))
+            ++found;
         return found;
     }
 

@@ -4,7 +4,8 @@
 
 #include <functional>
 
-/// A folder that is the working directory while this lives. Tests write the files that they load into it, or copy the game's.
+/// A folder that is the working directory while this lives. Tests write the files that they load into it, or copy the
+/// game's.
 class DataScratch : public TemporaryFolder {
 public:
     DataScratch() { std::filesystem::current_path(path()); }
@@ -14,8 +15,10 @@ public:
         std::filesystem::current_path(before, ignored);
     }
 
-    /// Writes an uncompressed TGA picture of 1 (grey), 3 or 4 components a pixel. component(x, y, i) is 0 to 255, red first; y counts from the bottom.
-    void writeTga(const std::string& path, int width, int height, int channels, const std::function<int(int, int, int)>& component) const;
+    /// Writes an uncompressed TGA picture of 1 (grey), 3 or 4 components a pixel. component(x, y, i) is 0 to 255, red
+    /// first; y counts from the bottom.
+    void writeTga(const std::string& path, int width, int height, int channels,
+        const std::function<int(int, int, int)>& component) const;
 
     /// Copies Shader/, Textures/, Models/ and Audio/ of the source tree.
     void copyGameData() const;

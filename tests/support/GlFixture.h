@@ -6,9 +6,9 @@
 
 #include <vector>
 
-/// A test with a real OpenGL 4.3 core debug context; any GL error fails it. All tests of a program share one window, which the first
-/// opens. Each starts with no program and no buffer bound, drawing into an off-screen picture of kSide x kSide pixels, cleared black,
-/// with depth test and face culling off.
+/// A test with a real OpenGL 4.3 core debug context; any GL error fails it. All tests of a program share one window,
+/// which the first opens. Each starts with no program and no buffer bound, drawing into an off-screen picture of kSide
+/// x kSide pixels, cleared black, with depth test and face culling off.
 class GlTest : public testing::Test {
 protected:
     static constexpr int kSide = 64; // pixels

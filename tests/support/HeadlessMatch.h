@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/match/MatchRules.h"
+#include "match/MatchRules.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
 #include "physics/Terrain.h"
@@ -67,8 +67,8 @@ struct WorldEnd {
     ~WorldEnd() { delete PhysxManager::instance(); }
 };
 
-/// A whole match without a window: the real rules, physics, ground and scene, a keyboard to hold keys on and a clock that runs only when
-/// passes are made. The physics world goes with it.
+/// A whole match without a window: the real rules, physics, ground and scene, a keyboard to hold keys on and a clock
+/// that runs only when passes are made. The physics world goes with it.
 class HeadlessMatch {
 public:
     enum class Ground {

@@ -16,7 +16,10 @@ public:
 
     bool isPressed(int button) override { return buttons.at(static_cast<std::size_t>(button)); }
     float getAxis(int axis) override { return axes.at(static_cast<std::size_t>(axis)); }
-    void vibrate(int milliseconds, std::uint16_t left, std::uint16_t right) override { rumbles.push_back({milliseconds, left, right}); }
+    void vibrate(int milliseconds, std::uint16_t left, std::uint16_t right) override
+    {
+        rumbles.push_back({milliseconds, left, right});
+    }
     void update() override { ++updates; }
     bool isConnected() override { return connected; }
     std::string getName() const override { return "Script"; }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/base/FrameTimer.h"
+#include "base/FrameTimer.h"
 
-/// A clock that only sleeping moves on: the frame timer's passes then last exactly as long as it asks for. In place of the frame
-/// timer's for as long as it lives.
+/// A clock that only sleeping moves on: the frame timer's passes then last exactly as long as it asks for. In place of
+/// the frame timer's for as long as it lives.
 class SteppedClock : public IClock {
 public:
     SteppedClock() { FrameTimer::getInstance()->setClock(this); }

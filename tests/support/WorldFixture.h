@@ -13,8 +13,8 @@
 #include <cmath>
 #include <functional>
 
-/// A physics world for one test: ground, cars and balls in a line each, and passes as the game makes them at 120 a second.
-/// One at a time; the world goes with it.
+/// A physics world for one test: ground, cars and balls in a line each, and passes as the game makes them at 120 a
+/// second. One at a time; the world goes with it.
 class WorldFixture {
 public:
     using Heights = std::function<int(int x, int y)>; ///< height byte of pixel (x, y), y from the bottom row up

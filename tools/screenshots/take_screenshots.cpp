@@ -1,5 +1,5 @@
-// Plays short matches on a clock of its own and writes pictures of the window, as the README and the documents show them. Run by
-// tools/screenshots.sh:
+// Plays short matches on a clock of its own and writes pictures of the window, as the README and the documents show
+// them. Run by tools/screenshots.sh:
 //     take_screenshots FOLDER [NAME [PASSES]]
 // NAME: that picture only. PASSES: so many passes of 1/120 s into the match instead of the moment chosen here.
 
@@ -35,7 +35,8 @@
 
 namespace {
 
-constexpr int kPassesPerFrame = 4; // only the last ones are drawn: smoke needs frames of 1/30 s to look as it does in the game
+constexpr int kPassesPerFrame =
+    4; // only the last ones are drawn: smoke needs frames of 1/30 s to look as it does in the game
 
 enum class View { Registration, Match, Help, Debug, Leader };
 

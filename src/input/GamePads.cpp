@@ -1,0 +1,196 @@
+#include "input/GamePads.h"
+
+#include "base/FrameTimer.h"
+#include "base/Logger.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr Uint32 kLongestRumbleMs = 0xFFFF; // what the library grants at most
+
+struct ButtonRole {
+    SDL_GameControllerButton source;
+    GamePadState::Button bit;
+};
+
+constexpr ButtonRole kButtons[] = {
+    {SDL_CONTROLLER_BUTTON_DPAD_UP, GamePadState::kUp},
+    {SDL_CONTROLLER_BUTTON_DPAD_DOWN, GamePadState::kDown},
+    {SDL_CONTROLLER_BUTTON_DPAD_LEFT, GamePadState::kLeft},
+    {SDL_CONTROLLER_BUTTON_DPAD_RIGHT, GamePadState::kRight},
+    {SDL_CONTROLLER_BUTTON_START, GamePadState::kStart},
+    {SDL_CONTROLLER_BUTTON_BACK, GamePadState::kBack},
+    {SDL_CONTROLLER_BUTTON_A, GamePadState::kA},
+    {SDL_CONTROLLER_BUTTON_B, GamePadState::kB},
+};
+
+// 0..32767 to 0..255 in equal steps.
+std::uint8_t triggerByte(Sint16 value)
+{
+    return static_cast<std::uint8_t>(std::max<int>(value, 0) / 128);
+}
+
+// The library counts downwards. The complement maps its whole range onto the whole range (negation would run over at
+// -32768); rest comes out as -1, far within any dead zone.
+std::int16_t upwards(Sint16 value)
+{
+    return static_cast<std::int16_t>(-1 - value);
+}
+
+GamePadState stateOf(SDL_GameController* pad)
+{
+    GamePadState state;
+    if (!pad) return state;
+    state.connected = true;
+    for (const ButtonRole& button : kButtons) {
+        if (SDL_GameControllerGetButton(pad, button.source))
+            state.buttons = static_cast<std::uint16_t>(state.buttons | button.bit);
+    }
+    state.leftTrigger = triggerByte(SDL_GameControllerGetAxis(pad, SDL_CONTROLLER_AXIS_TRIGGERLEFT));
+    state.rightTrigger = triggerByte(SDL_GameControllerGetAxis(pad, SDL_CONTROLLER_AXIS_TRIGGERRIGHT));
+    state.leftStickX = SDL_GameControllerGetAxis(pad, SDL_CONTROLLER_AXIS_LEFTX);
+    state.leftStickY = upwards(SDL_GameControllerGetAxis(pad, SDL_CONTROLLER_AXIS_LEFTY));
+    return state;
+}
+
+std::string textOf(const char* text)
+{
+    return text ? text : "";
+}
+
+std::string guidOf(SDL_Joystick* device)
+{
+    char text[33] = "";
+    SDL_JoystickGetGUIDString(SDL_JoystickGetGUID(device), text, sizeof text);
+    return text;
+}
+
+GamePadSlots::Pad describe(int id, SDL_GameController* pad)
+{
+    return {id, guidOf(SDL_GameControllerGetJoystick(pad)), textOf(SDL_GameControllerGetSerial(pad)),
+        textOf(SDL_GameControllerPath(pad)), textOf(SDL_GameControllerName(pad))};
+}
+
+} // namespace
+
+GamePads& gamePads()
+{
+    static GamePads pads;
+    return pads;
+}
+
+void GamePads::Closer::operator()(_SDL_GameController* handle) const
+{
+    SDL_GameControllerClose(handle);
+}
+
+GamePads::~GamePads()
+{
+    handles.clear();
+    if (library == Library::kRunning) SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
+}
+
+const GamePadState& GamePads::read(int slot)
+{
+    const double nowMs = FrameTimer::getInstance()->getTimeMs();
+    if (library == Library::kNotStarted) start();
+    if (library == Library::kRunning && nowMs != polledMs) poll();
+    polledMs = nowMs;
+    return states[static_cast<std::size_t>(slot)];
+}
+
+void GamePads::rumble(int slot, std::uint16_t leftMotor, std::uint16_t rightMotor)
+{
+    SDL_GameController* pad = handleIn(slot);
+    if (pad) SDL_GameControllerRumble(pad, leftMotor, rightMotor, kLongestRumbleMs);
+}
+
+void GamePads::start()
+{
+    SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1"); // the window with the focus is not this library's
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    if (SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) != 0) {
+        library = Library::kFailed;
+        logLine(1) << "No game-pads: " << SDL_GetError() << std::endl;
+        return;
+    }
+    library = Library::kRunning;
+    // Nobody reads the library's event queue: pads are asked.
+    SDL_JoystickEventState(SDL_IGNORE);
+    SDL_GameControllerEventState(SDL_IGNORE);
+}
+
+void GamePads::poll()
+{
+    SDL_GameControllerUpdate();
+    const bool changed = takePresent();
+    if (changed) {
+        closeDeparted();
+        openArrivals();
+    }
+    if (changed || slots.isAnyWaiting()) assignSlots();
+    for (int slot = 0; slot < kSlotCount; ++slot) states[static_cast<std::size_t>(slot)] = stateOf(handleIn(slot));
+}
+
+// True when something was plugged in or out since the last time.
+bool GamePads::takePresent()
+{
+    std::vector<int> now(static_cast<std::size_t>(std::max(SDL_NumJoysticks(), 0)));
+    for (std::size_t index = 0; index < now.size(); ++index)
+        now[index] = SDL_JoystickGetDeviceInstanceID(static_cast<int>(index));
+    if (now == present) return false;
+    present.swap(now);
+    return true;
+}
+
+void GamePads::closeDeparted()
+{
+    std::erase_if(plugged, [this](const GamePadSlots::Pad& pad) {
+        if (std::find(present.begin(), present.end(), pad.id) != present.end()) return false;
+        const int slot = slots.slotOf(pad.id);
+        if (slot != GamePadSlots::kNoSlot)
+            logLine(2) << "Game-pad " << slot + 1 << " unplugged: " << pad.name << std::endl;
+        handles.erase(pad.id);
+        return true;
+    });
+}
+
+void GamePads::openArrivals()
+{
+    for (std::size_t index = 0; index < present.size(); ++index) {
+        const int id = present[index], deviceIndex = static_cast<int>(index);
+        if (handles.count(id) != 0 || !SDL_IsGameController(deviceIndex)) continue;
+        Handle handle(SDL_GameControllerOpen(deviceIndex));
+        if (!handle) {
+            logLine(1) << "Cannot open game-pad " << textOf(SDL_GameControllerNameForIndex(deviceIndex)) << ": "
+                       << SDL_GetError() << std::endl;
+            continue;
+        }
+        plugged.push_back(describe(id, handle.get()));
+        handles[id] = std::move(handle);
+    }
+}
+
+void GamePads::assignSlots()
+{
+    const GamePadSlots before = slots;
+    slots.update(plugged, FrameTimer::getInstance()->getTimeMs());
+    for (const GamePadSlots::Pad& pad : plugged) {
+        const int slot = slots.slotOf(pad.id);
+        if (slot != before.slotOf(pad.id)) {
+            SDL_GameControllerSetPlayerIndex(handleIn(slot), slot); // the number that the pad's lights show
+            logLine(2) << "Game-pad " << slot + 1 << " plugged in: " << pad.name << std::endl;
+        } else if (slot == GamePadSlots::kNoSlot && !before.isWaiting(pad.id)) {
+            logLine(2) << "Game-pad waits for a free slot: " << pad.name << std::endl;
+        }
+    }
+}
+
+SDL_GameController* GamePads::handleIn(int slot) const
+{
+    const auto found = handles.find(slots.padIn(slot));
+    return found == handles.end() ? nullptr : found->second.get();
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "input/GamePadSlots.h"
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <vector>
+
+struct _SDL_GameController;
+
+/// What one game-pad shows at one moment; all at rest while there is none.
+struct GamePadState {
+    enum Button : std::uint16_t {
+        kUp = 1 << 0, // the D-pad's four
+        kDown = 1 << 1,
+        kLeft = 1 << 2,
+        kRight = 1 << 3,
+        kStart = 1 << 4,
+        kBack = 1 << 5,
+        kA = 1 << 6,
+        kB = 1 << 7,
+    };
+
+    bool connected = false;
+    std::uint16_t buttons = 0;     ///< Buttons held down, or'ed
+    std::uint8_t leftTrigger = 0;  ///< 0 (released) to 255
+    std::uint8_t rightTrigger = 0; ///< 0 (released) to 255
+    std::int16_t leftStickX = 0;   ///< -32768 (left) to 32767 (right)
+    std::int16_t leftStickY = 0;   ///< -32768 (down) to 32767 (up)
+};
+
+/// The machine's game-pads in four stable slots, by SDL's game-controller interface. Pads may come and go at any time;
+/// each change is a log line. The library starts with the first read() and ends with this object. One object at a time,
+/// on the main thread.
+class GamePads {
+public:
+    static constexpr int kSlotCount = GamePadSlots::kSlotCount;
+
+    GamePads() = default;
+    ~GamePads();
+    GamePads(const GamePads&) = delete;
+    GamePads& operator=(const GamePads&) = delete;
+
+    /// The pad in a slot (0 to 3) as it is in this pass of the main loop: asks the hardware once a pass, however often
+    /// it is called.
+    const GamePadState& read(int slot);
+
+    /// Motor speeds from 0 to 65535, in force until the next call (at most 65 seconds). Nothing happens while the slot
+    /// has no pad.
+    void rumble(int slot, std::uint16_t leftMotor, std::uint16_t rightMotor);
+
+private:
+    struct Closer {
+        void operator()(_SDL_GameController* handle) const;
+    };
+    using Handle = std::unique_ptr<_SDL_GameController, Closer>;
+
+    void start();
+    void poll();
+    bool takePresent();
+    void closeDeparted();
+    void openArrivals();
+    void assignSlots();
+    _SDL_GameController* handleIn(int slot) const;
+
+    enum class Library { kNotStarted, kRunning, kFailed } library = Library::kNotStarted;
+    double polledMs = -1;                   // the frame timer's time of the pass that the states are from
+    std::vector<int> present;               // the library's ids of whatever is plugged in, game-pads or not
+    std::vector<GamePadSlots::Pad> plugged; // the game-pads among them, the longest-known first
+    std::map<int, Handle> handles;          // theirs, by id
+    GamePadSlots slots;
+    std::array<GamePadState, kSlotCount> states;
+};
+
+/// The game's own; created on first use, closed when the program ends, which also stops motors that still run.
+GamePads& gamePads();

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "input/InputDevice.h"
+
+#include <array>
+#include <memory>
+
+class MatchRules;
+
+/// Who takes part: the six devices that people can join with, and which of them have. Owned by the registration screen;
+/// update() once a frame while that is shown. A device that has joined cannot leave.
+class PlayerRegistration {
+public:
+    static constexpr int kDeviceCount = 6;
+    static constexpr int kMaxParticipants = 16;
+    static constexpr int kMaxComputerPlayers = 10;
+
+    /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
+    explicit PlayerRegistration(MatchRules& match);
+
+    /// The registration screen is shown anew.
+    void restart() { spaceHeld = false; }
+
+    /// Reads the devices; the first press of a device's shoot button adds its player to the match, each press of the
+    /// space bar a computer player.
+    void update();
+
+    /// True when everybody possible takes part, or at least two do and one of the registered devices holds its start
+    /// button.
+    bool shouldStart() const;
+
+private:
+    struct Slot {
+        std::unique_ptr<InputDevice> device;
+        bool registered = false;
+        bool startPressed = false; // in this frame
+    };
+
+    void readDevices();
+    void readSpaceBar();
+
+    MatchRules& match;
+    std::array<Slot, kDeviceCount> slots;
+    bool spaceHeld = false;
+};
