@@ -10,7 +10,7 @@ inline void muteLog()
     std::cout.rdbuf(nullptr);
 }
 
-/// What the muted log would have said when BenchGame::start() failed.
+/// What the muted log would have said when TestGame::start() failed.
 inline int noDisplay()
 {
     std::fputs("no OpenGL 4.3 core context; is there a display?\n", stderr);

@@ -11,13 +11,13 @@
 //
 // On a busy machine the processor time is the steadier figure: a software driver's threads count in it.
 
-#include "BenchGame.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
 #include "base/FrameTimer.h"
 #include "players/Ball.h"
 #include "render/FrameProbe.h"
 #include "render/Renderer.h"
+#include "testing/TestGame.h"
 
 #include <GL/glew.h>
 #include <sys/wait.h>
@@ -91,7 +91,7 @@ private:
 int measure(int views, int frames, int cars)
 {
     muteLog();
-    BenchGame game;
+    TestGame game;
     if (!game.start()) return noDisplay();
     game.startMatch(views, std::max(cars, views));
     for (int i = 0; i < kWarmUpFrames; ++i) game.pass();
@@ -111,9 +111,9 @@ int measure(int views, int frames, int cars)
     StepTimes steps;
     game.getRenderer().setFrameProbe(&steps);
     for (int i = 0; i < frames; ++i) {
-        game.updateOnly();
+        game.updatePass();
         steps.begin();
-        game.drawOnly();
+        game.drawPass();
     }
     game.getRenderer().setFrameProbe(nullptr);
     const long growth = residentKib() - memoryBefore;

@@ -13,10 +13,10 @@
 #include "MatchStatistics.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
-#include "SilentMatch.h"
 #include "physics/DrivingControls.h"
 #include "physics/PhysicNode.h"
 #include "physics/VehicleHandle.h"
+#include "testing/HeadlessMatch.h"
 
 #include <PxPhysicsAPI.h>
 #include <sys/wait.h>
@@ -52,7 +52,7 @@ double microseconds(Work work)
 /// seconds.
 void runReference(int participants, int passes, int balls)
 {
-    SilentMatch match;
+    HeadlessMatch match;
     PhysxManager& world = *PhysxManager::instance();
     std::vector<VehicleHandle*> cars;
     cars.reserve(static_cast<std::size_t>(participants));
@@ -86,9 +86,8 @@ void runReference(int participants, int passes, int balls)
 /// Returns the balls in flight on average.
 int runMatch(int participants, int passes)
 {
-    SilentMatch match;
-    for (int i = 0; i < participants; ++i) match.rules.addComputerPlayer();
-    match.scene.update();
+    HeadlessMatch match;
+    for (int i = 0; i < participants; ++i) match.addComputerPlayer();
 
     MatchStatistics statistics(match.rules);
     std::vector<double> times(static_cast<std::size_t>(passes)); // written to once, so that it does not count as growth

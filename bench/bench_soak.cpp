@@ -8,12 +8,12 @@
 // when the heap has given back whatever is free. What grows by design is the scene nodes of spent balls, which are
 // detached and never freed: some 300 bytes a shot.
 
-#include "BenchGame.h"
 #include "MatchStatistics.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
 #include "base/FrameTimer.h"
 #include "render/Renderer.h"
+#include "testing/TestGame.h"
 
 #include <malloc.h>
 
@@ -35,9 +35,8 @@ int main(int argc, char** argv)
     const int minutes = argc > 1 ? std::max(1, std::atoi(argv[1])) : kDefaultMinutes;
     muteLog();
 
-    BenchGame game;
+    TestGame game(std::nullopt);
     if (!game.start()) return noDisplay();
-    FrameTimer::getInstance()->setClock(nullptr);
     game.startMatch(kHumans, kParticipants);
 
     MatchStatistics statistics(game);
@@ -46,7 +45,7 @@ int main(int argc, char** argv)
     const auto start = std::chrono::steady_clock::now();
     for (int minute = 1; minute <= minutes; ++minute) {
         while (std::chrono::steady_clock::now() < start + std::chrono::minutes(minute)) {
-            game.runPass();
+            game.pass();
             statistics.observe();
             ++frames;
         }

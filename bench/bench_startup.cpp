@@ -3,8 +3,8 @@
 // the files are in the page cache.
 //
 // usage: bench_startup [RUNS]      default 9; prints every run and the medians, in milliseconds
-#include "e2e/ChildProcess.h"
-#include "e2e/VirtualDisplay.h"
+#include "testing/ChildProcess.h"
+#include "testing/VirtualDisplay.h"
 
 #include <unistd.h>
 

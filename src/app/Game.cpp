@@ -16,29 +16,40 @@ Game::Game() : timer(FrameTimer::getInstance()), core(Core::getInstance()) {}
 
 bool Game::run()
 {
-    if (!core->init()) return false;
-
-    loadResources();
-    Renderer* renderer = core->getRenderer();
-    renderer->setDebugRenderer(new DebugRenderer());
-    init();
-
-    while (!renderer->shouldClose() && !quitting) runPass();
-
-    renderer->terminate();
+    if (!start()) return false;
+    while (!core->getRenderer()->shouldClose() && !quitting) pass();
+    core->getRenderer()->terminate();
     return true;
 }
 
-void Game::runPass()
+bool Game::start()
+{
+    if (!core->init()) return false;
+    loadResources();
+    core->getRenderer()->setDebugRenderer(new DebugRenderer());
+    init();
+    return true;
+}
+
+void Game::pass()
+{
+    if (updatePass()) drawPass();
+}
+
+bool Game::updatePass()
 {
     core->getRenderer()->getTextRenderer()->clear();
     timer->tick();
     const bool shortEnough = gameDelta() < kLongestPass;
-    if (!shortEnough) return;
+    if (!shortEnough) return false;
 
-    // The frame belongs to the state that began it, even if that state hands over to another during its update.
-    IGameState* state = core->getStateManager()->getCurrentState();
-    if (state) state->update();
+    frameState = core->getStateManager()->getCurrentState();
+    if (frameState) frameState->update();
     update();
-    core->getRenderer()->render(state);
+    return true;
+}
+
+void Game::drawPass()
+{
+    core->getRenderer()->render(frameState);
 }

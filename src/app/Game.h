@@ -4,16 +4,30 @@ class Core;
 class FrameTimer;
 class IGameState;
 
-/// The main loop. A concrete game fills in the four steps; main calls run() once.
+/// The main loop. A concrete game fills in the four steps; main calls run() once. Whoever wants the loop in its own hands
+/// calls start(), then pass() as often as it likes, or updatePass() and drawPass() by themselves.
 class Game {
 public:
     Game();
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
 
-    /// Opens the window, loads the resources, builds the world and runs passes until the window is closed or quit() was
-    /// called. False when no window could be opened.
+    /// Starts, runs passes until the window is closed or quit() was called, and closes the window. False when no window
+    /// could be opened.
     [[nodiscard]] bool run();
+
+    /// Opens the window, loads the resources and builds the world. False when no window could be opened.
+    [[nodiscard]] bool start();
+
+    /// One pass of the loop, its sleep included.
+    void pass();
+
+    /// The half of a pass that computes. False when the pass before took so long that this one is skipped: then nothing
+    /// has happened but the tick, and there is nothing to draw.
+    bool updatePass();
+
+    /// The half that draws and presents what updatePass() has made.
+    void drawPass();
 
     void quit() { quitting = true; } ///< the loop ends after the current pass
     bool isQuitting() const { return quitting; }
@@ -23,8 +37,6 @@ public:
 protected:
     ~Game() = default;
 
-    void runPass(); ///< one pass of the loop, its sleep included
-
     virtual void init() = 0;          ///< builds the world, creates the states and enters the first
     virtual void loadResources() = 0; ///< loads every shader and texture; the context is current
     virtual void update() = 0;        ///< the game's own work once a drawn frame, after the current state's
@@ -33,5 +45,6 @@ protected:
 private:
     FrameTimer* timer;
     Core* core;
+    IGameState* frameState = nullptr; // that began the pass: the frame is its own even if it has handed over meanwhile
     bool quitting = false;
 };

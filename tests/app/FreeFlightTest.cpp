@@ -1,7 +1,7 @@
 #include "app/FreeFlight.h"
 #include "scene/SceneGraph.h"
-#include "support/Near.h"
-#include "support/ScriptedKeyboard.h"
+#include "testing/Near.h"
+#include "testing/ScriptedKeyboard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,8 @@
-#include "BenchGame.h"
 #include "app/Core.h"
 #include "app/GameStateManager.h"
 #include "assets/Library.h"
 #include "base/IGameState.h"
-#include "e2e/Picture.h"
 #include "gpu/Shaderprogram.h"
-#include "input/VirtualPad.h"
 #include "match/ViewportLayout.h"
 #include "physics/VehicleHandle.h"
 #include "players/Ball.h"
@@ -13,10 +10,14 @@
 #include "render/FrameProbe.h"
 #include "render/Renderer.h"
 #include "scene/SceneGraph.h"
-#include "support/GlErrors.h"
-#include "support/ScriptedKeyboard.h"
+#include "testing/GlErrors.h"
+#include "testing/Picture.h"
+#include "testing/ScriptedKeyboard.h"
+#include "testing/TestGame.h"
+#include "testing/VirtualPad.h"
 
 #include <GL/gl.h>
+#include <gtest/gtest.h>
 #include <vehicle/PxVehicleDrive4W.h>
 
 #include <algorithm>
@@ -58,7 +59,7 @@ protected:
     struct House {
         PadLibrary library;
         std::array<VirtualPad, kPadCount> pads;
-        BenchGame game;
+        TestGame game;
         std::unique_ptr<ScriptedKeyboard> keys; // once the window no longer puts its own in place
     };
 
@@ -103,7 +104,7 @@ protected:
         pass();
     }
 
-    static BenchGame& game() { return house->game; }
+    static TestGame& game() { return house->game; }
     static ScriptedKeyboard& keys() { return *house->keys; }
     static VirtualPad& pad(int slot) { return house->pads.at(static_cast<std::size_t>(slot)); }
     static Player& player(int i) { return *game().getPlayers().at(static_cast<std::size_t>(i)); }
@@ -112,14 +113,14 @@ protected:
     /// A pass of the main loop without the picture.
     static void pass()
     {
-        game().updateOnly();
+        game().updatePass();
         game().getSceneGraph()->update();
     }
 
     /// A pass whose picture is kept.
     static Screen draw()
     {
-        game().updateOnly();
+        game().updatePass();
         return drawAgain();
     }
 
@@ -127,7 +128,7 @@ protected:
     {
         Screen screen;
         game().getRenderer().setFrameProbe(&screen);
-        game().drawOnly();
+        game().drawPass();
         game().getRenderer().setFrameProbe(nullptr);
         return screen;
     }

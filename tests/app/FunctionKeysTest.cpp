@@ -1,5 +1,5 @@
 #include "app/FunctionKeys.h"
-#include "support/ScriptedKeyboard.h"
+#include "testing/ScriptedKeyboard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,9 @@
 #include "assets/Icosphere.h"
 
 #include "scene/Mesh.h"
-#include "support/Near.h"
+#include "testing/Near.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -2,10 +2,10 @@
 #include "gpu/Shaderprogram.h"
 #include "gpu/Texture.h"
 #include "scene/Mesh.h"
-#include "support/DataCapturedLog.h"
-#include "support/DataScratch.h"
-#include "support/GlErrors.h"
-#include "support/GlFixture.h"
+#include "testing/CapturedLog.h"
+#include "testing/DataScratch.h"
+#include "testing/GlErrors.h"
+#include "testing/GlFixture.h"
 
 #include <GL/glew.h>
 

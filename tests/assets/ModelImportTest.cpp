@@ -1,12 +1,13 @@
 #include "assets/ModelImport.h"
 #include "assets/Library.h"
 #include "scene/Mesh.h"
-#include "support/DataCapturedLog.h"
-#include "support/DataScratch.h"
-#include "support/Near.h"
+#include "testing/CapturedLog.h"
+#include "testing/DataScratch.h"
+#include "testing/Near.h"
 
 #include <algorithm>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
 
 namespace {

@@ -6,8 +6,8 @@
 #include "scene/Camera.h"
 #include "scene/Mesh.h"
 #include "scene/SceneGraph.h"
-#include "support/DataScratch.h"
-#include "support/GlFixture.h"
+#include "testing/DataScratch.h"
+#include "testing/GlFixture.h"
 
 #include <GL/glew.h>
 #include <glm/gtc/matrix_transform.hpp>

@@ -1,8 +1,8 @@
 #include "audio/AudioSystem.h"
 
-#include "audio/Listening.h"
-#include "support/DataCapturedLog.h"
-#include "support/TemporaryFolder.h"
+#include "Listening.h"
+#include "testing/CapturedLog.h"
+#include "testing/TemporaryFolder.h"
 
 namespace {
 

@@ -1,5 +1,7 @@
-#include "support/Shell.h"
-#include "support/TemporaryFolder.h"
+#include "testing/Shell.h"
+#include "testing/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

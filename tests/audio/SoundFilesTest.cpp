@@ -1,6 +1,6 @@
-#include "audio/Listening.h"
-#include "support/DataCapturedLog.h"
-#include "support/TemporaryFolder.h"
+#include "Listening.h"
+#include "testing/CapturedLog.h"
+#include "testing/TemporaryFolder.h"
 
 #include <fstream>
 #include <iterator>

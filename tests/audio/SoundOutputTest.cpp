@@ -1,5 +1,5 @@
-#include "audio/Listening.h"
-#include "support/TemporaryFolder.h"
+#include "Listening.h"
+#include "testing/TemporaryFolder.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "support/SteppedClock.h"
+#include "testing/SteppedClock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "base/Logger.h"
 
-#include "support/DataCapturedLog.h"
+#include "testing/CapturedLog.h"
 
 #include <gtest/gtest.h>
 

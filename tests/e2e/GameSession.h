@@ -1,8 +1,8 @@
 #pragma once
 
-#include "e2e/ChildProcess.h"
-#include "e2e/VirtualDisplay.h"
-#include "support/DataScratch.h"
+#include "testing/ChildProcess.h"
+#include "testing/DataScratch.h"
+#include "testing/VirtualDisplay.h"
 
 #include <memory>
 #include <string>

@@ -1,4 +1,4 @@
-#include "e2e/GameSession.h"
+#include "GameSession.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "gpu/Texture.h"
 
-#include "support/DataCapturedLog.h"
-#include "support/DataScratch.h"
-#include "support/GlFixture.h"
+#include "testing/CapturedLog.h"
+#include "testing/DataScratch.h"
+#include "testing/GlFixture.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "input/AIController.h"
-#include "support/SteppedClock.h"
+#include "testing/SteppedClock.h"
 
 #include <glm/gtc/matrix_transform.hpp>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "input/KeyboardController.h"
-#include "support/ScriptedKeyboard.h"
+#include "testing/ScriptedKeyboard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,11 @@
 #include "input/XBOXController.h"
-#include "VirtualPad.h"
-#include "support/DataCapturedLog.h"
-#include "support/SteppedClock.h"
+#include "testing/CapturedLog.h"
+#include "testing/SteppedClock.h"
+#include "testing/VirtualPad.h"
 
 #include <array>
 #include <deque>
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "match/ViewportLayout.h"
-#include "support/HeadlessMatch.h"
+#include "testing/HeadlessMatch.h"
 
 #include <gtest/gtest.h>
 

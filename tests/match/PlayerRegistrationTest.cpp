@@ -1,6 +1,6 @@
 #include "match/PlayerRegistration.h"
-#include "support/DataCapturedLog.h"
-#include "support/HeadlessMatch.h"
+#include "testing/CapturedLog.h"
+#include "testing/HeadlessMatch.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "base/FrameTimer.h"
 #include "players/Ball.h"
-#include "support/HeadlessMatch.h"
+#include "testing/HeadlessMatch.h"
 
 #include <PxPhysicsAPI.h>
 #include <gtest/gtest.h>

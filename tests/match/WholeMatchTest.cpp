@@ -1,7 +1,7 @@
 #include "base/FrameTimer.h"
 #include "players/Ball.h"
-#include "support/HeadlessMatch.h"
-#include "support/Near.h"
+#include "testing/HeadlessMatch.h"
+#include "testing/Near.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "e2e/ChildProcess.h"
-#include "e2e/VirtualDisplay.h"
-#include "support/TemporaryFolder.h"
+#include "testing/ChildProcess.h"
+#include "testing/TemporaryFolder.h"
+#include "testing/VirtualDisplay.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "physics/SampleVehicle_VehicleManager.h"
-#include "support/WorldFixture.h"
+#include "testing/WorldFixture.h"
 
 #include <PxPhysicsAPI.h>
 #include <gtest/gtest.h>

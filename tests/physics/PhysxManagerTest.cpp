@@ -1,9 +1,10 @@
 #include "scene/SceneGraph.h"
-#include "support/Near.h"
-#include "support/WorldFixture.h"
+#include "testing/Near.h"
+#include "testing/WorldFixture.h"
 
 #include <PxPhysicsAPI.h>
 #include <glm/gtc/matrix_transform.hpp>
+#include <gtest/gtest.h>
 
 namespace {
 

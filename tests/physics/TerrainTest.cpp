@@ -1,9 +1,10 @@
 #include "scene/SceneGraph.h"
-#include "support/DataCapturedLog.h"
-#include "support/Near.h"
-#include "support/WorldFixture.h"
+#include "testing/CapturedLog.h"
+#include "testing/Near.h"
+#include "testing/WorldFixture.h"
 
 #include <PxPhysicsAPI.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <optional>

@@ -1,7 +1,8 @@
-#include "support/Near.h"
-#include "support/WorldFixture.h"
+#include "testing/Near.h"
+#include "testing/WorldFixture.h"
 
 #include <PxPhysicsAPI.h>
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,6 +1,7 @@
-#include "support/Shell.h"
-#include "support/TemporaryFolder.h"
+#include "testing/Shell.h"
+#include "testing/TemporaryFolder.h"
 
+#include <gtest/gtest.h>
 #include <vector>
 
 namespace fs = std::filesystem;

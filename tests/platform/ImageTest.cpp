@@ -1,6 +1,6 @@
 #include "platform/Image.h"
 
-#include "support/TemporaryFolder.h"
+#include "testing/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "support/HeadlessMatch.h"
+#include "testing/HeadlessMatch.h"
 
 #include <gtest/gtest.h>
 

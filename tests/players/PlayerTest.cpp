@@ -1,6 +1,6 @@
-#include "support/DataCapturedLog.h"
-#include "support/HeadlessMatch.h"
-#include "support/Near.h"
+#include "testing/CapturedLog.h"
+#include "testing/HeadlessMatch.h"
+#include "testing/Near.h"
 
 #include <PxRigidDynamic.h>
 #include <vehicle/PxVehicleDrive4W.h>
@@ -52,7 +52,7 @@ TEST_F(PlayerTest, PeopleAndComputerPlayersAreCountedNamedAndColouredInTheOrderO
         EXPECT_EQ(player.getName(), row.name);
         EXPECT_TRUE(isNear(player.getColor(), row.colour)) << row.name;
         EXPECT_TRUE(isNear(match.stage.colours.back(), row.colour)) << "the car is dressed in it";
-        EXPECT_EQ(match.stage.sounds.back().volume, row.volume) << row.name;
+        EXPECT_EQ(match.stage.lastVolume, row.volume) << row.name;
     }
     match.rules.getPlayers()[1]->addScore(3);
     EXPECT_EQ(match.rules.getPlayers()[1]->getName(), "(3) Player 3, Script");

@@ -1,9 +1,9 @@
 #include "players/Spectator.h"
 #include "base/FrameTimer.h"
 #include "base/Logger.h"
-#include "support/DataCapturedLog.h"
-#include "support/HeadlessMatch.h"
-#include "support/Near.h"
+#include "testing/CapturedLog.h"
+#include "testing/HeadlessMatch.h"
+#include "testing/Near.h"
 
 #include <gtest/gtest.h>
 

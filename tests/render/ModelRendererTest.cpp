@@ -3,7 +3,7 @@
 #include "assets/MeshGeometry.h"
 #include "gpu/DrawCalls.h"
 #include "scene/Mesh.h"
-#include "support/DataCapturedLog.h"
+#include "testing/CapturedLog.h"
 
 #include <GLFW/glfw3.h>
 #include <glm/gtc/constants.hpp>

@@ -2,7 +2,7 @@
 
 #include "base/FrameTimer.h"
 #include "render/ParticleSystem.h"
-#include "support/Near.h"
+#include "testing/Near.h"
 
 #include <GL/glew.h>
 

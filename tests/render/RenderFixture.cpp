@@ -8,8 +8,8 @@
 #include "render/TextRenderer.h"
 #include "scene/Mesh.h"
 #include "scene/MeshGenerators.h"
-#include "support/DataCapturedLog.h"
-#include "support/GlErrors.h"
+#include "testing/CapturedLog.h"
+#include "testing/GlErrors.h"
 
 #include <GL/glew.h>
 

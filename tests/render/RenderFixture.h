@@ -10,8 +10,8 @@
 #include "scene/Node.h"
 #include "scene/SceneGraph.h"
 #include "scene/Viewport.h"
-#include "support/ScriptedKeyboard.h"
-#include "support/SteppedClock.h"
+#include "testing/ScriptedKeyboard.h"
+#include "testing/SteppedClock.h"
 
 #include <glm/glm.hpp>
 #include <glm/gtc/matrix_transform.hpp>

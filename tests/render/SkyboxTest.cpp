@@ -3,7 +3,7 @@
 #include "gpu/Texture.h"
 #include "gpu/Uniform_Texture.h"
 #include "render/Skybox.h"
-#include "support/DataScratch.h"
+#include "testing/DataScratch.h"
 
 #include <GL/glew.h>
 

@@ -1,6 +1,6 @@
 #include "scene/Mesh.h"
 #include "scene/MeshGenerators.h"
-#include "support/Near.h"
+#include "testing/Near.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "scene/Attachable.h"
 #include "scene/SceneGraph.h"
-#include "support/Near.h"
+#include "testing/Near.h"
 
 #include <gtest/gtest.h>
 

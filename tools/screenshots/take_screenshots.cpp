@@ -3,7 +3,6 @@
 //     take_screenshots FOLDER [NAME [PASSES]]
 // NAME: that picture only. PASSES: so many passes of 1/120 s into the match instead of the moment chosen here.
 
-#include "BenchGame.h"
 #include "app/Core.h"
 #include "app/GameStateManager.h"
 #include "input/AIController.h"
@@ -13,7 +12,8 @@
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
 #include "scene/SceneGraph.h"
-#include "support/ScriptedKeyboard.h"
+#include "testing/ScriptedKeyboard.h"
+#include "testing/TestGame.h"
 
 #include <GL/glew.h>
 #include <glm/gtc/matrix_transform.hpp>
@@ -102,7 +102,7 @@ glm::mat4 closeUpPose(const Player& leader)
     return car * glm::inverse(glm::lookAt(glm::vec3(3.2f, 2.6f, 5.2f), glm::vec3(0, 1.5f, 0), glm::vec3(0, 1, 0)));
 }
 
-void playTo(BenchGame& game, const Shot& shot, std::deque<GuidedDevice>& devices)
+void playTo(TestGame& game, const Shot& shot, std::deque<GuidedDevice>& devices)
 {
     for (int i = 0; i < shot.people; ++i) {
         game.addPlayer(&devices.emplace_back(i));
@@ -112,15 +112,15 @@ void playTo(BenchGame& game, const Shot& shot, std::deque<GuidedDevice>& devices
         while (game.getActorCount() < shot.participants) game.addComputerPlayer();
     else game.startMatch(0, shot.participants);
     for (int pass = 0; pass < shot.passes; ++pass) {
-        game.updateOnly();
-        if (pass % kPassesPerFrame == 0) game.drawOnly();
+        game.updatePass();
+        if (pass % kPassesPerFrame == 0) game.drawPass();
     }
 }
 
 /// Runs in a process of its own: participants cannot leave a match. Returns the exit status.
 int take(const Shot& shot, const std::string& file)
 {
-    BenchGame game;
+    TestGame game;
     if (!game.start()) return EXIT_FAILURE;
     ScriptedKeyboard keys;
     std::deque<GuidedDevice> devices;
@@ -136,9 +136,9 @@ int take(const Shot& shot, const std::string& file)
         game.getSceneGraph()->getRoot()->find("CameraNode")->setTransform(closeUpPose(*leader));
     }
     PictureWriter writer(file);
-    if (shot.view != View::Leader) game.updateOnly();
+    if (shot.view != View::Leader) game.updatePass();
     game.getRenderer().setFrameProbe(&writer);
-    game.drawOnly();
+    game.drawPass();
     game.getRenderer().terminate();
     return writer.written ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <SDL.h>
-#include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -11,7 +11,7 @@ class PadLibrary {
 public:
     PadLibrary()
     {
-        if (SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) != 0) ADD_FAILURE() << SDL_GetError();
+        if (SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) != 0) throw std::runtime_error(SDL_GetError());
     }
     ~PadLibrary() { SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER); }
     PadLibrary(const PadLibrary&) = delete;
@@ -50,7 +50,7 @@ public:
             return 0;
         };
         device = SDL_JoystickOpen(SDL_JoystickAttachVirtualEx(&description));
-        if (!device) ADD_FAILURE() << SDL_GetError();
+        if (!device) throw std::runtime_error(SDL_GetError());
         move(SDL_CONTROLLER_AXIS_TRIGGERLEFT, SDL_JOYSTICK_AXIS_MIN); // released
         move(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, SDL_JOYSTICK_AXIS_MIN);
     }

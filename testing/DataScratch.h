@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/TemporaryFolder.h"
+#include "testing/TemporaryFolder.h"
 
 #include <functional>
 

@@ -1,8 +1,8 @@
-#include "support/GlFixture.h"
+#include "testing/GlFixture.h"
 
 #include "gpu/Shaderprogram.h"
 #include "platform/AppWindow.h"
-#include "support/GlErrors.h"
+#include "testing/GlErrors.h"
 
 #include <stdexcept>
 

@@ -1,4 +1,4 @@
-#include "e2e/VirtualDisplay.h"
+#include "testing/VirtualDisplay.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xlib.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "e2e/ChildProcess.h"
-#include "e2e/Picture.h"
+#include "testing/ChildProcess.h"
+#include "testing/Picture.h"
 
 #include <memory>
 #include <string>

@@ -9,15 +9,16 @@
 #include "players/IStage.h"
 #include "players/Player.h"
 #include "scene/SceneGraph.h"
-#include "support/DataScratch.h"
-#include "support/ScriptedDevice.h"
-#include "support/ScriptedKeyboard.h"
-#include "support/SteppedClock.h"
+#include "testing/DataScratch.h"
+#include "testing/ScriptedDevice.h"
+#include "testing/ScriptedKeyboard.h"
+#include "testing/SteppedClock.h"
 
-#include <algorithm>
 #include <deque>
+#include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A stage without a window: shows nothing, but remembers what it was asked for.
@@ -38,28 +39,31 @@ public:
     void setThrottle(float newThrottle) override { throttle = newThrottle; }
     Attachable* dressBall(Node&, const glm::vec4&) override { return nullptr; }
     void undressBall(Attachable*) override {}
-    void playSound(const std::string& name, float volume) override { sounds.push_back({name, volume}); }
+    void playSound(const std::string& name, float volume) override
+    {
+        ++sounds[{name, volume}];
+        lastVolume = volume;
+    }
     void addText(const std::string& text, double x, double y) override { lines.push_back({text, x, y}); }
     glm::ivec2 getWindowSize() const override { return {1024, 768}; }
 
     /// How often that sound was played, at that volume or at any.
     int count(const std::string& name, std::optional<float> volume = {}) const
     {
-        return static_cast<int>(std::count_if(sounds.begin(), sounds.end(),
-            [&](const Sound& sound) { return sound.name == name && sound.volume == volume.value_or(sound.volume); }));
+        int times = 0;
+        for (const auto& [sound, played] : sounds) {
+            if (sound.first == name && sound.second == volume.value_or(sound.second)) times += played;
+        }
+        return times;
     }
 
-    struct Sound {
-        std::string name;
-        float volume;
-    };
-
     std::vector<CarNodes> cars;
-    std::vector<Sound> sounds; ///< everything played so far
-    float throttle = 0;        ///< of whoever was heard last
     std::vector<glm::vec4> colours;
-    std::vector<Line> lines;         ///< of the last pass
-    glm::vec3 emitterPosition{0.0f}; ///< of whoever smoked last
+    std::map<std::pair<std::string, float>, int> sounds; ///< how often each was played at each volume
+    float lastVolume = 0;                                ///< of the sound played last
+    float throttle = 0;                                  ///< of whoever was heard last
+    std::vector<Line> lines;                             ///< of the last pass
+    glm::vec3 emitterPosition{0.0f};                     ///< of whoever smoked last
 };
 
 /// Takes the physics world down as it goes: after the rules, whose shots in flight give their bodies back to the world.
@@ -76,7 +80,8 @@ public:
         kFlat, ///< flat, eight units below where cars enter
     };
 
-    explicit HeadlessMatch(Ground ground = Ground::kGame)
+    /// passSeconds: see SteppedClock.
+    explicit HeadlessMatch(Ground ground = Ground::kGame, double passSeconds = 0) : clock(passSeconds)
     {
         rules.setWorld(&graph, &stage);
         createTerrain(ground);
@@ -109,7 +114,7 @@ public:
         graph.update();
     }
 
-    /// One pass of the match as the main loop makes it, of 1/120 s.
+    /// One pass of the match as the main loop makes it.
     void pass()
     {
         stage.lines.clear();

@@ -5,7 +5,7 @@
 #include "physics/PhysxManager.h"
 #include "physics/Terrain.h"
 #include "physics/VehicleHandle.h"
-#include "support/DataScratch.h"
+#include "testing/DataScratch.h"
 
 #include <PxPhysicsAPI.h>
 #include <glm/glm.hpp>

@@ -1,4 +1,4 @@
-#include "support/GlErrors.h"
+#include "testing/GlErrors.h"
 
 #include <GL/glew.h>
 #include <gtest/gtest.h>

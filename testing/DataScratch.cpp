@@ -1,4 +1,4 @@
-#include "support/DataScratch.h"
+#include "testing/DataScratch.h"
 
 namespace fs = std::filesystem;
 

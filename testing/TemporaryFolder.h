@@ -1,10 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 
 /// An empty folder of its own under the system's temporary one, removed with everything in it at the end of its scope.
@@ -13,7 +12,7 @@ public:
     TemporaryFolder()
     {
         std::string pattern = (std::filesystem::temp_directory_path() / "quackdash-XXXXXX").string();
-        if (!mkdtemp(pattern.data())) ADD_FAILURE() << "cannot create " << pattern;
+        if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot create " + pattern);
         folder = std::filesystem::canonical(pattern);
     }
 

@@ -1,4 +1,4 @@
-#include "e2e/ChildProcess.h"
+#include "testing/ChildProcess.h"
 
 #include <fcntl.h>
 #include <sys/prctl.h>

@@ -1,4 +1,4 @@
-#include "e2e/Picture.h"
+#include "testing/Picture.h"
 
 #include <cstdlib>
 
