@@ -28,6 +28,8 @@ private:
         std::function<void()> action;
     };
 
+    static std::array<bool, kKeyCount> readKeys();
+
     std::vector<Binding> bindings;
-    std::array<bool, kKeyCount> keyWasDown{}; // F1 first
+    std::array<bool, kKeyCount> keyWasDown{}; // at the end of the pass before; F1 first
 };

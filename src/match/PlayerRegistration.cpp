@@ -28,22 +28,30 @@ void PlayerRegistration::update()
 
 void PlayerRegistration::readSpaceBar()
 {
-    const bool isDown = isKeyDown(GLFW_KEY_SPACE);
-    if (isDown && !spaceHeld && match.getComputerPlayerCount() < kMaxComputerPlayers) match.addComputerPlayer();
-    spaceHeld = isDown;
+    if (isKeyDown(GLFW_KEY_SPACE) && !spaceHeld) {
+        spaceHeld = true;
+        if (match.getComputerPlayerCount() < kMaxComputerPlayers) match.addComputerPlayer();
+    }
+    if (!isKeyDown(GLFW_KEY_SPACE)) spaceHeld = false; // read again: a tap that is over by now leaves nothing held
 }
 
+// Every device is asked for both buttons in every pass, whether it has joined or not: a key stays pressed until it is
+// asked for, and would fire, or start the match, much later.
 void PlayerRegistration::readDevices()
 {
     for (Slot& slot : slots) {
         slot.device->update();
-        slot.startPressed =
-            slot.device->isPressed(InputDevice::kStart); // a key stays pressed until it's asked for: not left for later
-        if (slot.registered || !slot.device->isPressed(InputDevice::kShoot)) continue;
-        slot.registered = true;
-        match.addPlayer(slot.device.get());
-        logLine(2) << "Player registered" << std::endl;
+        const bool shootPressed = slot.device->isPressed(InputDevice::kShoot);
+        slot.startPressed = slot.device->isPressed(InputDevice::kStart);
+        if (shootPressed && !slot.registered) join(slot);
     }
+}
+
+void PlayerRegistration::join(Slot& slot)
+{
+    slot.registered = true;
+    match.addPlayer(slot.device.get());
+    logLine(2) << "Player registered" << std::endl;
 }
 
 bool PlayerRegistration::shouldStart() const

@@ -37,6 +37,7 @@ private:
     };
 
     void readDevices();
+    void join(Slot& slot);
     void readSpaceBar();
 
     MatchRules& match;

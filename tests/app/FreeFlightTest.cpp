@@ -36,6 +36,7 @@ TEST(FreeFlight, FliesInTheDirectionOfItsViewByKeysAndMouse)
     for (const Row& row : rows) {
         SCOPED_TRACE(&row - rows);
         const glm::vec3 before = node->getWorldPosition();
+        keys.reset();
         keys.hold(row.keys);
         flight.update({row.mouseX, 300}, 0.5f);
         graph.update();

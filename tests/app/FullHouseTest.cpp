@@ -157,7 +157,7 @@ protected:
     {
         if (i < kPadCount) pad(i).move(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, down ? kFullTrigger : SDL_JOYSTICK_AXIS_MIN);
         else if (down) keys().hold({i == kPadCount ? GLFW_KEY_UP : GLFW_KEY_W});
-        else keys().hold({});
+        else keys().reset();
     }
 
     static std::unique_ptr<House> house;

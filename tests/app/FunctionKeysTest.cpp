@@ -23,9 +23,15 @@ TEST(FunctionKeysTest, RunTheirOwnActionsOnceAPressOrInEveryFrameInTheOrderOfBin
 
     EXPECT_EQ(frame({GLFW_KEY_F1, GLFW_KEY_F12}), "ph");
     EXPECT_EQ(frame({GLFW_KEY_F1, GLFW_KEY_F12}), "h");
+    EXPECT_EQ(frame({GLFW_KEY_F12}), "h") << "a key that was let go of reads as down once more";
     EXPECT_EQ(frame({GLFW_KEY_F12}), "");
     EXPECT_EQ(frame({GLFW_KEY_F2, GLFW_KEY_F11, GLFW_KEY_F13}), "");
     EXPECT_EQ(frame({GLFW_KEY_F12}), "p");
+    frame({});
+    for (int tap = 0; tap < 10; ++tap) {
+        keys.tap(GLFW_KEY_F12);
+        EXPECT_EQ(frame({}), "p") << "tap " << tap;
+    }
 }
 
 } // namespace

@@ -24,6 +24,7 @@ TEST(KeyboardController, OneKeyPressesOneButtonAndMovesAtMostOneAxis)
     for (const KeyRow& row : rows) {
         SCOPED_TRACE(row.key);
         KeyboardController device(row.layout), otherHalf(3 - row.layout);
+        keys.reset();
         keys.hold({row.key});
         for (int button = -1; button <= 7; ++button) {
             EXPECT_EQ(device.isPressed(button), button == row.button) << "button " << button;
@@ -39,6 +40,7 @@ TEST(KeyboardController, BothHalvesShareTheStartAndBackKeysAndOppositeSteeringKe
     ScriptedKeyboard keys;
     KeyboardController arrows(1), letters(2);
     for (const int key : {GLFW_KEY_ENTER, GLFW_KEY_ESCAPE}) {
+        keys.reset();
         keys.hold({key});
         for (KeyboardController* half : {&arrows, &letters}) {
             EXPECT_EQ(half->isStartPressed(), key == GLFW_KEY_ENTER);

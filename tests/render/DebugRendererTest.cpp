@@ -40,7 +40,7 @@ TEST_F(DebugRendererTest, MarksNodesAndCamerasThroughThingsInEveryViewportWhileF
     constexpr int kNodes = 4, kCameras = 2, kViews = 2;
     for (const bool held : {true, true, false}) {
         if (held) keys.hold({GLFW_KEY_F6});
-        else keys.hold({});
+        else keys.reset();
         EXPECT_EQ(trianglesOfAFrame() - usual,
             held * kViews * (kNodes * kMarkerTriangles + kCameras * cameraTriangles));
         for (const glm::ivec4& pixel : {windowPixel(256, 192), windowPixel(768, 576)})

@@ -64,6 +64,7 @@ TEST_F(ModelRendererTest, CullsWhatLiesBehindTheCameraOfEachViewportAndSaysHowMa
         {{GLFW_KEY_F1}, {}, {1, 1, 1, 2}}};
     for (const Row& row : rows) {
         SCOPED_TRACE(&row - rows);
+        keys.reset();
         keys.hold(row.keys);
         for (BoxModel* box : {&ahead, &behind, &alsoBehind, &everywhere}) box->draws = 0;
         frame();
