@@ -1,6 +1,6 @@
 #include "MatchStatistics.h"
 
-#include "match/MatchRules.h"
+#include "match/Match.h"
 #include "physics/VehicleHandle.h"
 #include "players/Ball.h"
 #include "players/Player.h"
@@ -29,7 +29,7 @@ void MatchStatistics::observe()
     const auto& actors = match.getActors();
     cars.resize(actors.size());
     for (std::size_t i = 0; i < actors.size(); ++i) {
-        const Player& player = *static_cast<const Player*>(actors[i]);
+        const Player& player = *actors[i];
         Car& car = cars[i];
         const bool died = player.getDeaths() != car.deaths;
         if (died) {

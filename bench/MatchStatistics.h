@@ -5,12 +5,12 @@
 #include <deque>
 #include <vector>
 
-class MatchRules;
+class Match;
 
 /// Watches a match from outside, pass by pass, and counts what went on.
 class MatchStatistics {
 public:
-    explicit MatchStatistics(const MatchRules& watched) : match(watched) {}
+    explicit MatchStatistics(const Match& watched) : match(watched) {}
 
     void observe(); ///< after each pass
 
@@ -29,7 +29,7 @@ private:
         float lowest = 0; ///< height in the pass before
     };
 
-    const MatchRules& match;
+    const Match& match;
     std::vector<Car> cars;
     long carPasses = 0, upsideDown = 0, stuck = 0;
     int shots = 0, hits = 0, deaths = 0, falls = 0;

@@ -119,7 +119,7 @@ int measure(int views, int frames, int cars)
     const long growth = residentKib() - memoryBefore;
 
     std::printf("%d viewport%s, %d cars, %zu balls in flight, %d frames\n", views, views == 1 ? "" : "s",
-        game.getActorCount(), game.getBalls().size(), frames);
+        game.getMatch().getActorCount(), game.getMatch().getBalls().size(), frames);
     steps.print();
     std::printf("  %-14s %7.2f ms, processor %7.2f ms\n", "whole frame", percentile(whole, 0.5),
         percentile(processor, 0.5));

@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     if (!game.start()) return noDisplay();
     game.startMatch(kHumans, kParticipants);
 
-    MatchStatistics statistics(game);
+    MatchStatistics statistics(game.getMatch());
     int frames = 0;
     long firstMinute = 0, rss = 0;
     const auto start = std::chrono::steady_clock::now();

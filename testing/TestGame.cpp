@@ -15,9 +15,9 @@ void TestGame::startMatch(int humans, int participants)
 {
     for (int i = 0; i < humans; ++i) {
         devices.push_back(std::make_unique<WanderingDevice>(static_cast<unsigned>(i)));
-        addPlayer(devices.back().get());
+        getMatch().addPlayer(*devices.back());
     }
-    while (getActorCount() < participants) addComputerPlayer();
+    while (getMatch().getActorCount() < participants) getMatch().addComputerPlayer();
     getCore()->getStateManager()->changeState("PlayGamestate");
 }
 

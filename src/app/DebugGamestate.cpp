@@ -16,10 +16,10 @@
 
 namespace {
 
-Node* createCameraNode(const QKD_Game& game)
+Node* createCameraNode(QKD_Game& game)
 {
     Node* node = new Node("CameraNode");
-    game.getSceneGraph()->getRoot()->addChild(node);
+    game.getScene().getRoot()->addChild(node);
     node->transform(rotation(180, glm::vec3(0, 1, 0)), true);
     node->transform(rotation(-15, glm::vec3(1, 0, 0)), true);
     node->transform(translation(glm::vec3(0, 5, -15)), false);
@@ -36,7 +36,7 @@ FreeFlight::Mouse mouseIn(const AppWindow& window)
 
 DebugGamestate::DebugGamestate(const std::string& stateName, QKD_Game& ownGame)
     : IGameState(stateName), game(ownGame), window(ownGame.getCore()->getRenderer()->getWindow()),
-      cameraNode(createCameraNode(ownGame)), view(ownGame.getWindowRect(), cameraNode), flight(*cameraNode)
+      cameraNode(createCameraNode(ownGame)), view(ownGame.getWindowRect(), *cameraNode), flight(*cameraNode)
 {
 }
 

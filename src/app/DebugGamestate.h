@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/FreeFlight.h"
-#include "app/StateView.h"
+#include "app/OverviewViewport.h"
 #include "base/IGameState.h"
 
 class AppWindow;
@@ -23,6 +23,6 @@ private:
     QKD_Game& game;
     AppWindow& window;
     Node* cameraNode;
-    StateView view;
+    OverviewViewport view;
     FreeFlight flight;
 };

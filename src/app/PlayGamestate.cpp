@@ -39,7 +39,7 @@ PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame) : 
 void PlayGamestate::enter()
 {
     logLine(2) << "Enter PlayGamestate" << std::endl;
-    game.layoutViewports();
+    game.getMatch().layoutViewports();
     collectPlayerViewports();
     fillFreeCell();
     game.getCore()->getRenderer()->setViewports(viewports);
@@ -48,15 +48,15 @@ void PlayGamestate::enter()
 void PlayGamestate::collectPlayerViewports()
 {
     viewports.clear();
-    for (Player* player : game.getPlayers()) viewports.push_back(player->getViewport());
+    for (Player* player : game.getMatch().getPlayers()) viewports.push_back(player->getViewport());
 }
 
 void PlayGamestate::fillFreeCell()
 {
-    const auto cell = game.freeViewportRect();
+    const auto cell = game.getMatch().freeViewportRect();
     if (!cell) return;
-    Node* panoramaNode = game.getSceneGraph()->getRoot()->find("PanoramaCamera");
-    overviews.push_back(std::make_unique<StateView>(*cell, panoramaNode));
+    Node* panoramaNode = game.getScene().getRoot()->find("PanoramaCamera");
+    overviews.push_back(std::make_unique<OverviewViewport>(*cell, *panoramaNode));
     viewports.push_back(overviews.back()->getViewport());
 }
 
@@ -67,7 +67,7 @@ void PlayGamestate::leave()
 
 void PlayGamestate::update()
 {
-    game.updateMatch();
+    game.getMatch().updateMatch();
     if (isKeyDown(GLFW_KEY_F12)) game.getCore()->getStateManager()->changeState("DebugGamestate");
     if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
 }

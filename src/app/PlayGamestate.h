@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/StateView.h"
+#include "app/OverviewViewport.h"
 #include "base/IGameState.h"
 
 #include <memory>
@@ -26,6 +26,6 @@ private:
 
     QKD_Game& game;
     std::vector<Viewport*> viewports;
-    std::vector<std::unique_ptr<StateView>>
+    std::vector<std::unique_ptr<OverviewViewport>>
         overviews; // one more for each entry that leaves a cell free: their node keeps its cameras
 };

@@ -5,22 +5,15 @@
 #include "app/DebugGamestate.h"
 #include "app/GameStateManager.h"
 #include "app/PlayGamestate.h"
+#include "app/Presentation.h"
 #include "app/RegisterPlayersGamestate.h"
-#include "app/TerrainModel.h"
 #include "assets/Library.h"
-#include "assets/PartyhatModel.h"
 #include "audio/AudioSystem.h"
 #include "base/FrameTimer.h"
 #include "base/Logger.h"
-#include "gpu/Uniform_Texture.h"
-#include "physics/PhysicNode.h"
-#include "physics/PhysxManager.h"
-#include "physics/Terrain.h"
 #include "players/Player.h"
 #include "render/Renderer.h"
-#include "render/Skybox.h"
 #include "render/TextRenderer.h"
-#include "scene/SceneGraph.h"
 #include "scene/Transforms.h"
 
 namespace {
@@ -28,24 +21,14 @@ constexpr double kRankingLogInterval = 3000; // milliseconds
 constexpr float kMusicVolume = 1.0f;
 }
 
-/// The sky box with the source of its picture.
-struct QKD_Game::Sky {
-    Sky() : texture(Library::getInstance()->getTexture("Skybox"), 0)
-    {
-        box.bindCameraUniforms(false);
-        box.uniforms["tex"] = &texture;
-    }
+QKD_Game::QKD_Game() : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer())) {}
 
-    Skybox box;
-    Uniform_Texture texture;
-};
-
-QKD_Game::QKD_Game() : renderer(*getCore()->getRenderer()), stage(this, renderer) {}
-
-QKD_Game::~QKD_Game()
+QKD_Game::QKD_Game(std::unique_ptr<IPresentation> ownPresentation)
+    : renderer(*getCore()->getRenderer()), presentation(std::move(ownPresentation))
 {
-    removeShots();
 }
+
+QKD_Game::~QKD_Game() = default;
 
 Viewport::Rect QKD_Game::getWindowRect() const
 {
@@ -70,16 +53,23 @@ void QKD_Game::loadTextures()
 
 void QKD_Game::init()
 {
+    createWorld();
     setUpText();
-    createScene();
-    createSkybox();
+    scenery->addSky();
     createStates();
     createLightNode();
-    createTerrain();
+    scenery->addGround(world->getGround());
     startSound();
-    createHats();
+    scenery->addHats(getMatch().getHats());
     bindFunctionKeys();
     lastRankingLog = FrameTimer::getInstance()->getTimeMs();
+}
+
+void QKD_Game::createWorld()
+{
+    world = std::make_unique<MatchWorld>(*presentation);
+    scenery = std::make_unique<Scenery>(getScene());
+    renderer.setSceneGraph(&getScene());
 }
 
 void QKD_Game::setUpText()
@@ -87,19 +77,6 @@ void QKD_Game::setUpText()
     TextRenderer* text = renderer.getTextRenderer();
     text->setShader(Library::getInstance()->getShaderprogram("TextShader"));
     text->setFont(Library::getInstance()->getTexture("Font"));
-}
-
-void QKD_Game::createScene()
-{
-    SceneGraph* graph = new SceneGraph();
-    renderer.setSceneGraph(graph);
-    setWorld(graph, &stage);
-}
-
-void QKD_Game::createSkybox()
-{
-    sky = std::make_unique<Sky>();
-    getSceneGraph()->getRoot()->createChild("Skybox")->attach(&sky->box);
 }
 
 void QKD_Game::createStates()
@@ -117,17 +94,8 @@ void QKD_Game::createStates()
 
 void QKD_Game::createLightNode()
 {
-    Node* lightNode = getSceneGraph()->getRoot()->createChild("lightNode");
+    Node* lightNode = getScene().getRoot()->createChild("lightNode");
     lightNode->transform(translation(glm::vec3(3, 10, 0)), true);
-}
-
-void QKD_Game::createTerrain()
-{
-    Terrain* ground = PhysxManager::instance()->createTerrain();
-    getSceneGraph()->getRoot()->addChild(ground->getNode());
-    terrainModel = std::make_unique<TerrainModel>(*ground);
-    terrainModel->attachTo(*ground->getNode());
-    setTerrain(ground);
 }
 
 void QKD_Game::startSound()
@@ -135,17 +103,7 @@ void QKD_Game::startSound()
     std::vector<std::pair<std::string, std::string>> sounds;
     for (const Asset& sound : soundAssets()) sounds.emplace_back(sound.name, sound.file);
     AudioSystem::getInstance()->init(sounds);
-    AudioSystem::getInstance()->play("musik", true, kMusicVolume);
-}
-
-void QKD_Game::createHats()
-{
-    const glm::vec4 kColours[Hats::kCount] = {{255 / 255.0f, 215 / 255.0f, 0, 1},
-        {192 / 255.0f, 192 / 255.0f, 192 / 255.0f, 1}, {205 / 255.0f, 127 / 255.0f, 50 / 255.0f, 1}};
-    for (int place = 0; place < Hats::kCount; ++place) {
-        hatModels.push_back(std::make_unique<PartyhatModel>(kColours[place], this));
-        getHats().getAnimationNode(place)->attach(hatModels.back().get());
-    }
+    presentation->playSound("musik", true, kMusicVolume);
 }
 
 void QKD_Game::bindFunctionKeys()
@@ -172,7 +130,7 @@ void QKD_Game::showHelp()
 
 void QKD_Game::update()
 {
-    stepPhysics();
+    getMatch().stepPhysics();
     AudioSystem::getInstance()->update();
     functionKeys.update();
     logRanking();
@@ -186,9 +144,9 @@ void QKD_Game::logRanking()
     if (now <= lastRankingLog + kRankingLogInterval) return;
 
     for (int place = 0; place < Ranking::kPlaces; ++place) {
-        if (const Player* leader = getRanking().getLeader(place))
+        if (const Player* leader = getMatch().getRanking().getLeader(place))
             logLine(2) << kPlaceNames[place] << leader->getName() << std::endl;
     }
-    if (getRanking().getLeader(0)) logLine(2) << "" << std::endl;
+    if (getMatch().getRanking().getLeader(0)) logLine(2) << "" << std::endl;
     lastRankingLog = now;
 }

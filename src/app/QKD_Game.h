@@ -1,26 +1,31 @@
 #pragma once
 
-#include "app/CarStage.h"
 #include "app/FunctionKeys.h"
 #include "app/Game.h"
-#include "match/MatchRules.h"
+#include "app/Scenery.h"
+#include "match/MatchWorld.h"
 
 #include <memory>
-#include <vector>
 
 class DebugGamestate;
-class PartyhatModel;
 class PlayGamestate;
 class RegisterPlayersGamestate;
 class Renderer;
-class TerrainModel;
 
-/// The game itself: builds the world, owns the states and does what every frame needs besides the current state's work:
-/// physics, function keys, the ranking in the log. The rules are in MatchRules.
-class QKD_Game : public Game, public MatchRules {
+/// The game itself: has the match with its world, the scenery and the states, and does what every frame needs besides the
+/// current state's work: physics, sounds, function keys, the ranking in the log.
+class QKD_Game : public Game {
 public:
-    QKD_Game();
-    ~QKD_Game() override;
+    QKD_Game(); ///< seen and heard by way of the renderer and the audio system
+
+    /// Seen and heard by way of another presentation.
+    explicit QKD_Game(std::unique_ptr<IPresentation> presentation);
+
+    ~QKD_Game();
+
+    // From init() on.
+    Match& getMatch() { return world->getMatch(); }
+    SceneGraph& getScene() { return world->getScene(); }
 
     Viewport::Rect getWindowRect() const; ///< the whole window, pixels
 
@@ -31,17 +36,12 @@ protected:
     void cleanup() override {}
 
 private:
-    struct Sky;
-
     // The steps of init(), in order.
+    void createWorld();
     void setUpText();
-    void createScene();
-    void createSkybox();
     void createStates();
     void createLightNode();
-    void createTerrain();
     void startSound();
-    void createHats();
     void bindFunctionKeys();
 
     void loadShaders();
@@ -50,11 +50,10 @@ private:
     void logRanking();
 
     Renderer& renderer;
-    CarStage stage;
     FunctionKeys functionKeys;
-    std::unique_ptr<Sky> sky;
-    std::unique_ptr<TerrainModel> terrainModel;
-    std::vector<std::unique_ptr<PartyhatModel>> hatModels; // gold, silver, bronze
+    std::unique_ptr<IPresentation> presentation;
+    std::unique_ptr<MatchWorld> world;
+    std::unique_ptr<Scenery> scenery;
     std::unique_ptr<RegisterPlayersGamestate> registerState;
     std::unique_ptr<PlayGamestate> playState;
     std::unique_ptr<DebugGamestate> debugState;

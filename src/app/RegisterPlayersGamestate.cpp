@@ -30,21 +30,21 @@ constexpr HelpLine kHelp[] = {
 };
 
 /// High above the field's edge, looking down onto it.
-Node* createPanoramaNode(const QKD_Game& game)
+Node& createPanoramaNode(QKD_Game& game)
 {
     Node* node = new Node("PanoramaCamera");
-    game.getSceneGraph()->getRoot()->addChild(node);
+    game.getScene().getRoot()->addChild(node);
     node->transform(translation(glm::vec3(0, 150, -50)), true);
     node->transform(rotation(180, glm::vec3(0, 1, 0)), true);
     node->transform(rotation(-70, glm::vec3(1, 0, 0)), true);
-    return node;
+    return *node;
 }
 
 } // namespace
 
 RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame)
     : IGameState(stateName), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)),
-      registration(ownGame)
+      registration(ownGame.getMatch())
 {
 }
 

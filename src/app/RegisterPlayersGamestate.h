@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/StateView.h"
+#include "app/OverviewViewport.h"
 #include "base/IGameState.h"
 #include "match/PlayerRegistration.h"
 
@@ -21,6 +21,6 @@ public:
 
 private:
     QKD_Game& game;
-    StateView view;
+    OverviewViewport view;
     PlayerRegistration registration;
 };

@@ -1,9 +1,11 @@
 #include "app/TerrainModel.h"
 
+#include "assets/IRenderServices.h"
 #include "assets/Library.h"
 #include "gpu/DrawCalls.h"
 #include "gpu/Shaderprogram.h"
 #include "physics/Terrain.h"
+#include "scene/Camera.h"
 #include "scene/Mesh.h"
 #include "scene/Node.h"
 
@@ -30,8 +32,8 @@ TerrainModel::TerrainModel(const Terrain& terrain) : TerrainModel(meshOf(terrain
 
 TerrainModel::TerrainModel(const Mesh& mesh)
     : geometry(mesh, {MeshAttribute::Position, MeshAttribute::Normal}), culler(mesh, kIndicesPerRun),
-      transformation(this), grass(Library::getInstance()->getTexture("Grass"), 0),
-      dirt(Library::getInstance()->getTexture("Dirt"), 1), farGround(*this)
+      grass(Library::getInstance()->getTexture("Grass"), 0), dirt(Library::getInstance()->getTexture("Dirt"), 1),
+      farGround(*this)
 {
     setUp(*this, "TerrainShader");
     setName("Heightfield");
@@ -51,8 +53,7 @@ void TerrainModel::setUp(Model& model, const char* programName)
     model.isStatic = true;
     model.layer = ModelLayer::Ground;
     model.setGeometry(geometry);
-    model.bindCameraUniforms(false);
-    model.uniforms["model"] = &transformation;
+    model.bindUniforms({});
     model.uniforms["tex_grass"] = &grass;
     model.uniforms["tex_dirt"] = &dirt;
 }
@@ -77,12 +78,12 @@ void TerrainModel::FarGround::draw()
 /// What the camera being drawn may see of the ground at these distances from it, in world units.
 void TerrainModel::draw(const Model& model, float from, float to) const
 {
-    const glm::mat4 view = boost::get<IUniform<glm::mat4>*>(uniforms.at("view"))->get();
-    const glm::mat4 projection = boost::get<IUniform<glm::mat4>*>(uniforms.at("projection"))->get();
-    const glm::mat4 toEye = view * getNode()->getWorldTransform();
+    const Camera& camera = *IRenderServices::current()->getCurrentCamera();
+    const glm::mat4 toEye = camera.getView() * getNode()->getWorldTransform();
     std::vector<GLsizei> counts;
     std::vector<unsigned> firsts;
-    for (const IndexRange& range : culler.visible(projection * toEye, glm::vec3(glm::inverse(toEye)[3]), from, to)) {
+    for (const IndexRange& range :
+        culler.visible(camera.getProjection() * toEye, glm::vec3(glm::inverse(toEye)[3]), from, to)) {
         counts.push_back(static_cast<GLsizei>(range.count));
         firsts.push_back(range.first);
     }

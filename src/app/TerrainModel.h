@@ -2,7 +2,6 @@
 
 #include "assets/MeshGeometry.h"
 #include "assets/Model.h"
-#include "assets/Uniform_AttachableTransformation.h"
 #include "gpu/Uniform_Texture.h"
 #include "scene/RangeCuller.h"
 
@@ -40,7 +39,6 @@ private:
 
     MeshGeometry geometry;
     RangeCuller culler;
-    Uniform_AttachableTransformation transformation;
     Uniform_Texture grass;
     Uniform_Texture dirt;
     FarGround farGround;

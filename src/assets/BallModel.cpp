@@ -22,13 +22,11 @@ MeshGeometry& sphere()
 
 } // namespace
 
-BallModel::BallModel(QKD_Game* game, const glm::vec4& color) : owner(game), transformation(this), colour(color)
+BallModel::BallModel(const glm::vec4& color)
 {
     setName("Ball");
     setGeometry(sphere());
-    bindCameraUniforms(true);
-    uniforms["model"] = &transformation;
-    uniforms["color"] = &colour;
+    bindUniforms({.normalMatrix = true, .color = color});
 }
 
 BallModel::~BallModel()

@@ -4,9 +4,10 @@
 #include "assets/MeshGeometry.h"
 #include "scene/Mesh.h"
 
-DriverModel::DriverModel(QKD_Game* game, const glm::vec4& driverColor)
-    : mesh(Library::getInstance()->getMesh("Duck")), owner(game), color(driverColor)
+DriverModel::DriverModel(const glm::vec4& color)
 {
+    bindUniforms({.normalMatrix = true, .color = color});
+    const Mesh* mesh = Library::getInstance()->getMesh("Duck");
     if (!mesh) return;
     geometry = std::make_unique<MeshGeometry>(*mesh,
         std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal});

@@ -6,22 +6,15 @@
 
 #include <memory>
 
-class Mesh;
-class QKD_Game;
-
-/// The duck at the wheel: the library's mesh "Duck". The player that owns it fills its uniform table.
+/// The duck at the wheel: the library's mesh "Duck" in the colour of its player. Nothing is drawn when the mesh is
+/// missing.
 class DriverModel final : public CelModel {
 public:
-    DriverModel(QKD_Game* game, const glm::vec4& driverColor);
+    explicit DriverModel(const glm::vec4& color);
     ~DriverModel();
 
     std::string getName() const override { return "Driver"; }
-    QKD_Game* getOwner() const { return owner; }
-    const glm::vec4& getColor() const { return color; }
 
 private:
-    Mesh* mesh; ///< null when it failed to load
-    QKD_Game* owner;
-    glm::vec4 color;
     std::unique_ptr<MeshGeometry> geometry;
 };

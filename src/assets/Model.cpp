@@ -52,11 +52,13 @@ void Model::setGeometry(MeshGeometry& geometry)
     createVAO(&geometry.layout);
 }
 
-void Model::bindCameraUniforms(bool withNormalMatrix)
+void Model::bindUniforms(const CommonUniforms& wanted)
 {
-    IRenderServices* renderer = IRenderServices::current();
-    if (!renderer) return;
-    uniforms["view"] = renderer->getGlobalUniform("viewMatrix");
-    uniforms["projection"] = renderer->getGlobalUniform("projectionMatrix");
-    if (withNormalMatrix) uniforms["normalMatrix"] = renderer->getGlobalUniform("normalMatrix");
+    if (IRenderServices* renderer = IRenderServices::current()) {
+        uniforms["view"] = renderer->getGlobalUniform("viewMatrix");
+        uniforms["projection"] = renderer->getGlobalUniform("projectionMatrix");
+        if (wanted.normalMatrix) uniforms["normalMatrix"] = renderer->getGlobalUniform("normalMatrix");
+    }
+    if (wanted.model) uniforms["model"] = &transformation;
+    if (wanted.color) uniforms["color"] = &ownColor.emplace(*wanted.color);
 }

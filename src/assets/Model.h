@@ -1,12 +1,14 @@
 #pragma once
 
-#include "gpu/IUniform.h"
+#include "assets/Uniform_AttachableTransformation.h"
+#include "gpu/Uniform_Color.h"
 #include "scene/Attachable.h"
 
 #include <GL/glew.h>
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 
 class IndexBuffer;
@@ -51,9 +53,15 @@ public:
     void completeVAO(); ///< the same once more, for a model that was made while its program was broken
     void setGeometry(MeshGeometry& geometry); ///< both buffers, and a vertex array for the program
 
-    /// Copies the renderer's sources under the names that shaders use: "view", "projection", "normalMatrix" (the last
-    /// on demand).
-    void bindCameraUniforms(bool withNormalMatrix);
+    /// The uniforms that models have in common, beside "view" and "projection".
+    struct CommonUniforms {
+        bool model = true;                             ///< the transformation of the node that the model hangs on
+        bool normalMatrix = false;                     ///< the camera's
+        std::optional<glm::vec4> color = std::nullopt; ///< red, green, blue, alpha
+    };
+
+    /// Put the sources of these uniforms into the table. The camera's are the renderer's.
+    void bindUniforms(const CommonUniforms& wanted);
 
     void setName(const std::string& newName) { name = newName; }
     void setVertexBuffer(VertexBuffer* buffer) { vertexBuffer = buffer; }
@@ -80,4 +88,6 @@ protected:
 
 private:
     const VertexAttributeList* layout = nullptr;
+    Uniform_AttachableTransformation transformation{this};
+    std::optional<Uniform_Color> ownColor;
 };

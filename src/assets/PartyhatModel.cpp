@@ -16,13 +16,10 @@ void rebuildNormals(Mesh& mesh)
 
 } // namespace
 
-PartyhatModel::PartyhatModel(const glm::vec4& hatColor, QKD_Game* game)
-    : mesh(Library::getInstance()->getMesh("Partyhat")), color(hatColor), owner(game), transformation(this),
-      colourSource(hatColor)
+PartyhatModel::PartyhatModel(const glm::vec4& color)
 {
-    bindCameraUniforms(true);
-    uniforms["color"] = &colourSource;
-    uniforms["model"] = &transformation;
+    bindUniforms({.normalMatrix = true, .color = color});
+    Mesh* mesh = Library::getInstance()->getMesh("Partyhat");
     if (!mesh) return;
     rebuildNormals(*mesh);
     geometry = std::make_unique<MeshGeometry>(*mesh,

@@ -4,13 +4,13 @@
 #include "input/InputDevice.h"
 
 /// The computer's own device: picks a target, measures once a frame where it lies, and answers the driver's questions
-/// from that. Owned by the player it drives; take() once, before the first update().
+/// from that. Owned by the player it drives; setPlayer() once, before the first update().
 class AIController : public InputDevice {
 public:
     explicit AIController(int number); ///< the index that players see is one less
 
-    /// The car to drive and the field to hunt in; both borrowed.
-    void take(const IPilot& ownPilot, const IHunt& field);
+    /// Set the car to drive and the field to drive on; both borrowed.
+    void setPlayer(const IPilot& ownPilot, const IField& ownField);
 
     bool isPressed(int button) override; ///< shoot at what is ahead or close, hand brake in sharp turns at speed
     float getAxis(int axis) override;    ///< throttle and steering towards the target; all 0 without one
@@ -22,12 +22,12 @@ public:
     bool isBackPressed() override { return false; }
 
 private:
-    void chooseTarget();
+    void updateTarget();
     void measure();
 
     int index;
     const IPilot* pilot = nullptr;
-    const IHunt* hunt = nullptr;
+    const IField* field = nullptr;
     const IPilot* target = nullptr;
     float angle = 0;       // degrees, 0 to 180: between the car's front and the target, seen from above
     float side = 0;        // positive: the target is to the right

@@ -16,13 +16,13 @@ protected:
     ~IPilot() = default;
 };
 
-/// Who there is to chase.
-class IHunt {
+/// The field as a computer driver sees it.
+class IField {
 public:
-    /// The opponent that suits the hunter best: near and ahead. Null when there is none but the excluded one (which may
-    /// be null).
-    virtual const IPilot* findTarget(const IPilot& hunter, const IPilot* excluded) const = 0;
+    virtual int getActorCount() const = 0;                ///< participants that have joined so far
+    virtual const IPilot& getPilot(int number) const = 0; ///< number: 0 to getActorCount() - 1, in order of joining
+    virtual int getFieldSize() const = 0;                 ///< edge length in world units
 
 protected:
-    ~IHunt() = default;
+    ~IField() = default;
 };

@@ -3,14 +3,14 @@
 #include "base/Logger.h"
 #include "input/KeyboardController.h"
 #include "input/XBOXController.h"
-#include "match/MatchRules.h"
+#include "match/Match.h"
 #include "platform/Keyboard.h"
 
 #include <GLFW/glfw3.h>
 
 #include <algorithm>
 
-PlayerRegistration::PlayerRegistration(MatchRules& ownMatch) : match(ownMatch)
+PlayerRegistration::PlayerRegistration(Match& ownMatch) : match(ownMatch)
 {
     constexpr int kPadCount = 4;
     constexpr int kKeyboardLayouts = 2;
@@ -30,7 +30,7 @@ void PlayerRegistration::readSpaceBar()
 {
     if (isKeyDown(GLFW_KEY_SPACE) && !spaceHeld) {
         spaceHeld = true;
-        if (match.getComputerPlayerCount() < kMaxComputerPlayers) match.addComputerPlayer();
+        if (match.computerPlayerCount() < kMaxComputerPlayers) match.addComputerPlayer();
     }
     if (!isKeyDown(GLFW_KEY_SPACE)) spaceHeld = false; // read again: a tap that is over by now leaves nothing held
 }
@@ -50,7 +50,7 @@ void PlayerRegistration::readDevices()
 void PlayerRegistration::join(Slot& slot)
 {
     slot.registered = true;
-    match.addPlayer(slot.device.get());
+    match.addPlayer(*slot.device);
     logLine(2) << "Player registered" << std::endl;
 }
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <memory>
 
-class MatchRules;
+class Match;
 
 /// Who takes part: the six devices that people can join with, and which of them have. Owned by the registration screen;
 /// update() once a frame while that is shown. A device that has joined cannot leave.
@@ -16,7 +16,7 @@ public:
     static constexpr int kMaxComputerPlayers = 10;
 
     /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
-    explicit PlayerRegistration(MatchRules& match);
+    explicit PlayerRegistration(Match& match);
 
     /// The registration screen is shown anew.
     void restart() { spaceHeld = false; }
@@ -40,7 +40,7 @@ private:
     void join(Slot& slot);
     void readSpaceBar();
 
-    MatchRules& match;
+    Match& match;
     std::array<Slot, kDeviceCount> slots;
     bool spaceHeld = false;
 };

@@ -2,15 +2,15 @@
 
 #include "players/IMatch.h"
 
-AIPlayer::AIPlayer(IMatch& ownMatch, IStage& ownStage)
-    : AIControllerHolder(ownMatch.getComputerPlayerCount()), Player(ownMatch, ownStage, controller)
+AIPlayer::AIPlayer(IMatch& ownMatch, IPresentation& ownPresentation)
+    : AIControllerHolder(ownMatch.computerPlayerCount()), Player(ownMatch, ownPresentation, controller)
 {
-    controller.take(*this, ownMatch);
+    controller.setPlayer(*this, ownMatch);
 }
 
 void AIPlayer::setUp()
 {
-    computerIndex = match.getComputerPlayerCount();
+    computerIndex = match.computerPlayerCount();
     Player::setUp();
 }
 

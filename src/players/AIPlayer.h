@@ -14,7 +14,7 @@ struct AIControllerHolder {
 /// does a player.
 class AIPlayer final : private AIControllerHolder, public Player {
 public:
-    AIPlayer(IMatch& match, IStage& stage);
+    AIPlayer(IMatch& match, IPresentation& presentation);
 
     void setUp() override;
     glm::vec4 getColor() const override; ///< grey, darker with each computer player

@@ -3,18 +3,20 @@
 #include "base/FrameTimer.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
-#include "players/IStage.h"
+#include "players/IPresentation.h"
 #include "players/Player.h"
 #include "scene/SceneGraph.h"
 
 #include <PxPhysicsAPI.h>
 
-Ball::Ball(SceneGraph& scene, IStage& ownStage, Player& shooter)
-    : node(PhysxManager::instance()->createBall()), owner(&shooter), stage(ownStage),
-      spawnTime(FrameTimer::getInstance()->getTimeMs())
+#include <tuple>
+
+Ball::Ball(SceneGraph& scene, IPresentation& presentation, Player& shooter)
+    : node(PhysxManager::instance()->createBall()), owner(&shooter),
+      model(presentation.addBall(*node, shooter.getColor())), spawnTime(FrameTimer::getInstance()->getTimeMs())
 {
     node->setName("Ball");
-    model = stage.dressBall(*node, shooter.getColor());
+    bodyOwner.claim(*node->actor);
 
     const glm::mat4 launch = shooter.getLaunchTransform();
     node->setPosition(launch[3].x, launch[3].y, launch[3].z);
@@ -24,7 +26,6 @@ Ball::Ball(SceneGraph& scene, IStage& ownStage, Player& shooter)
 
 Ball::~Ball()
 {
-    if (model) stage.undressBall(model);
     node->destroy();
     node->actor->release();
     node->actor = nullptr;
@@ -45,4 +46,10 @@ double Ball::getAge() const
 bool Ball::isExpired() const
 {
     return getAge() >= kLifetime;
+}
+
+bool Ball::isOlderThan(const Ball& other) const
+{
+    // In one pass the participants fire in the order in which they joined.
+    return std::tuple(spawnTime, owner->getNumber()) < std::tuple(other.spawnTime, other.owner->getNumber());
 }

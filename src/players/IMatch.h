@@ -5,17 +5,16 @@
 class Player;
 class SceneGraph;
 
-/// What a participant asks of the match that it takes part in. The match implements it; it outlives every participant.
-class IMatch : public IHunt {
+/// What a participant asks of the match that it takes part in. The match implements it and outlives every participant.
+class IMatch : public IField {
 public:
-    virtual int getActorCount() const = 0;       ///< participants that have joined so far
-    virtual int getHumanPlayerCount() const = 0; ///< human players among them
-    virtual int getComputerPlayerCount() const = 0;
+    virtual int getHumanPlayerCount() const = 0; ///< human players that have joined so far
+    virtual int computerPlayerCount() const = 0; ///< computer players that have joined so far
 
-    /// Launches a shot of that player's.
+    /// Launch a shot of that player's.
     virtual void addBall(Player* shooter) = 0;
 
-    /// 1 + the number of players with a strictly greater score.
+    /// Return 1 + the number of players with a strictly greater score.
     virtual int getRank(const Player& player) const = 0;
 
     virtual SceneGraph* getSceneGraph() const = 0;

@@ -7,10 +7,11 @@
 #include "physics/PhysxManager.h"
 #include "physics/VehicleHandle.h"
 #include "players/IMatch.h"
-#include "players/IStage.h"
+#include "players/IPresentation.h"
 #include "scene/SceneGraph.h"
 #include "scene/Transforms.h"
 
+#include <PxRigidDynamic.h>
 #include <vehicle/PxVehicleComponents.h>
 
 #include <algorithm>
@@ -21,6 +22,7 @@ namespace {
 constexpr int kFullHealth = 100;
 constexpr double kShotInterval = 700; // milliseconds that must pass between two shots
 constexpr float kShotVolume = 0.3f;
+constexpr float kEngineVolume = 0.6f;
 constexpr float kQuackVolume = 1.0f;
 constexpr float kFaintQuackVolume = 0.2f; // of those who are not heard otherwise
 constexpr unsigned kChassisShape = 4;     // a car's shapes: four wheels, then the chassis
@@ -57,8 +59,8 @@ float randomPlace()
 
 } // namespace
 
-Player::Player(IMatch& ownMatch, IStage& ownStage, InputDevice& ownDevice)
-    : Actor(ownMatch, ownDevice), stage(ownStage), lastShotTime(FrameTimer::getInstance()->getTimeMs()),
+Player::Player(IMatch& ownMatch, IPresentation& ownPresentation, InputDevice& ownDevice)
+    : Actor(ownMatch, ownDevice), presentation(ownPresentation), lastShotTime(FrameTimer::getInstance()->getTimeMs()),
       health(kFullHealth)
 {
 }
@@ -76,16 +78,24 @@ void Player::setUp()
     createCameraNode();
     nodes.exhaust = createExhaustNode();
     for (unsigned wheel = 0; wheel < nodes.wheels.size(); ++wheel) nodes.wheels[wheel] = createWheel(wheel);
-    dress = &stage.dressCar(nodes, getColor(), hasSound());
+    models = &presentation.addCar(nodes, getColor());
     vehicle->forceGear(physx::PxVehicleGearsData::eFIRST);
+    if (hasSound()) startEngine();
     respawn();
 }
 
 void Player::createCar()
 {
     vehicle = PhysxManager::instance()->createVehicle();
+    bodyOwner.claim(*vehicle->getActor());
     chassisNode = vehicle->createWheelNode(kChassisShape);
     node->addChild(chassisNode);
+}
+
+void Player::startEngine()
+{
+    engine = presentation.createSound("engine", "Audio/engine.wav");
+    engine->play(true, kEngineVolume);
 }
 
 Node* Player::createDriverNode() const
@@ -145,7 +155,7 @@ void Player::update()
         drive();
         shoot();
     }
-    dress->setEmitterPosition(getPosition());
+    models->setEmitterPosition(getPosition());
 }
 
 void Player::drive()
@@ -153,7 +163,7 @@ void Player::drive()
     const DriverInput input{device.getAxis(InputDevice::kThrottleAxis), device.getAxis(InputDevice::kBrakeAxis),
         device.getAxis(InputDevice::kSteeringAxis), device.isPressed(InputDevice::kHandBrake)};
     const float throttle = controls.apply(input, *vehicle);
-    if (hasSound()) dress->setThrottle(throttle);
+    if (engine) engine->setPitch(throttle);
 }
 
 void Player::shoot()
@@ -162,12 +172,12 @@ void Player::shoot()
     if (!device.isPressed(InputDevice::kShoot) || now <= lastShotTime + kShotInterval) return;
     lastShotTime = now;
     match.addBall(this);
-    stage.playSound("bang", kShotVolume);
+    presentation.playSound("bang", false, kShotVolume);
 }
 
 void Player::quack()
 {
-    stage.playSound("duck", hasSound() ? kQuackVolume : kFaintQuackVolume);
+    presentation.playSound("duck", false, hasSound() ? kQuackVolume : kFaintQuackVolume);
 }
 
 glm::vec3 Player::getPosition() const
@@ -205,11 +215,11 @@ void Player::drawLabel() const
     constexpr double kLineSpacing = 0.1;
 
     const Viewport::Rect& rect = getViewport()->getRect();
-    const glm::dvec2 window(stage.getWindowSize());
+    const glm::dvec2 window(presentation.getWindowSize());
     const double x = 2 * rect.x / window.x - 1 + kMargin;
     const double y = std::min(1 - (2 * rect.y / window.y - 1), kHighest);
-    stage.addText("Pl. " + std::to_string(match.getRank(*this)) + " (" + std::to_string(score) + ")", x, y);
-    stage.addText(device.getName(), x, y - kLineSpacing);
+    presentation.addText("Pl. " + std::to_string(match.getRank(*this)) + " (" + std::to_string(score) + ")", x, y);
+    presentation.addText(device.getName(), x, y - kLineSpacing);
 }
 
 glm::mat4 Player::getLaunchTransform() const

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "audio/ISound.h"
 #include "input/IPilot.h"
 #include "physics/DrivingControls.h"
 #include "players/Actor.h"
+#include "players/BodyOwner.h"
 
-class ICarDress;
-class IStage;
+#include <memory>
+
+class ICarModels;
+class IPresentation;
 class PhysicNode;
 class VehicleHandle;
 
@@ -13,7 +17,7 @@ class VehicleHandle;
 /// and from then on update() once a frame; it decides hits and points and calls takeDamage(), addScore() and die().
 class Player : public Actor, public IPilot {
 public:
-    Player(IMatch& match, IStage& stage, InputDevice& device);
+    Player(IMatch& match, IPresentation& presentation, InputDevice& device);
 
     /// Builds the car and its nodes and drops it into the field. To be called before the match counts this player in.
     virtual void setUp();
@@ -48,6 +52,7 @@ public:
 
 private:
     void createCar();
+    void startEngine();
     void drive();
     void shoot();
     void quack();
@@ -57,13 +62,15 @@ private:
     Node* createExhaustNode() const;
     Node* createWheel(unsigned wheel) const;
 
-    IStage& stage;
+    IPresentation& presentation;
+    BodyOwner bodyOwner{this, nullptr};
     PhysicNode* chassisNode = nullptr;
     VehicleHandle* vehicle = nullptr;
     DrivingControls controls;
     Node* launchNode = nullptr; // where shots leave the car
-    ICarDress* dress = nullptr;
-    double lastShotTime; // milliseconds of the frame timer
+    ICarModels* models = nullptr;
+    std::unique_ptr<ISound> engine; // null for those who are not heard
+    double lastShotTime;            // milliseconds of the frame timer
     int health;
     int score = 0;
     int deaths = 0;

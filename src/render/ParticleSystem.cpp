@@ -35,6 +35,7 @@ ParticleSystem::ParticleSystem(Shaderprogram* movementProgram)
     drawMode = GL_POINTS;
     shader = Library::getInstance()->getShaderprogram("ParticleRender");
     vertexBuffer = &renderBuffer;
+    bindUniforms({});
 
     const std::vector<float> block = startingBlock();
     feedbackBuffer.setData(block.size(), block.data(), GL_STREAM_DRAW);

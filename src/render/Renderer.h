@@ -54,8 +54,8 @@ public:
     ModelRenderer* getModelRenderer() { return &modelRenderer; }
     ShadowMappingRender* getShadowRenderer() { return &shadowRenderer; }
     TextRenderer* getTextRenderer() { return textRenderer.get(); } ///< null before initialize()
-    Camera* getCurrentCamera() const { return currentCamera; }     ///< of the viewport being drawn
-    unsigned getLightDepthTexture() const;                         ///< GL name
+    Camera* getCurrentCamera() const override { return currentCamera; }
+    unsigned getLightDepthTexture() const; ///< GL name
 
     /// "viewMatrix", "projectionMatrix" or "normalMatrix"; any other name yields an empty entry.
     UniformVariant& getGlobalUniform(const std::string& name) override { return globalUniforms[name]; }

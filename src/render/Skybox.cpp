@@ -19,6 +19,7 @@ Skybox::Skybox()
     geometry = std::make_unique<MeshGeometry>(box,
         std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Texcoord});
     setGeometry(*geometry);
+    bindUniforms({.model = false}); // the sky stays around the eye
     setName("Skybox");
     setCullable(false);
     isStatic = true;

@@ -107,14 +107,14 @@ protected:
     static TestGame& game() { return house->game; }
     static ScriptedKeyboard& keys() { return *house->keys; }
     static VirtualPad& pad(int slot) { return house->pads.at(static_cast<std::size_t>(slot)); }
-    static Player& player(int i) { return *game().getPlayers().at(static_cast<std::size_t>(i)); }
+    static Player& player(int i) { return *game().getMatch().getPlayers().at(static_cast<std::size_t>(i)); }
     static std::string stateName() { return game().getCore()->getStateManager()->getCurrentState()->getName(); }
 
     /// A pass of the main loop without the picture.
     static void pass()
     {
         game().updatePass();
-        game().getSceneGraph()->update();
+        game().getScene().update();
     }
 
     /// A pass whose picture is kept.
@@ -168,8 +168,8 @@ std::unique_ptr<FullHouse::House> FullHouse::house;
 TEST_F(FullHouse, StartsAtOnceWithSixteenCarsAndSixViews)
 {
     EXPECT_EQ(stateName(), "PlayGamestate");
-    ASSERT_EQ(game().getActorCount(), 16);
-    ASSERT_EQ(game().getHumanPlayerCount(), kMaxHumanPlayers);
+    ASSERT_EQ(game().getMatch().getActorCount(), 16);
+    ASSERT_EQ(game().getMatch().getHumanPlayerCount(), kMaxHumanPlayers);
 
     const Screen screen = draw();
     const char* const devices[] = {"XBOX 1", "XBOX 2", "XBOX 3", "XBOX 4", "Pfeil", "WASD"};
@@ -233,16 +233,16 @@ TEST_F(FullHouse, EverybodyDrivesTheirOwnCarAndShoots)
         pad.move(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, kFullTrigger);
         pad.press(SDL_CONTROLLER_BUTTON_A);
     }
-    std::set<const Actor*> driving, shooting;
+    std::set<const Player*> driving, shooting;
     const auto everybodyDoesBoth = [&] {
-        for (const Actor* actor : game().getActors()) {
-            if (static_cast<const Player*>(actor)->getForwardSpeed() > 4) driving.insert(actor);
+        for (const Player* actor : game().getMatch().getActors()) {
+            if (actor->getForwardSpeed() > 4) driving.insert(actor);
         }
-        for (const auto& ball : game().getBalls()) shooting.insert(ball->getOwner());
+        for (const auto& ball : game().getMatch().getBalls()) shooting.insert(ball->getOwner());
         return driving.size() == 16 && shooting.size() == 16;
     };
     EXPECT_TRUE(passesUntil(2000, everybodyDoesBoth)) << driving.size() << " drive, " << shooting.size() << " shoot";
-    EXPECT_NE(game().getRanking().getLeader(0), nullptr) << "nobody was hit";
+    EXPECT_NE(game().getMatch().getRanking().getLeader(0), nullptr) << "nobody was hit";
 }
 
 } // namespace

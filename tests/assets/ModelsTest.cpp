@@ -29,7 +29,7 @@ TEST_F(ModelsTest, EveryHatRebuildsTheSharedNormalsToTheSameResult)
     ASSERT_TRUE(library.insert("Partyhat", shared));
 
     const glm::vec4 gold(1.0f, 0.843137f, 0.0f, 1.0f);
-    const PartyhatModel first(gold, nullptr), second(gold, nullptr), third(gold, nullptr);
+    const PartyhatModel first(gold), second(gold), third(gold);
     EXPECT_NEAR(shared->normals[0].y, 0.8f, 1e-5f);
     EXPECT_NEAR(shared->normals[0].z, -0.6f, 1e-5f);
     const std::vector<float> vertices = contentOf<float>(first.vertexBuffer->getHandle());

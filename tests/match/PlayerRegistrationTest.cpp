@@ -67,7 +67,7 @@ TEST_F(Registration, EachPressOfTheSpaceBarAddsOneComputerPlayerAndTenAreTheMost
 {
     for (int press = 1; press <= 12; ++press) {
         for (int i = 0; i < 3; ++i) frame({GLFW_KEY_SPACE});
-        EXPECT_EQ(match.rules.getComputerPlayerCount(), std::min(press, 10)) << "press " << press;
+        EXPECT_EQ(match.rules.computerPlayerCount(), std::min(press, 10)) << "press " << press;
         if (press == 1) registration.restart(); // the screen is shown anew: the key that is still held counts anew
         else frame({});
         if (press == 3) { // a tap shorter than a pass counts as much, and so does one right after it

@@ -1,4 +1,6 @@
 #include "base/FrameTimer.h"
+#include "physics/PhysicNode.h"
+#include "physics/Terrain.h"
 #include "players/Ball.h"
 #include "testing/HeadlessMatch.h"
 
@@ -48,7 +50,7 @@ protected:
         header.actors[1] = other;
         physx::PxContactPair pair;
         pair.events = event;
-        match.rules.onContact(header, &pair, 1);
+        match.getHits().onContact(header, &pair, 1);
     }
 
     static physx::PxRigidActor* bodyOf(const Ball& ball)
@@ -68,7 +70,7 @@ TEST_F(Shots, HitTheCarInFrontWhichQuacksFaintlyWhenNobodyHearsIt)
     Player& victim = join();
     deviceOf(victim).rumbles.clear();
     deviceOf(shooter).rumbles.clear();
-    match.stage.sounds.clear();
+    match.presentation.sounds.clear();
     hit(shooter, victim);
 
     EXPECT_EQ(victim.getHealth(), 80);
@@ -78,13 +80,13 @@ TEST_F(Shots, HitTheCarInFrontWhichQuacksFaintlyWhenNobodyHearsIt)
     EXPECT_EQ(match.graph.getRoot()->find("Ball"), nullptr);
     EXPECT_EQ(deviceOf(victim).rumbles, std::vector<Rumble>({{300, 60000, 60000}}));
     EXPECT_TRUE(deviceOf(shooter).rumbles.empty());
-    EXPECT_EQ(match.stage.count("bang", 0.3f), 1);
-    EXPECT_EQ(match.stage.count("duck", 1.0f), 1);
+    EXPECT_EQ(match.presentation.count("bang", 0.3f), 1);
+    EXPECT_EQ(match.presentation.count("duck", 1.0f), 1);
 
     Player& computer = match.addComputerPlayer();
-    match.stage.sounds.clear();
+    match.presentation.sounds.clear();
     hit(shooter, computer);
-    EXPECT_EQ(match.stage.count("duck", 0.2f), 1);
+    EXPECT_EQ(match.presentation.count("duck", 0.2f), 1);
 }
 
 TEST_F(Shots, LeaveAlongTheCarsNoseAt150UnitsASecond)
@@ -110,9 +112,9 @@ TEST_F(Shots, ComeEvery700MillisecondsAndAPassWhileTheButtonIsHeldOnADeviceThatI
 
     std::vector<double> shotTimes{joined};
     while (now() < joined + 5000) {
-        const int before = match.stage.count("bang");
+        const int before = match.presentation.count("bang");
         match.pass();
-        if (match.stage.count("bang") > before) shotTimes.push_back(now());
+        if (match.presentation.count("bang") > before) shotTimes.push_back(now());
     }
     ASSERT_EQ(shotTimes.size(), 8u) << "seven shots in five seconds";
     for (std::size_t i = 1; i < shotTimes.size(); ++i) {
@@ -121,7 +123,7 @@ TEST_F(Shots, ComeEvery700MillisecondsAndAPassWhileTheButtonIsHeldOnADeviceThatI
     }
     deviceOf(shooter).connected = false;
     match.passes(100);
-    EXPECT_EQ(match.stage.count("bang"), 7);
+    EXPECT_EQ(match.presentation.count("bang"), 7);
 }
 
 TEST_F(Shots, ThatTakeTheLastHealthAreWorthMoreTheBetterTheVictimStood)

@@ -1,4 +1,5 @@
 #include "base/FrameTimer.h"
+#include "physics/PhysicNode.h"
 #include "players/Ball.h"
 #include "testing/HeadlessMatch.h"
 #include "testing/Near.h"
@@ -47,7 +48,7 @@ protected:
             now.scores.push_back(player->getScore());
             now.places.push_back(match.rules.getRanking().getPlace(player));
         }
-        now.ducks = match.stage.count("duck");
+        now.ducks = match.presentation.count("duck");
         return now;
     }
 
@@ -135,7 +136,7 @@ TEST_F(WholeMatch, KeepsItsBooksItsHatsAndItsScene)
     }
 
     // It was a match worth the name.
-    const int shots = match.stage.count("bang");
+    const int shots = match.presentation.count("bang");
     EXPECT_GT(shots, 100);
     EXPECT_GT(hits, 30);
     EXPECT_GT(deaths, 3);

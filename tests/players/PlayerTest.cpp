@@ -26,8 +26,8 @@ TEST_F(PlayerTest, CameraDuckAndTyresPointTheRightWay)
     const glm::vec3 lookingAlong = -glm::vec3(glm::transpose(player.getCamera()->getView())[2]);
     EXPECT_TRUE(isNear(lookingAlong, glm::vec3(0, -0.1736f, 0.9848f), 1e-3f)) << "forwards, ten degrees down";
 
-    ASSERT_EQ(match.stage.cars.size(), 1u);
-    const CarNodes& nodes = match.stage.cars[0];
+    ASSERT_EQ(match.presentation.cars.size(), 1u);
+    const CarNodes& nodes = match.presentation.cars[0];
     const glm::vec3 duckNose = glm::vec3(nodes.driver->getWorldTransform() * glm::vec4(100, 0, 0, 1)) - chassis;
     EXPECT_TRUE(isNear(duckNose, glm::vec3(0, 0, 1.5f))) << "the duck's mesh faces +x";
     const glm::vec3 axle = glm::vec3(nodes.wheels[0]->getWorldTransform() * glm::vec4(0, 1, 0, 0));
@@ -51,13 +51,13 @@ TEST_F(PlayerTest, PeopleAndComputerPlayersAreCountedNamedAndColouredInTheOrderO
         EXPECT_EQ(log.count(std::string("DEBUG | Registering ") + row.name + "\n"), 1) << log.text();
         EXPECT_EQ(player.getName(), row.name);
         EXPECT_TRUE(isNear(player.getColor(), row.colour)) << row.name;
-        EXPECT_TRUE(isNear(match.stage.colours.back(), row.colour)) << "the car is dressed in it";
-        EXPECT_EQ(match.stage.lastVolume, row.volume) << row.name;
+        EXPECT_TRUE(isNear(match.presentation.colours.back(), row.colour)) << "the car is dressed in it";
+        EXPECT_EQ(match.presentation.lastVolume, row.volume) << row.name;
     }
     match.rules.getPlayers()[1]->addScore(3);
     EXPECT_EQ(match.rules.getPlayers()[1]->getName(), "(3) Player 3, Script");
     match.pass();
-    EXPECT_EQ(match.stage.lines.size(), 4u) << "labels, of two lines, for the two people only";
+    EXPECT_EQ(match.presentation.lines.size(), 4u) << "labels, of two lines, for the two people only";
 }
 
 TEST_F(PlayerTest, RespawningDrawsZFirstAndStopsTheCar)
@@ -86,7 +86,7 @@ TEST_F(PlayerTest, AnUnpluggedDeviceLeavesTheCarItsLastControlsAndItsSmoke)
     device.axes[InputDevice::kThrottleAxis] = 0.75f;
     match.pass();
     EXPECT_EQ(device.updates, 1);
-    EXPECT_FLOAT_EQ(match.stage.throttle, 0.75f) << "what the engine sounds by";
+    EXPECT_FLOAT_EQ(match.presentation.enginePitch, 0.75f) << "what the engine sounds by";
     device.connected = false;
     device.axes[InputDevice::kThrottleAxis] = 0;
     match.pass();
@@ -95,7 +95,8 @@ TEST_F(PlayerTest, AnUnpluggedDeviceLeavesTheCarItsLastControlsAndItsSmoke)
     EXPECT_EQ(device.updates, 1);
     const glm::vec3 before = player.getPosition();
     match.pass();
-    EXPECT_TRUE(isNear(match.stage.emitterPosition, before)) << "the smoke comes from where the car was drawn last";
+    EXPECT_TRUE(isNear(match.presentation.emitterPosition, before))
+        << "the smoke comes from where the car was drawn last";
 }
 
 TEST_F(PlayerTest, LabelsStandAtTheViewportsLeftEdgeAndNeverAboveTheWindow)
@@ -112,10 +113,10 @@ TEST_F(PlayerTest, LabelsStandAtTheViewportsLeftEdgeAndNeverAboveTheWindow)
     };
     for (const auto& [rect, x, y] : rows) {
         player.getViewport()->setRect(rect.x, rect.y, rect.width, rect.height);
-        match.stage.lines.clear();
+        match.presentation.lines.clear();
         player.drawLabel();
 
-        const std::vector<SilentStage::Line>& lines = match.stage.lines;
+        const std::vector<SilentPresentation::Line>& lines = match.presentation.lines;
         ASSERT_EQ(lines.size(), 2u);
         EXPECT_EQ(lines[0].text, "Pl. 1 (12)");
         EXPECT_EQ(lines[1].text, "Script");

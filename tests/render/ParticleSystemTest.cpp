@@ -86,9 +86,6 @@ TEST_F(ParticleSystemTest, IsSeenOverTheSceneWithoutHidingAnythingLater)
 {
     addBox(glm::scale(at(0, 0, -12), {10, 10, 1}), {0, 0, 1, 1}); // a wall
     ParticleSystem& smoke = add<ParticleSystem>(glm::mat4(1.0f), realMovement());
-    Uniform_AttachableTransformation transformation(&smoke);
-    smoke.bindCameraUniforms(false);
-    smoke.uniforms["model"] = &transformation;
     smoke.setEmitterPosition({0, 0, -6});
     BoxModel& later = addBox(at(0, 0, -9), {0, 1, 0, 1}); // behind the smoke
     later.renderOrder = 2;

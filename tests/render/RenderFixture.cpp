@@ -104,13 +104,11 @@ MeshGeometry& cube()
 
 } // namespace
 
-BoxModel::BoxModel(const glm::vec4& colour) : transformation(this), color(colour)
+BoxModel::BoxModel(const glm::vec4& colour)
 {
     shader = Library::getInstance()->getShaderprogram("ColorShader");
     setGeometry(cube());
-    bindCameraUniforms(false);
-    uniforms["model"] = &transformation;
-    uniforms["color"] = &color;
+    bindUniforms({.color = colour});
 }
 
 BoxModel::~BoxModel()

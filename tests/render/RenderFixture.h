@@ -2,9 +2,7 @@
 
 #include "assets/Library.h"
 #include "assets/Model.h"
-#include "assets/Uniform_AttachableTransformation.h"
 #include "gpu/Shaderprogram.h"
-#include "gpu/Uniform_Color.h"
 #include "render/Renderer.h"
 #include "scene/Camera.h"
 #include "scene/Node.h"
@@ -33,10 +31,6 @@ public:
 
     int draws = 0;                ///< so far
     std::function<void()> onDraw; ///< with the program and its uniforms set
-
-private:
-    Uniform_AttachableTransformation transformation;
-    Uniform_Color color;
 };
 
 /// A scene of its own before the one real renderer, which all tests share: the window is opened before the first, with

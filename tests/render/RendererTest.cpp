@@ -26,7 +26,7 @@ TEST_F(RenderTest, LaterViewportsCoverEarlierOnesAndTheirPictureStaysWithoutThem
 
 TEST_F(RenderTest, OutlinesAreDrawnByTheHullsOfBallsAndAroundWhateverStandsOut)
 {
-    add<BallModel>(at(0, 0, -10), nullptr, glm::vec4(0.3f, 1, 0.3f, 1));
+    add<BallModel>(at(0, 0, -10), glm::vec4(0.3f, 1, 0.3f, 1));
     addBox(at(3, 0, -10), {1, 1, 1, 1});
     addView({0, 0, 1024, 768}, glm::mat4(1.0f), {0, 0, 1, 1});
     /// Colours along the row through both, from the middle of the ball to the right.

@@ -37,8 +37,8 @@ protected:
         return places;
     }
 
-    BallModel& ground{add<BallModel>(glm::mat4(1.0f), nullptr, glm::vec4(1))}; // flattened
-    BallModel& ball{add<BallModel>(glm::mat4(1.0f), nullptr, glm::vec4(1))};
+    BallModel& ground{add<BallModel>(glm::mat4(1.0f), glm::vec4(1))}; // flattened
+    BallModel& ball{add<BallModel>(glm::mat4(1.0f), glm::vec4(1))};
     const Camera& camera{*addWholeWindow().camera};
 };
 

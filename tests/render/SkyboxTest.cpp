@@ -20,7 +20,6 @@ protected:
         texture.load("sky.tga");
         texture.setFilter(GL_NEAREST,
             GL_NEAREST); // the bottom samples one corner, where linear filtering takes in the opposite edges
-        sky.bindCameraUniforms(false);
         sky.uniforms["tex"] = &picture;
     }
 

@@ -105,11 +105,11 @@ glm::mat4 closeUpPose(const Player& leader)
 void playTo(TestGame& game, const Shot& shot, std::deque<GuidedDevice>& devices)
 {
     for (int i = 0; i < shot.people; ++i) {
-        game.addPlayer(&devices.emplace_back(i));
-        devices.back().take(*game.getPlayers().back(), game);
+        game.getMatch().addPlayer(devices.emplace_back(i));
+        devices.back().setPlayer(*game.getMatch().getPlayers().back(), game.getMatch());
     }
     if (shot.view == View::Registration)
-        while (game.getActorCount() < shot.participants) game.addComputerPlayer();
+        while (game.getMatch().getActorCount() < shot.participants) game.getMatch().addComputerPlayer();
     else game.startMatch(0, shot.participants);
     for (int pass = 0; pass < shot.passes; ++pass) {
         game.updatePass();
@@ -131,9 +131,9 @@ int take(const Shot& shot, const std::string& file)
     if (shot.view == View::Leader) {
         game.getCore()->getStateManager()->changeState("DebugGamestate");
         game.getRenderer().getTextRenderer()->clear();
-        const Player* leader = game.getRanking().getLeader(0);
+        const Player* leader = game.getMatch().getRanking().getLeader(0);
         if (!leader) return EXIT_FAILURE;
-        game.getSceneGraph()->getRoot()->find("CameraNode")->setTransform(closeUpPose(*leader));
+        game.getScene().getRoot()->find("CameraNode")->setTransform(closeUpPose(*leader));
     }
     PictureWriter writer(file);
     if (shot.view != View::Leader) game.updatePass();

@@ -1,4 +1,4 @@
-#include "app/StateView.h"
+#include "app/OverviewViewport.h"
 
 #include "scene/Node.h"
 
@@ -13,10 +13,10 @@ const glm::vec4 kClearColour(0.8f, 0.8f, 0.8f, 1.0f);
 
 } // namespace
 
-StateView::StateView(const Viewport::Rect& rect, Node* node)
+OverviewViewport::OverviewViewport(const Viewport::Rect& rect, Node& node)
     : camera(kFov, kAspect, kNear, kFar, kInitialTranslation), viewport(rect.x, rect.y, rect.width, rect.height)
 {
     viewport.camera = &camera;
     viewport.clearColour = kClearColour;
-    node->attach(&camera);
+    node.attach(&camera);
 }

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "players/IPresentation.h"
+
+#include <memory>
+#include <vector>
+
+class MeshGeometry;
+class Renderer;
+
+/// Shows participants with real models, through the renderer, and lets them be heard through the audio system. Owned by
+/// the game; needs the window and the loaded assets from the first car on.
+class Presentation final : public IPresentation {
+public:
+    explicit Presentation(Renderer& renderer); ///< borrowed
+    ~Presentation() override;
+
+    ICarModels& addCar(const CarNodes& nodes, const glm::vec4& colour) override;
+    std::shared_ptr<void> addBall(Node& node, const glm::vec4& colour) override;
+    void playSound(const std::string& name, bool loop, float volume) override;
+    std::unique_ptr<ISound> createSound(const std::string& name, const std::string& file) override;
+    void addText(const std::string& text, double x, double y) override;
+    glm::ivec2 getWindowSize() const override;
+
+private:
+    class CarModels;
+
+    MeshGeometry& getTireGeometry();
+
+    Renderer& renderer;
+    std::unique_ptr<MeshGeometry> tireGeometry; // shared by all tyres, made with the first
+    std::vector<std::unique_ptr<CarModels>> cars;
+};
