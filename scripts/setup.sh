@@ -10,7 +10,7 @@ play_packages=(g++ cmake ninja-build pkg-config ca-certificates
     libsdl2-dev libopenal-dev libsndfile1-dev dpkg-dev)
 # What the tests need besides:
 # shellcheck disable=SC2034
-test_packages=(libgtest-dev libx11-dev libxtst-dev xvfb xauth lintian desktop-file-utils appstream clang-format)
+test_packages=(libgtest-dev libpng-dev libx11-dev libxtst-dev xvfb xauth lintian desktop-file-utils appstream clang-format)
 
 die() {
     printf '%s\n' "$*" >&2

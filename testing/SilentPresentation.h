@@ -32,6 +32,7 @@ public:
     {
         return std::make_unique<Engine>(*this);
     }
+    void update() override {}
     void addText(const std::string& text, double x, double y) override { lines.push_back({text, x, y}); }
     glm::ivec2 getWindowSize() const override { return {1024, 768}; }
 

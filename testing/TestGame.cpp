@@ -25,3 +25,8 @@ Renderer& TestGame::getRenderer()
 {
     return *getCore()->getRenderer();
 }
+
+std::string TestGame::getStateName() const
+{
+    return getCore()->getStateManager()->getCurrentState()->getName();
+}

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "app/QKD_Game.h"
+#include "players/IPresentation.h"
 #include "testing/SteppedClock.h"
 #include "testing/WanderingDevice.h"
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 /// The whole game, window included, in the hands of a test, a benchmark or a tool: players that drive by themselves, a
@@ -15,6 +18,12 @@ public:
     /// passSeconds: see SteppedClock; nothing for passes of real time.
     explicit TestGame(std::optional<double> passLength = 1.0 / 60.0) : passSeconds(passLength) {}
 
+    /// Seen and heard by way of another presentation.
+    TestGame(double passLength, std::unique_ptr<IPresentation> shown)
+        : QKD_Game(std::move(shown)), passSeconds(passLength)
+    {
+    }
+
     /// Opens the window, loads everything and builds the world. False when there is no display.
     [[nodiscard]] bool start();
 
@@ -23,6 +32,8 @@ public:
     void startMatch(int humans, int participants);
 
     Renderer& getRenderer();
+    SteppedClock& getClock() { return *clock; } ///< from start() on, unless in real time
+    std::string getStateName() const;           ///< of the current state
 
 private:
     std::optional<double> passSeconds;

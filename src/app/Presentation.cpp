@@ -88,6 +88,11 @@ std::unique_ptr<ISound> Presentation::createSound(const std::string& name, const
     return AudioSystem::getInstance()->createSound(name, file);
 }
 
+void Presentation::update()
+{
+    AudioSystem::getInstance()->update();
+}
+
 void Presentation::addText(const std::string& text, double x, double y)
 {
     renderer.getTextRenderer()->addText(text, x, y);

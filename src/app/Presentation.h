@@ -19,6 +19,7 @@ public:
     std::shared_ptr<void> addBall(Node& node, const glm::vec4& colour) override;
     void playSound(const std::string& name, bool loop, float volume) override;
     std::unique_ptr<ISound> createSound(const std::string& name, const std::string& file) override;
+    void update() override;
     void addText(const std::string& text, double x, double y) override;
     glm::ivec2 getWindowSize() const override;
 

@@ -131,7 +131,7 @@ void QKD_Game::showHelp()
 void QKD_Game::update()
 {
     getMatch().stepPhysics();
-    AudioSystem::getInstance()->update();
+    presentation->update();
     functionKeys.update();
     logRanking();
 }

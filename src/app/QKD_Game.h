@@ -26,6 +26,7 @@ public:
     // From init() on.
     Match& getMatch() { return world->getMatch(); }
     SceneGraph& getScene() { return world->getScene(); }
+    const Terrain& getGround() { return world->getGround(); }
 
     Viewport::Rect getWindowRect() const; ///< the whole window, pixels
 

@@ -45,6 +45,9 @@ public:
     /// Load a sound that only its owner plays.
     [[nodiscard]] virtual std::unique_ptr<ISound> createSound(const std::string& name, const std::string& file) = 0;
 
+    /// Keep what is heard going. Once per frame.
+    virtual void update() = 0;
+
     /// Write a line of text for this frame; x and y in normalised device coordinates of the whole window, at the
     /// lower-left of the first letter.
     virtual void addText(const std::string& text, double x, double y) = 0;
