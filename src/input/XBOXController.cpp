@@ -7,8 +7,15 @@ namespace {
 constexpr int kButtonCount = 7;
 
 // By InputDevice::Button.
-constexpr GamePadState::Button kButtons[kButtonCount] = {GamePadState::kUp, GamePadState::kDown, GamePadState::kLeft,
-    GamePadState::kRight, GamePadState::kA, GamePadState::kB, GamePadState::kStart};
+constexpr GamePadState::Button kButtons[kButtonCount] = {
+    GamePadState::kUp,
+    GamePadState::kDown,
+    GamePadState::kLeft,
+    GamePadState::kRight,
+    GamePadState::kA,
+    GamePadState::kB,
+    GamePadState::kStart,
+};
 
 constexpr float kTriggerRange = 255.0f;
 constexpr float kStickRange = 32768.0f;
@@ -53,6 +60,7 @@ void XBOXController::vibrate(int milliseconds, std::uint16_t leftMotor, std::uin
 void XBOXController::update()
 {
     state = hardware.read(slot);
+    if (isPressed(kShoot)) hardware.setJoined(slot); // which is how people join
     if (vibrating && FrameTimer::getInstance()->getTimeMs() > vibrationEnd) {
         vibrate(0, 0, 0);
         vibrating = false;

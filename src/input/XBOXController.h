@@ -4,7 +4,8 @@
 #include "input/InputDevice.h"
 
 /// A game-pad: triggers for throttle and brake, the left stick for steering, A to shoot, B for the hand brake. Its
-/// state is that of the last update() or isConnected(); unplugged, nothing is pressed and every axis at rest.
+/// state is that of the last update() or isConnected(); unplugged, nothing is pressed and every axis at rest. From the
+/// first update() that sees A held its slot counts as a player's, who gets the next pad that comes should his be lost.
 class XBOXController : public InputDevice {
 public:
     /// number: 1 to 4, the pad's slot. The pads are borrowed.
@@ -13,7 +14,7 @@ public:
     bool isPressed(int button) override;
     float getAxis(int axis) override;
     void vibrate(int milliseconds, std::uint16_t leftMotor, std::uint16_t rightMotor) override;
-    void update() override; ///< also ends a rumble whose time is over
+    void update() override; ///< also ends a rumble whose time is over, and notes that somebody joins
     bool isConnected() override;
     std::string getName() const override;
     bool isStartPressed() override;
