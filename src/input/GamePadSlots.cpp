@@ -3,7 +3,7 @@
 #include <algorithm>
 
 namespace {
-constexpr int kMostAlike = 4;
+constexpr int kMostAlike = 2;
 }
 
 void GamePadSlots::update(const std::vector<Pad>& plugged)
@@ -54,12 +54,12 @@ void GamePadSlots::seat(const Pad& pad, bool joined, int wanted)
 }
 
 // Return from 0 (surely not the pad that was in the slot) to kMostAlike. Many pads tell no serial number, or the same
-// one as all their kind; then the device's path speaks, which the system hands out anew but mostly in the same order. A
-// pad that has been waiting cannot be the one that left.
+// one as all their kind; then the device's path speaks, which the system hands out anew but mostly in the same order.
+// A pad that has been waiting cannot be the one that left.
 int GamePadSlots::likeness(const Slot& slot, const Pad& pad) const
 {
     const Pad& last = slot.last;
     const bool bothTellSerial = !last.serial.empty() && !pad.serial.empty();
     if (isWaiting(pad.id) || last.model != pad.model || (bothTellSerial && last.serial != pad.serial)) return 0;
-    return 1 + (bothTellSerial ? 2 : 0) + (!last.path.empty() && last.path == pad.path ? 1 : 0);
+    return !last.path.empty() && last.path == pad.path ? kMostAlike : 1;
 }

@@ -142,6 +142,8 @@ TEST_F(XBOXControllerTest, AnUnpluggedPadIsAtRestUntilItOrAnotherTakesThePlayers
     VirtualPad four(4), twin(3);
     twin.press(kShootButton);
     EXPECT_EQ(slots(), "1*34") << "one waits";
+    wheel.unplug(); // which frees no slot
+    EXPECT_EQ(slots(), "1*34");
     three.unplug();
     EXPECT_EQ(slots(), "1*34") << "and takes the player's slot at once";
     three.plugIn();

@@ -52,12 +52,15 @@ TEST_F(ImageTest, FilesDecodeToRowsFromTheBottomUpOrAreCutShort)
 {
     const std::string decoded = "RGBrgbZYX321654987", many = std::string(70, 'x') + std::string(70, 'y');
     const std::string map = "BGRbgr", indices("\0\1\0\1\1\1", 6);
+    std::string titled = header(kGrey, 3, 8) + std::string(200, 't') + "abcdef";
+    titled[0] = static_cast<char>(200); // bytes of title, which no picture needs
     const Picture rows[] = {
         {"24 bits, lower row first", header(kTrueColour, 3, 24) + kLower + kUpper, 3, 3, decoded},
         {"24 bits, upper row first", header(kTrueColour, 3, 24, kTopDown) + kUpper + kLower, 3, 3, decoded},
         {"run-length", header(kTrueColour | kRunLength, 3, 24) + kPackets, 3, 3, "RGBrgbZYXcbacbacba"},
         {"32 bits", header(kTrueColour, 3, 32, 8) + "BGRAbgraXYZ0123A456a7890", 3, 4, "RGBArgbaZYX0321A654a9870"},
         {"grey, more than the decoder's buffer", header(kGrey, 70, 8) + many, 70, 1, many},
+        {"titled", titled, 3, 1, "abcdef"},
         {"colour-mapped", header(kMapped, 3, 8, 0, 2) + map + indices, 3, 3, "RGBrgbRGBrgbrgbrgb"},
     };
     constexpr std::size_t kLeast = 17; // bytes that tell what a file is
