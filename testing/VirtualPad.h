@@ -19,8 +19,8 @@ public:
     PadLibrary& operator=(const PadLibrary&) = delete;
 };
 
-/// A pad that the library cannot tell from a real one, plugged in until unplug(). Its name is "Test pad " and the number
-/// of its model; pads of one model are twins.
+/// A pad that the library cannot tell from a real one, plugged in until unplug(). Its name is "Test pad " and the
+/// number of its model; pads of one model are twins.
 class VirtualPad {
 public:
     using Motors = std::pair<int, int>; ///< left, right

@@ -4,13 +4,14 @@
 #include <string>
 #include <vector>
 
-/// Which game-pad has which of the four slots. A slot is what a player drives with, whatever pad is in it. Knows nothing
-/// of hardware. Owned by GamePads: update() whenever pads came or went, setJoined() once a player drives with a slot.
+/// Which game-pad has which of the four slots. A slot is what a player drives with, whatever pad is in it. Knows
+/// nothing of hardware. Owned by GamePads: update() whenever pads came or went, setJoined() once a player drives with a
+/// slot.
 ///
-/// A pad that comes takes the slot of a player who has lost his: its own one first, or else the lowest. Only when nobody
-/// lacks a pad does it take a slot that nobody joined with: the one that it had, or else the lowest that is empty. Pads
-/// that find no slot wait, and take the next one that is empty. Of pads that cannot be told apart, the one that comes
-/// first gets the first slot.
+/// A pad that comes takes the slot of a player who has lost his: its own one first, or else the lowest. Only when
+/// nobody lacks a pad does it take a slot that nobody joined with: the one that it had, or else the lowest that is
+/// empty. Pads that find no slot wait, and take the next one that is empty. Of pads that cannot be told apart, the one
+/// that comes first gets the first slot.
 class GamePadSlots {
 public:
     static constexpr int kSlotCount = 4;

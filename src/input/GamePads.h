@@ -47,8 +47,8 @@ public:
     /// however often it is called.
     const GamePadState& read(int slot);
 
-    /// Set the motor speeds, 0 to 65535, until the next call (at most 65 seconds). Nothing happens while the slot has no
-    /// pad.
+    /// Set the motor speeds, 0 to 65535, until the next call (at most 65 seconds). Nothing happens while the slot has
+    /// no pad.
     void rumble(int slot, std::uint16_t leftMotor, std::uint16_t rightMotor);
 
     /// From now on a player drives with this slot (0 to 3): should he lose his pad, the next one that comes is his.
@@ -77,5 +77,6 @@ private:
     std::array<GamePadState, kSlotCount> states;
 };
 
-/// Return the game's own, created on first use and closed when the program ends, which also stops motors that still run.
+/// Return the game's own, created on first use and closed when the program ends, which also stops motors that still
+/// run.
 GamePads& gamePads();

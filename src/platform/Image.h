@@ -24,7 +24,8 @@ struct Image {
 /// is missing, is no TGA, is cut short or too large; then `error` says which of these, in a few words.
 std::optional<Image> readTga(const std::string& path, std::string& error);
 
-/// Raise each side to the smallest power of two not below it, bilinearly. Return a picture that has such sides as it is.
+/// Raise each side to the smallest power of two not below it, bilinearly. A picture that has such sides comes back as
+/// it is.
 Image resampledToPowersOfTwo(Image image);
 
 /// Return a picture of half the width and height (at least 1), each pixel the mean of those that it covers. Sides are
