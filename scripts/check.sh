@@ -15,7 +15,7 @@ mode=${1:-}
 [[ $mode != --fix ]] || format=(clang-format -i)
 [[ $mode != --* ]] || shift
 files=("$@")
-((${#files[@]} > 0)) || mapfile -t files < <(find src tests bench tools -name '*.h' -o -name '*.cpp' | LC_ALL=C sort)
+((${#files[@]} > 0)) || mapfile -t files < <(find src testing tests bench tools -name '*.h' -o -name '*.cpp' | LC_ALL=C sort)
 
 status=0
 require_packages "${play_packages[@]}" "${test_packages[@]}"

@@ -3,6 +3,7 @@
 #include <SDL.h>
 
 #include <stdexcept>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -18,7 +19,8 @@ public:
     PadLibrary& operator=(const PadLibrary&) = delete;
 };
 
-/// A pad that the library cannot tell from a real one, plugged in until unplug(). Pads of one model are twins.
+/// A pad that the library cannot tell from a real one, plugged in until unplug(). Its name is "Test pad " and the
+/// number of its model; pads of one model are twins.
 class VirtualPad {
 public:
     using Motors = std::pair<int, int>; ///< left, right
@@ -34,6 +36,7 @@ public:
 
     void plugIn()
     {
+        const std::string name = "Test pad " + std::to_string(model);
         SDL_VirtualJoystickDesc description{};
         description.version = SDL_VIRTUAL_JOYSTICK_DESC_VERSION;
         description.type = static_cast<Uint16>(type);
@@ -41,7 +44,7 @@ public:
         description.nbuttons = SDL_CONTROLLER_BUTTON_DPAD_RIGHT + 1;
         description.vendor_id = 0x1209;
         description.product_id = model;
-        description.name = "Test pad";
+        description.name = name.c_str();
         description.userdata = this;
         description.Update = [](void* self) { ++static_cast<VirtualPad*>(self)->timesAsked; };
         description.SetPlayerIndex = [](void* self, int index) { static_cast<VirtualPad*>(self)->light = index; };
@@ -69,7 +72,7 @@ public:
     void press(SDL_GameControllerButton button) { SDL_JoystickSetVirtualButton(device, button, 1); }
     void release(SDL_GameControllerButton button) { SDL_JoystickSetVirtualButton(device, button, 0); }
 
-    /// Raw values, -32768 to 32767 on every axis: a trigger's whole way too.
+    /// Set an axis by its raw value, -32768 to 32767: a trigger's whole way too.
     void move(SDL_GameControllerAxis axis, int value)
     {
         SDL_JoystickSetVirtualAxis(device, axis, static_cast<Sint16>(value));

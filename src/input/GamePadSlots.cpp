@@ -3,34 +3,20 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int kMostAlike = 4;
-
-// From 0 (surely two pads) to kMostAlike. Many pads tell no serial number, or the same one as all their kind; then the
-// device's path speaks, which the system hands out anew but mostly in the same order.
-int alikeness(const GamePadSlots::Pad& a, const GamePadSlots::Pad& b)
-{
-    const bool bothTellSerial = !a.serial.empty() && !b.serial.empty();
-    if (a.model != b.model || (bothTellSerial && a.serial != b.serial)) return 0;
-    return 1 + (bothTellSerial ? 2 : 0) + (!a.path.empty() && a.path == b.path ? 1 : 0);
+constexpr int kMostAlike = 2;
 }
 
-} // namespace
-
-void GamePadSlots::update(const std::vector<Pad>& plugged, double nowMs)
+void GamePadSlots::update(const std::vector<Pad>& plugged)
 {
-    emptyDeserted(plugged, nowMs);
-
-    std::vector<const Pad*> newcomers;
-    for (const Pad& pad : plugged) {
-        if (!isSeated(pad.id) && !isWaiting(pad.id)) newcomers.push_back(&pad);
-    }
-    giveBack(newcomers);
-    giveFree(plugged, nowMs);
+    emptyDeserted(plugged);
+    // The closest likenesses first, so that of two twins each finds its own slot wherever anything tells them apart.
+    for (const bool joined : {true, false})
+        for (int wanted = kMostAlike; wanted >= 0; --wanted)
+            for (const Pad& pad : plugged) seat(pad, joined, wanted);
 
     waiting.clear();
     for (const Pad& pad : plugged) {
-        if (!isSeated(pad.id)) waiting.push_back(pad.id);
+        if (slotOf(pad.id) == kNoSlot) waiting.push_back(pad.id);
     }
 }
 
@@ -46,43 +32,34 @@ bool GamePadSlots::isWaiting(int id) const
     return std::find(waiting.begin(), waiting.end(), id) != waiting.end();
 }
 
-void GamePadSlots::emptyDeserted(const std::vector<Pad>& plugged, double nowMs)
+void GamePadSlots::emptyDeserted(const std::vector<Pad>& plugged)
 {
     for (Slot& slot : slots) {
-        if (slot.seated == kNoPad) continue;
-        if (std::any_of(plugged.begin(), plugged.end(), [&](const Pad& pad) { return pad.id == slot.seated; }))
-            continue;
-        slot.seated = kNoPad;
-        slot.emptiedMs = nowMs;
+        if (std::none_of(plugged.begin(), plugged.end(), [&](const Pad& pad) { return pad.id == slot.seated; }))
+            slot.seated = kNoPad;
     }
 }
 
-// The closest likenesses first, so that of two twins each finds its own slot wherever anything tells them apart. A pad
-// that has been waiting is not asked: it cannot be the one that left.
-void GamePadSlots::giveBack(std::vector<const Pad*>& newcomers)
+// Put a pad that has no slot into the first empty one, joined or not, whose last pad was as much like it as wanted.
+void GamePadSlots::seat(const Pad& pad, bool joined, int wanted)
 {
-    for (int wanted = kMostAlike; wanted > 0; --wanted) {
-        std::erase_if(newcomers, [&](const Pad* pad) {
-            const auto slot = std::find_if(slots.begin(), slots.end(), [&](const Slot& candidate) {
-                return candidate.seated == kNoPad && candidate.last.id != kNoPad &&
-                    alikeness(candidate.last, *pad) == wanted;
-            });
-            if (slot == slots.end()) return false;
-            slot->seated = pad->id;
-            slot->last = *pad;
-            return true;
-        });
-    }
+    if (slotOf(pad.id) != kNoSlot) return;
+    const auto slot = std::find_if(slots.begin(), slots.end(), [&](const Slot& candidate) {
+        return candidate.seated == kNoPad && candidate.joined == joined && likeness(candidate, pad) == wanted;
+    });
+    if (slot == slots.end()) return;
+    slot->replaced = joined && wanted == 0 ? slot->last.name : "";
+    slot->seated = pad.id;
+    slot->last = pad;
 }
 
-void GamePadSlots::giveFree(const std::vector<Pad>& plugged, double nowMs)
+// Return from 0 (surely not the pad that was in the slot) to kMostAlike. Many pads tell no serial number, or the same
+// one as all their kind; then the device's path speaks, which the system hands out anew but mostly in the same order.
+// A pad that has been waiting cannot be the one that left.
+int GamePadSlots::likeness(const Slot& slot, const Pad& pad) const
 {
-    for (const Pad& pad : plugged) {
-        if (isSeated(pad.id)) continue;
-        const auto slot =
-            std::find_if(slots.begin(), slots.end(), [&](const Slot& candidate) { return candidate.isFree(nowMs); });
-        if (slot == slots.end()) return;
-        slot->seated = pad.id;
-        slot->last = pad;
-    }
+    const Pad& last = slot.last;
+    const bool bothTellSerial = !last.serial.empty() && !pad.serial.empty();
+    if (isWaiting(pad.id) || last.model != pad.model || (bothTellSerial && last.serial != pad.serial)) return 0;
+    return !last.path.empty() && last.path == pad.path ? kMostAlike : 1;
 }

@@ -27,7 +27,7 @@ constexpr ButtonRole kButtons[] = {
     {SDL_CONTROLLER_BUTTON_B, GamePadState::kB},
 };
 
-// 0..32767 to 0..255 in equal steps.
+// Return 0..32767 as 0..255, in equal steps.
 std::uint8_t triggerByte(Sint16 value)
 {
     return static_cast<std::uint8_t>(std::max<int>(value, 0) / 128);
@@ -126,16 +126,15 @@ void GamePads::start()
 void GamePads::poll()
 {
     SDL_GameControllerUpdate();
-    const bool changed = takePresent();
-    if (changed) {
+    if (takePresent()) {
         closeDeparted();
         openArrivals();
+        assignSlots();
     }
-    if (changed || slots.isAnyWaiting()) assignSlots();
     for (int slot = 0; slot < kSlotCount; ++slot) states[static_cast<std::size_t>(slot)] = stateOf(handleIn(slot));
 }
 
-// True when something was plugged in or out since the last time.
+// Take in what is plugged in. Return true when that has changed since the last time.
 bool GamePads::takePresent()
 {
     std::vector<int> now(static_cast<std::size_t>(std::max(SDL_NumJoysticks(), 0)));
@@ -177,12 +176,14 @@ void GamePads::openArrivals()
 void GamePads::assignSlots()
 {
     const GamePadSlots before = slots;
-    slots.update(plugged, FrameTimer::getInstance()->getTimeMs());
+    slots.update(plugged);
     for (const GamePadSlots::Pad& pad : plugged) {
         const int slot = slots.slotOf(pad.id);
         if (slot != before.slotOf(pad.id)) {
             SDL_GameControllerSetPlayerIndex(handleIn(slot), slot); // the number that the pad's lights show
-            logLine(2) << "Game-pad " << slot + 1 << " plugged in: " << pad.name << std::endl;
+            const std::string& replaced = slots.replacedIn(slot);
+            logLine(2) << "Game-pad " << slot + 1 << " plugged in: " << pad.name
+                       << (replaced.empty() ? "" : ", in place of " + replaced) << std::endl;
         } else if (slot == GamePadSlots::kNoSlot && !before.isWaiting(pad.id)) {
             logLine(2) << "Game-pad waits for a free slot: " << pad.name << std::endl;
         }

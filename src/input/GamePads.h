@@ -43,13 +43,16 @@ public:
     GamePads(const GamePads&) = delete;
     GamePads& operator=(const GamePads&) = delete;
 
-    /// The pad in a slot (0 to 3) as it is in this pass of the main loop: asks the hardware once a pass, however often
-    /// it is called.
+    /// Return the state of the pad in a slot (0 to 3) in this pass of the main loop. Asks the hardware once a pass,
+    /// however often it is called.
     const GamePadState& read(int slot);
 
-    /// Motor speeds from 0 to 65535, in force until the next call (at most 65 seconds). Nothing happens while the slot
-    /// has no pad.
+    /// Set the motor speeds, 0 to 65535, until the next call (at most 65 seconds). Nothing happens while the slot has
+    /// no pad.
     void rumble(int slot, std::uint16_t leftMotor, std::uint16_t rightMotor);
+
+    /// From now on a player drives with this slot (0 to 3): should he lose his pad, the next one that comes is his.
+    void setJoined(int slot) { slots.setJoined(slot); }
 
 private:
     struct Closer {
@@ -74,5 +77,6 @@ private:
     std::array<GamePadState, kSlotCount> states;
 };
 
-/// The game's own; created on first use, closed when the program ends, which also stops motors that still run.
+/// Return the game's own, created on first use and closed when the program ends, which also stops motors that still
+/// run.
 GamePads& gamePads();

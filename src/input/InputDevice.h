@@ -34,6 +34,9 @@ public:
     /// Rumbles for that many milliseconds; motor speeds from 0 to 65535. A new request replaces the running one.
     virtual void vibrate(int milliseconds, std::uint16_t leftMotor, std::uint16_t rightMotor) = 0;
 
+    /// From now on somebody takes part with this device.
+    virtual void setJoined() {}
+
     virtual void update() = 0; ///< reads the hardware for this frame
     virtual bool isConnected() = 0;
     virtual std::string getName() const = 0; ///< as players see it

@@ -7,8 +7,15 @@ namespace {
 constexpr int kButtonCount = 7;
 
 // By InputDevice::Button.
-constexpr GamePadState::Button kButtons[kButtonCount] = {GamePadState::kUp, GamePadState::kDown, GamePadState::kLeft,
-    GamePadState::kRight, GamePadState::kA, GamePadState::kB, GamePadState::kStart};
+constexpr GamePadState::Button kButtons[kButtonCount] = {
+    GamePadState::kUp,
+    GamePadState::kDown,
+    GamePadState::kLeft,
+    GamePadState::kRight,
+    GamePadState::kA,
+    GamePadState::kB,
+    GamePadState::kStart,
+};
 
 constexpr float kTriggerRange = 255.0f;
 constexpr float kStickRange = 32768.0f;
@@ -48,6 +55,11 @@ void XBOXController::vibrate(int milliseconds, std::uint16_t leftMotor, std::uin
     vibrationEnd = FrameTimer::getInstance()->getTimeMs() + milliseconds;
     vibrating = true;
     hardware.rumble(slot, leftMotor, rightMotor);
+}
+
+void XBOXController::setJoined()
+{
+    hardware.setJoined(slot);
 }
 
 void XBOXController::update()

@@ -50,6 +50,7 @@ void PlayerRegistration::readDevices()
 void PlayerRegistration::join(Slot& slot)
 {
     slot.registered = true;
+    slot.device->setJoined();
     match.addPlayer(*slot.device);
     logLine(2) << "Player registered" << std::endl;
 }

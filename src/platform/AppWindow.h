@@ -12,23 +12,23 @@ struct GLFWwindow;
 /// GLFW 3 polls no events in its swap as 2.7 did, so swapBuffers() does. All on the main thread.
 class AppWindow : public IClock, public IKeyboard {
 public:
-    /// Starts the window library. False when it cannot (no display).
+    /// Start the window library. Return false when it cannot start (no display).
     bool initialize();
 
-    /// Opens the window, makes its context current, and puts the window's clock and keyboard in place of the defaults.
-    /// False when no OpenGL 4.3 core context can be had.
+    /// Open the window, make its context current, and put the window's clock and keyboard in place of the defaults.
+    /// Return false when no OpenGL 4.3 core context can be had.
     bool open(int width, int height, const char* title);
 
-    /// The entry points' loader wants this after open(): vertical synchronisation off, position on the screen.
+    /// Switch vertical synchronisation off, and put the open window's upper-left corner there on the screen.
     void place(int x, int y);
 
     bool isOpen() const;
-    void swapBuffers();
+    void swapBuffers(); ///< shows the picture drawn, and takes in the events that came meanwhile
 
-    /// Closes the window and the window library; harmless when nothing is open.
+    /// Close the window and the window library; harmless when nothing is open.
     void terminate();
 
-    /// Hides and captures the mouse cursor, or releases it.
+    /// Hide and capture the mouse cursor, or release it.
     void captureCursor(bool captured);
 
     struct Position {

@@ -15,7 +15,7 @@ bool holdsData(const fs::path& folder)
     return fs::is_directory(folder / "Shader", error) && fs::is_directory(folder / "Textures", error);
 }
 
-/// Where data lies seen from the folder of the running program: the installed layout first, then a build's.
+// Return where data may lie, seen from the folder of the running program: the installed layout first, then a build's.
 std::vector<fs::path> candidates()
 {
     std::error_code error;

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Makes the folder that holds Shader/, Textures/, Models/ and Audio/ the working directory. A working directory that
+/// Make the folder that holds Shader/, Textures/, Models/ and Audio/ the working directory. A working directory that
 /// already holds them stays; otherwise the share folder beside an installed program, then the source tree of a build.
-/// False, with one log line at level 0, when none of them is there.
+/// Return false, with one log line at level 0, when none of them is there.
 bool enterDataFolder();

@@ -8,85 +8,62 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 namespace {
 
-constexpr std::size_t kTgaHeaderBytes = 18;
-constexpr int kLargestSide = 16384; // pixels; more than any texture unit takes
+/// What the decoder reads from: a file, which notes that more was wanted than it has. The decoder itself goes on with
+/// zeros then, and a picture that shows black where data is missing is no picture.
+struct Source {
+    std::ifstream file;
+    const char* buffer = nullptr; // the decoder's own, which its first read fills
+    bool cutShort = false;
 
-enum TgaKind { kColourMapped = 1, kTrueColour = 2, kGrey = 3, kRunLengthBit = 8 };
-
-int word(const std::vector<unsigned char>& bytes, std::size_t at)
-{
-    return bytes[at] | (bytes[at + 1] << 8);
-}
-
-/// The decoder fills what a cut file lacks with zeros; a picture that shows black where data is missing is no picture.
-bool holdsAllPixels(const std::vector<unsigned char>& bytes)
-{
-    const int kind = bytes[2];
-    const auto pixels = static_cast<std::size_t>(word(bytes, 12)) * static_cast<std::size_t>(word(bytes, 14));
-    const auto pixelBytes = static_cast<std::size_t>((bytes[16] + 7) / 8);
-    const std::size_t mapBytes =
-        bytes[1] ? static_cast<std::size_t>(word(bytes, 5)) * static_cast<std::size_t>((bytes[7] + 7) / 8) : 0;
-    std::size_t at = kTgaHeaderBytes + bytes[0] + mapBytes;
-    if (!(kind & kRunLengthBit)) return bytes.size() >= at + pixels * pixelBytes;
-
-    std::size_t decoded = 0;
-    while (decoded < pixels) {
-        if (at >= bytes.size()) return false;
-        const unsigned packet = bytes[at];
-        const std::size_t length = (packet & 0x7Fu) + 1;
-        at += 1 + (packet & 0x80u ? pixelBytes : length * pixelBytes);
-        decoded += length;
+    static int read(void* user, char* data, int size)
+    {
+        Source& source = *static_cast<Source*>(user);
+        if (!source.buffer) source.buffer = data;
+        source.file.read(data, size);
+        const int count = static_cast<int>(source.file.gcount());
+        // At the end of an intact file the buffer may get less than it holds; what goes straight to pixels is needed.
+        if (count == 0 || (count < size && data != source.buffer)) source.cutShort = true;
+        return count;
     }
-    return at <= bytes.size();
-}
 
-bool isTgaHeader(const std::vector<unsigned char>& bytes)
+    static void skip(void* user, int count) { static_cast<Source*>(user)->file.ignore(count); }
+    static int atEnd(void* user) { return static_cast<Source*>(user)->file.eof(); }
+};
+
+constexpr stbi_io_callbacks kCallbacks{Source::read, Source::skip, Source::atEnd};
+
+std::size_t byteCount(const Image& image)
 {
-    const int kind = bytes[2] & ~kRunLengthBit;
-    const int width = word(bytes, 12), height = word(bytes, 14), bits = bytes[16];
-    const bool kindFits =
-        bytes[1] == 1 ? kind == kColourMapped : bytes[1] == 0 && (kind == kTrueColour || kind == kGrey);
-    const bool bitsFit = bits == 8 || bits == 15 || bits == 16 || bits == 24 || bits == 32;
-    return kindFits && bitsFit && width > 0 && height > 0 && width <= kLargestSide && height <= kLargestSide;
+    return static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) *
+        static_cast<std::size_t>(image.channels);
 }
 
 } // namespace
 
 std::optional<Image> readTga(const std::string& path, std::string& error)
 {
-    std::ifstream file(path, std::ios::binary);
+    Source source;
     std::error_code status;
-    if (!file || !std::filesystem::is_regular_file(path, status)) { // a folder opens, and throws when read
+    if (std::filesystem::is_regular_file(path, status)) source.file.open(path, std::ios::binary);
+    if (!source.file.is_open()) {
         error = "couldn't open file";
-        return std::nullopt;
-    }
-    const std::vector<unsigned char> bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (bytes.size() < kTgaHeaderBytes || !isTgaHeader(bytes)) {
-        error = "not a TGA picture";
-        return std::nullopt;
-    }
-    if (!holdsAllPixels(bytes)) {
-        error = "picture is cut short";
         return std::nullopt;
     }
 
     Image image;
     stbi_set_flip_vertically_on_load(1);
-    unsigned char* decoded = stbi_load_from_memory(bytes.data(), static_cast<int>(bytes.size()), &image.width,
-        &image.height, &image.channels, 0);
-    if (!decoded) {
-        error = "picture cannot be decoded";
-        return std::nullopt;
-    }
-    image.pixels.assign(decoded,
-        decoded +
-            static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) *
-                static_cast<std::size_t>(image.channels));
+    stbi_uc* const decoded =
+        stbi_load_from_callbacks(&kCallbacks, &source, &image.width, &image.height, &image.channels, 0);
+    const std::string failure = decoded ? "" : stbi_failure_reason();
+    if (failure == "unknown image type") error = "not a TGA picture";
+    else if (source.cutShort) error = "picture is cut short";
+    else if (!decoded) error = "picture cannot be decoded: " + failure;
+    else image.pixels.assign(decoded, decoded + byteCount(image));
     stbi_image_free(decoded);
+    if (image.pixels.empty()) return std::nullopt;
     return image;
 }
 
@@ -97,8 +74,7 @@ Image resampledToPowersOfTwo(Image image)
     if (width == image.width && height == image.height) return image;
 
     Image result{width, height, image.channels, {}};
-    result.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) *
-        static_cast<std::size_t>(image.channels));
+    result.pixels.resize(byteCount(result));
     stbir_resize_uint8_generic(image.pixels.data(), image.width, image.height, 0, result.pixels.data(), width, height,
         0, image.channels, STBIR_ALPHA_CHANNEL_NONE, 0, STBIR_EDGE_CLAMP, STBIR_FILTER_TRIANGLE,
         STBIR_COLORSPACE_LINEAR, nullptr);
@@ -108,10 +84,9 @@ Image resampledToPowersOfTwo(Image image)
 Image halved(const Image& image)
 {
     Image half{std::max(image.width / 2, 1), std::max(image.height / 2, 1), image.channels, {}};
-    const int stepX = image.width / half.width,
-              stepY = image.height / half.height; // 2, or 1 along a side that is used up
-    half.pixels.reserve(static_cast<std::size_t>(half.width) * static_cast<std::size_t>(half.height) *
-        static_cast<std::size_t>(half.channels));
+    const int stepX = image.width / half.width; // 2, or 1 along a side that is used up
+    const int stepY = image.height / half.height;
+    half.pixels.reserve(byteCount(half));
     for (int y = 0; y < half.height; ++y) {
         for (int x = 0; x < half.width; ++x) {
             const unsigned char* low = image.at(x * stepX, y * stepY);

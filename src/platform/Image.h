@@ -20,14 +20,14 @@ struct Image {
     }
 };
 
-/// Reads a TGA file, uncompressed or run-length encoded. Nothing when the file is missing, is no TGA or is cut short;
-/// then `error` says which of these, in a few words.
+/// Read a TGA file, uncompressed or run-length encoded, with sides of at most 4096 pixels. Return nothing when the file
+/// is missing, is no TGA, is cut short or too large; then `error` says which of these, in a few words.
 std::optional<Image> readTga(const std::string& path, std::string& error);
 
-/// Raises each side to the smallest power of two not below it, bilinearly; a picture that has such sides comes back as
+/// Raise each side to the smallest power of two not below it, bilinearly. A picture that has such sides comes back as
 /// it is.
 Image resampledToPowersOfTwo(Image image);
 
-/// A picture of half the width and height (at least 1), each pixel the mean of those that it covers. Sides are powers
-/// of two.
+/// Return a picture of half the width and height (at least 1), each pixel the mean of those that it covers. Sides are
+/// powers of two.
 Image halved(const Image& image);

@@ -8,16 +8,15 @@ public:
 
     virtual bool isDown(int key) = 0;
 
-    /// Takes in the key events that came since the last call.
+    /// Take in the key events that came since the last call.
     virtual void poll() = 0;
 };
 
-/// The keyboard in use; never null. Until a window is opened (or a test sets one) it is one on which no key is ever
-/// down.
+/// Return the keyboard in use. Until a window is opened (or a test sets one) it is one on which no key is ever down.
 IKeyboard& keyboard();
 
-/// Borrowed; it must outlive its use. Null goes back to the keyboard without keys.
+/// Use this keyboard, borrowed, from now on. Null stands for the one without keys.
 void setKeyboard(IKeyboard* newKeyboard);
 
-/// Shorthand of keyboard().isDown.
+/// Return keyboard().isDown(key).
 bool isKeyDown(int key);

@@ -5,51 +5,34 @@
 
 namespace {
 
-struct KeyRow {
-    int layout;
-    int key;
-    int button;
-    int axis; // that the key moves; -1 for none
-    float value;
-};
-
-TEST(KeyboardController, OneKeyPressesOneButtonAndMovesAtMostOneAxis)
+TEST(KeyboardController, EachKeyIsOneButtonOfOneHalfAndPushesItsAxisTheRightWay)
 {
-    const KeyRow rows[] = {{1, GLFW_KEY_UP, 0, 0, 1.0f}, {1, GLFW_KEY_DOWN, 1, 1, -1.0f},
-        {1, GLFW_KEY_LEFT, 2, 2, -1.0f}, {1, GLFW_KEY_RIGHT, 3, 2, 1.0f}, {1, GLFW_KEY_K, 4, -1, 0},
-        {1, GLFW_KEY_L, 5, -1, 0}, {1, GLFW_KEY_ENTER, 6, -1, 0}, {2, GLFW_KEY_W, 0, 0, 1.0f},
-        {2, GLFW_KEY_S, 1, 1, -1.0f}, {2, GLFW_KEY_A, 2, 2, -1.0f}, {2, GLFW_KEY_D, 3, 2, 1.0f},
-        {2, GLFW_KEY_1, 4, -1, 0}, {2, GLFW_KEY_2, 5, -1, 0}, {2, GLFW_KEY_TAB, 6, -1, 0}};
+    constexpr int kKeys[2][7] = {
+        {GLFW_KEY_UP, GLFW_KEY_DOWN, GLFW_KEY_LEFT, GLFW_KEY_RIGHT, GLFW_KEY_K, GLFW_KEY_L, GLFW_KEY_ENTER},
+        {GLFW_KEY_W, GLFW_KEY_S, GLFW_KEY_A, GLFW_KEY_D, GLFW_KEY_1, GLFW_KEY_2, GLFW_KEY_TAB},
+    };
     ScriptedKeyboard keys;
-    for (const KeyRow& row : rows) {
-        SCOPED_TRACE(row.key);
-        KeyboardController device(row.layout), otherHalf(3 - row.layout);
-        keys.reset();
-        keys.hold({row.key});
-        for (int button = -1; button <= 7; ++button) {
-            EXPECT_EQ(device.isPressed(button), button == row.button) << "button " << button;
-            EXPECT_FALSE(otherHalf.isPressed(button)) << "the other half's button " << button;
-        }
-        for (int axis = 0; axis <= 3; ++axis)
-            EXPECT_EQ(device.getAxis(axis), axis == row.axis ? row.value : 0.0f) << "axis " << axis;
-    }
-}
-
-TEST(KeyboardController, BothHalvesShareTheStartAndBackKeysAndOppositeSteeringKeysCancelOut)
-{
-    ScriptedKeyboard keys;
-    KeyboardController arrows(1), letters(2);
-    for (const int key : {GLFW_KEY_ENTER, GLFW_KEY_ESCAPE}) {
+    KeyboardController halves[] = {KeyboardController(1), KeyboardController(2)};
+    for (int i = 0; i < 14; ++i) {
+        const int held = i % 7, key = kKeys[i / 7][held];
+        KeyboardController &half = halves[i / 7], &other = halves[1 - i / 7];
+        SCOPED_TRACE(half.getName() + ", button " + std::to_string(held));
         keys.reset();
         keys.hold({key});
-        for (KeyboardController* half : {&arrows, &letters}) {
-            EXPECT_EQ(half->isStartPressed(), key == GLFW_KEY_ENTER);
-            EXPECT_EQ(half->isBackPressed(), key == GLFW_KEY_ESCAPE);
+        for (int button = -1; button <= 7; ++button) {
+            EXPECT_EQ(half.isPressed(button), button == held) << button;
+            EXPECT_FALSE(other.isPressed(button)) << button;
         }
+        const int amounts[] = {held == 0, -(held == 1), (held == 3) - (held == 2), 0};
+        for (int axis = 0; axis < 4; ++axis) EXPECT_EQ(half.getAxis(axis), amounts[axis]) << axis;
+        EXPECT_EQ(half.isStartPressed(), key == GLFW_KEY_ENTER);
+        EXPECT_EQ(other.isStartPressed(), key == GLFW_KEY_ENTER);
     }
-    keys.hold({GLFW_KEY_LEFT, GLFW_KEY_RIGHT});
-    EXPECT_EQ(arrows.getAxis(InputDevice::kSteeringAxis), 0.0f);
-    arrows.update();
+    keys.reset();
+    keys.hold({GLFW_KEY_LEFT, GLFW_KEY_RIGHT, GLFW_KEY_ESCAPE});
+    EXPECT_EQ(halves[0].getAxis(InputDevice::kSteeringAxis), 0);
+    EXPECT_TRUE(halves[0].isBackPressed() && halves[1].isBackPressed());
+    halves[1].update();
     EXPECT_EQ(keys.polls, 1) << "an update takes in key events";
 }
 

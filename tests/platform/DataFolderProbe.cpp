@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <iostream>
 
-/// Prints the folder that the search ends in; exit status 1 when it finds none.
+/// Print the folder that the search ends in; exit with status 1 when it finds none.
 int main()
 {
     if (!enterDataFolder()) return 1;
