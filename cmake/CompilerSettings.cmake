@@ -19,8 +19,8 @@ target_compile_options(quackdash_settings INTERFACE -Wall -Wextra -Wpedantic -Ws
     $<$<BOOL:${QUACKDASH_WERROR}>:-Werror>
     # g++ 12 sees an overlapping copy in every inlined ("literal" + std::string).
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
-# GLM: silence its own deprecation guard for the extensions in use.
-target_compile_definitions(quackdash_settings INTERFACE GLM_ENABLE_EXPERIMENTAL)
+# GLM: silence its own deprecation guard for the extensions in use. GLFW: GL comes from GLEW alone.
+target_compile_definitions(quackdash_settings INTERFACE GLM_ENABLE_EXPERIMENTAL GLFW_INCLUDE_NONE)
 if(QUACKDASH_SANITIZE)
     target_compile_options(quackdash_settings INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize=vptr)
     target_link_options(quackdash_settings INTERFACE -fsanitize=address,undefined)

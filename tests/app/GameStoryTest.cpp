@@ -2,6 +2,7 @@
 #include "app/GameStateManager.h"
 #include "app/TestState2.h"
 #include "assets/Library.h"
+#include "gpu/Shaderprogram.h"
 #include "gpu/Texture.h"
 #include "physics/PhysicNode.h"
 #include "physics/VehicleHandle.h"
@@ -9,6 +10,7 @@
 #include "players/Player.h"
 #include "render/Renderer.h"
 #include "testing/CapturedLog.h"
+#include "testing/FrameRecorder.h"
 #include "testing/GlErrors.h"
 #include "testing/Near.h"
 #include "testing/RecordingPresentation.h"
@@ -236,6 +238,20 @@ TEST_F(GameStory, HasAFunctionForEachOfItsKeys)
     pass({GLFW_KEY_F7}, 2);
     EXPECT_EQ(log.count("Linking program\n"), 2 * 16) << "every program, in every pass";
     keys->reset();
+}
+
+TEST_F(GameStory, ShowsTheSameGroundWithoutTheProgramForWhatIsFarAway)
+{
+    FrameRecorder usual, inPatches;
+    game->getRenderer().setFrameProbe(&usual);
+    game->drawPass();
+    Library::getInstance()->getShaderprogram("TerrainFar")->createProgram(); // not linked
+    game->getRenderer().setFrameProbe(&inPatches);
+    game->drawPass();
+    game->getRenderer().setFrameProbe(nullptr);
+    Library::getInstance()->loadShader("TerrainFar", "Shader/TerrainFar.shader");
+    const Picture& picture = usual.getPicture();
+    EXPECT_LT(changedShare(picture, inPatches.getPicture(), picture.whole()), 0.03) << "more than smoke that rises";
 }
 
 TEST_F(GameStory, DrawsAFrameForTheStateThatBeganItAndEndsByEscape)
