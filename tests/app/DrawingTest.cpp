@@ -1,0 +1,178 @@
+#include "render/GlDebug.h" // first: the entry points' loader goes before the window library
+
+#include "StoryGame.h"
+
+#include "app/GameStateManager.h"
+#include "assets/Library.h"
+#include "gpu/Shaderprogram.h"
+#include "render/DebugRenderer.h"
+#include "render/TextRenderer.h"
+#include "testing/CapturedLog.h"
+#include "testing/GlErrors.h"
+
+#include <GL/glew.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace {
+
+constexpr double kSmoke = 0.03; // share of a picture that the smoke changes from one drawing to the next
+
+/// What the renderer does with the world of a match in which everybody stands still.
+class Drawing : public StoryGame {
+protected:
+    Drawing()
+    {
+        Match& match = game->getMatch();
+        while (match.getActorCount() < 3) match.addComputerPlayer();
+        if (match.getPlayers().empty()) match.addPlayer(device);
+        states().changeState("PlayGamestate");
+        pass();
+    }
+
+    static Library& library() { return *Library::getInstance(); }
+    static void unlink(const std::string& name) { library().getShaderprogram(name)->createProgram(); }
+    static void reload(const std::string& name) { library().loadShader(name, "Shader/" + name + ".shader"); }
+    static double change(const Picture& before, const Picture& after)
+    {
+        return changedShare(before, after, before.whole());
+    }
+
+    /// The last text in the queue, letter by letter.
+    static std::string lastText()
+    {
+        const auto& queue = game->getRenderer().getTextRenderer()->getQueue();
+        std::string text;
+        for (std::size_t end = queue.size(); end > 0; end -= 6) {
+            const TextRenderer::vertex& corner = queue[end - 6];
+            if (end < queue.size() && std::abs(corner.x + 0.0625f - queue[end].x) > 0.01f) break;
+            const int cell = static_cast<int>(std::lround(corner.v * 16) * 16 + std::lround(corner.u * 16));
+            text.insert(text.begin(), cell == 96 ? ' ' : static_cast<char>('!' + cell));
+        }
+        return text;
+    }
+
+    static std::vector<float> lightDepth()
+    {
+        std::vector<float> depths(std::size_t{4096} * 3072);
+        glBindTexture(GL_TEXTURE_2D, game->getRenderer().getLightDepthTexture());
+        glGetTexImage(GL_TEXTURE_2D, 0, GL_DEPTH_COMPONENT, GL_FLOAT, depths.data());
+        return depths;
+    }
+
+    static inline WanderingDevice device{1};
+};
+
+TEST_F(Drawing, CountsWhatItLeavesOutAndShowsTheFrameRateOnceASecond)
+{
+    game->pass();
+    EXPECT_TRUE(lastText().starts_with("culled: "));
+    EXPECT_NE(lastText(), "culled: 0");
+    keys->hold({GLFW_KEY_F8});
+    game->pass();
+    EXPECT_EQ(lastText(), "culled: 0");
+
+    keys->reset();
+    const auto fpsAfter = [](double seconds) {
+        game->getClock().sleep(seconds);
+        game->pass();
+        return lastText().starts_with("FPS: ") ? std::stof(lastText().substr(5)) : 0;
+    };
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(fpsAfter(0.2), 0) << "not shown";
+    for (int i = 0; i < 2; ++i) fpsAfter(0.25);
+    keys->tap(GLFW_KEY_F2);
+    const float shown = fpsAfter(0.1);
+    EXPECT_GT(shown, 0);
+    for (const double seconds : {0.2, 0.2, 0.2, 0.2, 0.2}) fpsAfter(seconds);
+    EXPECT_NEAR(fpsAfter(0), 1 / 0.233, 0.1) << "computed in one of the passes before";
+    EXPECT_NEAR(fpsAfter(0), 1 / 0.233, 0.1) << "not yet again";
+    keys->tap(GLFW_KEY_F2);
+    EXPECT_EQ(fpsAfter(0), 0);
+}
+
+TEST_F(Drawing, KeepsTheShadowsOfWhatMovesUpToDate)
+{
+    for (int i = 0; i < 10; ++i) game->pass();
+    const std::vector<float> kept = lightDepth();
+    reload("ShadowDepth"); // has everything drawn anew
+    draw();
+    EXPECT_TRUE(kept == lightDepth());
+}
+
+TEST_F(Drawing, GoesOnWithoutAnyOneOfItsProgramsAndHasItBackWhenItIsMended)
+{
+    const Picture whole = draw();
+    for (const std::string name : {"Blur", "CelPostProc", "ShadowDepth", "TextShader", "Cel", "WireframeShader",
+             "ParticleMovement", "ParticleRender", "TerrainShader", "TerrainFar", "SkyboxShader"}) {
+        SCOPED_TRACE(name);
+        unlink(name);
+        CapturedLog log;
+        const Picture lacking = draw();
+        EXPECT_LT(log.count("ERROR"), 2) << log.text();
+        const bool isReplaced = name == "TerrainFar"; // by the patches
+        if (isReplaced) EXPECT_LT(change(whole, lacking), kSmoke);
+        else EXPECT_TRUE(lacking.pixels != whole.pixels);
+        reload(name);
+        EXPECT_LT(change(whole, draw()), kSmoke);
+    }
+}
+
+TEST_F(Drawing, ShowsNodesAndCamerasWhileF6IsHeldAlsoWhenTheirProgramWasBrokenAtTheStart)
+{
+    unlink("WireframeShader");
+    DebugRenderer overlay;
+    game->getRenderer().setDebugRenderer(&overlay);
+    reload("WireframeShader");
+    const Picture usual = draw();
+    keys->hold({GLFW_KEY_F6});
+    const double shown = change(usual, draw());
+    keys->reset();
+    EXPECT_GT(shown, 0.001);
+    draw(); // the key sticks
+    EXPECT_LT(change(usual, draw()), shown / 2);
+    game->getRenderer().setDebugRenderer(nullptr);
+}
+
+TEST_F(Drawing, ComesBackFromTheWireFrameAsItWas)
+{
+    const Picture solid = draw();
+    game->getRenderer().toggleWireframe();
+    EXPECT_GT(change(solid, draw()), 0.5);
+    game->getRenderer().toggleWireframe();
+    EXPECT_LT(change(solid, draw()), kSmoke);
+}
+
+TEST_F(Drawing, LogsWhatTheDriverHasToSay)
+{
+    CapturedLog log;
+    enableGlDebugOutput();
+    glDebugMessageInsert(GL_DEBUG_SOURCE_APPLICATION, GL_DEBUG_TYPE_ERROR, 7, GL_DEBUG_SEVERITY_HIGH, -1, "quack");
+    failTestsOnGlErrors();
+    EXPECT_EQ(log.text(),
+        "ERROR | OpenGL Error: quack [Source = Application, Type = Error, Severity = High, ID = 7]\n");
+}
+
+TEST_F(Drawing, TakesEveryCharacterAsAGlyph)
+{
+    const struct {
+        char character;
+        float u, v;
+    } rows[] = {
+        {'!', 0, 0},
+        {'1', 0, 0.0625f},
+        {'~', 0.8125f, 0.3125f},
+        {' ', 0, 0.375f},
+        {'\t', -0.5f, -0.0625f},
+        {'\xE4', -0.8125f, -0.1875f},
+    };
+    for (const auto& row : rows) {
+        TextRenderer text;
+        text.addText(std::string(1, row.character), 0, 0);
+        EXPECT_FLOAT_EQ(text.getQueue()[0].u, row.u) << static_cast<int>(row.character);
+        EXPECT_FLOAT_EQ(text.getQueue()[0].v, row.v) << static_cast<int>(row.character);
+    }
+}
+
+} // namespace
