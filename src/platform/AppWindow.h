@@ -25,8 +25,11 @@ public:
     bool isOpen() const;
     void swapBuffers();
 
-    /// Closes the window and the window library; harmless when nothing is open.
+    /// Closes the window and the window library, and with it the context; harmless when nothing is open.
     void terminate();
+
+    /// Whether there is an OpenGL context to call into, of whatever window.
+    static bool hasContext();
 
     /// Hides and captures the mouse cursor, or releases it.
     void captureCursor(bool captured);

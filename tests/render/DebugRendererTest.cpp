@@ -10,42 +10,51 @@ namespace {
 
 constexpr int kMarkerTriangles = 12;
 
-class DebugRendererTest : public RenderTest {
-protected:
-    DebugRendererTest() { renderer().setDebugRenderer(&overlay); }
-    ~DebugRendererTest() override { renderer().setDebugRenderer(nullptr); }
-
-    int trianglesOfAFrame()
-    {
-        GLuint query = 0, count = 0;
-        glGenQueries(1, &query);
-        glBeginQuery(GL_PRIMITIVES_GENERATED, query);
-        frame();
-        glEndQuery(GL_PRIMITIVES_GENERATED);
-        glGetQueryObjectuiv(query, GL_QUERY_RESULT, &count);
-        glDeleteQueries(1, &query);
-        return static_cast<int>(count);
-    }
-
-    DebugRenderer overlay;
-};
-
-TEST_F(DebugRendererTest, MarksNodesAndCamerasThroughThingsInEveryViewportWhileF6IsHeld)
+int trianglesOf(const std::function<void()>& drawing)
 {
-    const int cameraTriangles = static_cast<int>(Library::getInstance()->getMesh("Camera")->indices.size()) / 3;
+    GLuint query = 0, count = 0;
+    glGenQueries(1, &query);
+    glBeginQuery(GL_PRIMITIVES_GENERATED, query);
+    drawing();
+    glEndQuery(GL_PRIMITIVES_GENERATED);
+    glGetQueryObjectuiv(query, GL_QUERY_RESULT, &count);
+    glDeleteQueries(1, &query);
+    return static_cast<int>(count);
+}
+
+TEST_F(RenderTest, F6MarksNodesAndCamerasThroughThingsInEveryViewportWhileHeld)
+{
+    Library& library = *Library::getInstance();
+    library.getShaderprogram("WireframeShader")->createProgram(); // not linked
+    DebugRenderer overlay;
+    renderer().setDebugRenderer(&overlay);
     addBox(at(0, 0, 0), {0, 1, 0, 1}); // hides the root's marker
     addView({0, 0, 512, 384}, at(0, 0, 5));
     addView({512, 384, 512, 384}, at(0, 0, 5));
-    const int usual = trianglesOfAFrame();
+    const int usual = trianglesOf([this] { frame(); });
+    const int cameraTriangles = static_cast<int>(library.getMesh("Camera")->indices.size()) / 3;
     constexpr int kNodes = 4, kCameras = 2, kViews = 2;
-    for (const bool held : {true, true, false}) {
+
+    struct Row {
+        bool mended, held;
+    };
+    const Row rows[] = {
+        {false, true},
+        {true, true},
+        {true, true},
+        {true, false},
+    };
+    for (const auto& [mended, held] : rows) {
+        if (mended) library.loadShader("WireframeShader", "Shader/WireframeShader.shader");
         if (held) keys.hold({GLFW_KEY_F6});
         else keys.hold({});
-        EXPECT_EQ(trianglesOfAFrame() - usual,
-            held * kViews * (kNodes * kMarkerTriangles + kCameras * cameraTriangles));
+        const bool shown = mended && held;
+        EXPECT_EQ(trianglesOf([this] { frame(); }) - usual,
+            shown * kViews * (kNodes * kMarkerTriangles + kCameras * cameraTriangles));
         for (const glm::ivec4& pixel : {windowPixel(256, 192), windowPixel(768, 576)})
-            EXPECT_EQ(pixel != glm::ivec4(0, 255, 0, 255), held);
+            EXPECT_EQ(pixel != glm::ivec4(0, 255, 0, 255), shown);
     }
+    renderer().setDebugRenderer(nullptr);
 }
 
 } // namespace
