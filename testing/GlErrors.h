@@ -1,7 +1,8 @@
 #pragma once
 
-/// Makes every GL debug message of type error fail the running test, at the call that raised it. Needs a current debug
-/// context with its entry points loaded; replaces the callback that was there.
+/// Have the running test fail at every GL debug message of type error, at the call that raised it, and at every call
+/// that deletes an object, or leaves a program, while no context is current. Needs a current debug context with its
+/// entry points loaded; replaces the callback that was there.
 void failTestsOnGlErrors();
 
 /// While one lives, messages of the GLSL compiler fail no test: for tests that load spoiled shaders. One at a time.

@@ -8,62 +8,54 @@
 
 namespace {
 
-AppWindow window;
-bool windowOpened = false;
-GLuint framebuffer = 0;
-
-void openWindow(int side)
-{
-    if (!window.initialize() || !window.open(side, side, "test"))
-        throw std::runtime_error("no OpenGL 4.3 core context; is there a display?");
-    windowOpened = true;
-    glewExperimental = GL_TRUE;
-    if (glewInit() != GLEW_OK) throw std::runtime_error("glewInit failed");
-    failTestsOnGlErrors();
-
-    GLuint picture = 0;
-    glGenTextures(1, &picture);
-    glBindTexture(GL_TEXTURE_2D, picture);
-    glTexStorage2D(GL_TEXTURE_2D, 1, GL_RGBA8, side, side);
-    glBindTexture(GL_TEXTURE_2D, 0);
-    glGenFramebuffers(1, &framebuffer);
-    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
-    glFramebufferTexture(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, picture, 0);
-}
-
-/// Closes the window after the last test: the driver's threads must be gone before the process is.
-class CloseWindow : public testing::Environment {
+/// Closed after the last test: the driver's threads must be gone before the process is.
+class SharedWindow : public testing::Environment {
 public:
-    void TearDown() override
+    void open(int side)
     {
-        if (windowOpened) window.terminate();
+        glewExperimental = GL_TRUE;
+        if (!window.initialize() || !window.open(side, side, "test") || glewInit() != GLEW_OK)
+            throw std::runtime_error("no OpenGL 4.3 core context; is there a display?");
+        failTestsOnGlErrors();
+
+        GLuint picture = 0;
+        glGenTextures(1, &picture);
+        glBindTexture(GL_TEXTURE_2D, picture);
+        glTexStorage2D(GL_TEXTURE_2D, 1, GL_RGBA8, side, side);
+        glGenFramebuffers(1, &framebuffer);
+        glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+        glFramebufferTexture(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, picture, 0);
     }
+
+    void TearDown() override { window.terminate(); }
+
+    GLuint framebuffer = 0; ///< around the picture; 0 until the window is open
+
+private:
+    AppWindow window;
 };
 
-[[maybe_unused]] const testing::Environment* const closeWindow = testing::AddGlobalTestEnvironment(new CloseWindow);
+SharedWindow& shared = static_cast<SharedWindow&>(*testing::AddGlobalTestEnvironment(new SharedWindow));
 
 } // namespace
 
 GlTest::GlTest()
 {
-    if (!windowOpened) openWindow(kSide);
+    if (shared.framebuffer == 0) shared.open(kSide);
     Shaderprogram::unuse();
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, 0);
-    glBindVertexArray(0);
-    glDisable(GL_DEPTH_TEST);
     glDisable(GL_CULL_FACE);
-    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+    glBindFramebuffer(GL_FRAMEBUFFER, shared.framebuffer);
     glViewport(0, 0, kSide, kSide);
-    glClearColor(0, 0, 0, 0);
     glClear(GL_COLOR_BUFFER_BIT);
 }
 
 glm::ivec4 GlTest::pixelAt(int x, int y)
 {
-    unsigned char pixel[4] = {};
-    glReadPixels(x, y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, pixel);
-    return {pixel[0], pixel[1], pixel[2], pixel[3]};
+    glm::u8vec4 pixel(0);
+    glReadPixels(x, y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, &pixel);
+    return pixel;
 }
 
 GLint GlTest::integer(GLenum what)

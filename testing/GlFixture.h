@@ -7,21 +7,20 @@
 #include <vector>
 
 /// A test with a real OpenGL 4.3 core debug context; any GL error fails it. All tests of a program share one window,
-/// which the first opens. Each starts with no program and no buffer bound, drawing into an off-screen picture of kSide
-/// x kSide pixels, cleared black, with depth test and face culling off.
+/// which the first opens. Each starts with no program in use, drawing into an off-screen picture of kSide x kSide
+/// pixels, cleared to zeros, with face culling off.
 class GlTest : public testing::Test {
 protected:
     static constexpr int kSide = 64; // pixels
 
     GlTest();
 
-    /// A pixel of the picture, each component 0 to 255; (0, 0) is at the lower left.
+    /// Return a pixel of the picture, each component 0 to 255; (0, 0) is at the lower left.
     static glm::ivec4 pixelAt(int x, int y);
 
-    /// What glGetIntegerv says.
-    static GLint integer(GLenum what);
+    static GLint integer(GLenum what); ///< what glGetIntegerv says
 
-    /// The whole of a buffer object.
+    /// Return the whole of a buffer object.
     template <class T>
     static std::vector<T> contentOf(GLuint buffer)
     {

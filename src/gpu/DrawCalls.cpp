@@ -1,5 +1,6 @@
 #include "gpu/DrawCalls.h"
 
+#include "gpu/GlObject.h"
 #include "gpu/IndexBuffer.h"
 #include "gpu/Shaderprogram.h"
 #include "gpu/VertexBuffer.h"
@@ -43,5 +44,5 @@ void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, 
 
 void deleteVertexArray(GLuint vao)
 {
-    glDeleteVertexArrays(1, &vao);
+    const GlObject owner(GlKind::VertexArray, vao);
 }

@@ -7,21 +7,21 @@
 class IndexBuffer;
 class VertexBuffer;
 
-// What modules below the renderer need of GL to draw. Nothing here needs more than a current context.
+// What modules below the renderer need of GL to draw. Drawing needs a current context and no more.
 
-/// Whether a draw in this mode would be valid now: a usable program is current and takes the mode. For callers that
-/// issue their own draw.
+/// Return whether a draw in this mode would be valid now: a usable program is current and takes the mode. For callers
+/// that issue their own draw.
 bool isReadyToDraw(GLenum mode);
 
-/// Draws with the current program: binds the vertex array, draws the whole index buffer (glDrawElements) or, when that
-/// is null, every vertex of the vertex buffer (glDrawArrays), and binds no vertex array. Draws nothing unless
+/// Draw with the current program: bind the vertex array, draw the whole index buffer (glDrawElements) or, when that is
+/// null, every vertex of the vertex buffer (glDrawArrays), and bind no vertex array. Draw nothing unless
 /// isReadyToDraw(mode), when vao is 0 or when both buffers are null.
 void drawVertexArray(GLuint vao, GLenum mode, const VertexBuffer* vertices, const IndexBuffer* indices);
 
-/// Draws stretches of the index buffer only, in one call (glMultiDrawElements): firsts and counts in indices. Otherwise
+/// Draw stretches of the index buffer only, in one call (glMultiDrawElements): firsts and counts in indices. Otherwise
 /// the same.
 void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, const std::vector<GLsizei>& counts,
     const std::vector<unsigned>& firsts);
 
-/// Deletes a vertex array object; 0 is ignored.
+/// Delete a vertex array object; do nothing for 0, or when its context has gone.
 void deleteVertexArray(GLuint vao);

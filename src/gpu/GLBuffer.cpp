@@ -2,16 +2,6 @@
 
 #include <utility>
 
-GLBuffer::GLBuffer(GLenum bufferTarget) : target(bufferTarget)
-{
-    glGenBuffers(1, &buffer);
-}
-
-GLBuffer::~GLBuffer()
-{
-    glDeleteBuffers(1, &buffer);
-}
-
 void GLBuffer::bind() const
 {
     glBindBuffer(target, buffer);

@@ -1,27 +1,25 @@
 #pragma once
 
-#include <GL/glew.h>
+#include "gpu/GlObject.h"
 
 #include <cstddef>
 
-/// A GL buffer object (glGenBuffers), tied to one target. Needs a current context from construction to destruction.
+/// A GL buffer object, tied to one target and owned by whoever fills it.
 class GLBuffer {
 public:
-    explicit GLBuffer(GLenum bufferTarget);
-    virtual ~GLBuffer();
-    GLBuffer(const GLBuffer&) = delete;
-    GLBuffer& operator=(const GLBuffer&) = delete;
+    explicit GLBuffer(GLenum bufferTarget) : target(bufferTarget) {}
+    virtual ~GLBuffer() = default;
 
     void bind() const;
     void unbind() const;
 
-    /// Makes the buffer the source of a binding point of the bound vertex array; offset and stride in bytes.
+    /// Make the buffer the source of a binding point of the bound vertex array; offset and stride in bytes.
     void bindVertexBuffer(GLuint bindingIndex, GLintptr offset, GLsizei stride) const;
 
-    /// Makes the buffer the destination of transform feedback under that index (glBindBufferBase).
+    /// Make the buffer the destination of transform feedback under that index (glBindBufferBase).
     void bindFeedback(GLuint index) const;
 
-    /// Replaces the content by `count` elements; null data leaves it undefined. Leaves the target unbound.
+    /// Replace the content by `count` elements; null data leaves it undefined. Leave the target unbound.
     template <class T>
     void setData(std::size_t count, const T* data, GLenum usage)
     {
@@ -31,7 +29,7 @@ public:
 
     int getElementSize() const { return elementSize; } ///< bytes; 0 before the first setData()
 
-    /// Exchanges the storage of two buffers, so that each names what the other one held.
+    /// Exchange the storage of two buffers, so that each names what the other one held.
     void swapStorage(GLBuffer& other) noexcept;
 
     GLuint getHandle() const { return buffer; }
@@ -42,5 +40,5 @@ protected:
 private:
     int elementSize = 0;
     GLenum target;
-    GLuint buffer = 0;
+    GlObject buffer{GlKind::Buffer};
 };

@@ -18,7 +18,7 @@ protected:
 
 /// The value of a sampler uniform.
 struct TextureUniform {
-    Texture* texture = nullptr; ///< null binds no texture
+    Texture* texture = nullptr; ///< null for none
     int unit = 0;               ///< texture unit, 0 for GL_TEXTURE0
 };
 

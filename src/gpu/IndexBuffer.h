@@ -7,7 +7,7 @@ class IndexBuffer : public GLBuffer {
 public:
     IndexBuffer() : GLBuffer(GL_ELEMENT_ARRAY_BUFFER) {}
 
-    /// Stores the indices. flipWinding first swaps the last two of every whole triangle, in the caller's array.
+    /// Store the indices. flipWinding first swaps the last two of every whole triangle, in the caller's array.
     void setIndices(unsigned newCount, unsigned short* indices, bool flipWinding);
 
     unsigned getCount() const { return count; } ///< 0 until indices are set

@@ -2,7 +2,7 @@
 
 #include "base/Logger.h"
 
-Shader::Shader(GLenum type, const std::string& source) : handle(glCreateShader(type))
+Shader::Shader(GLenum type, const std::string& source) : handle(GlKind::Shader, glCreateShader(type))
 {
     logLine(2) << "Compile Shader ..." << std::endl;
     const char* text = source.c_str();
@@ -11,11 +11,6 @@ Shader::Shader(GLenum type, const std::string& source) : handle(glCreateShader(t
 
     const std::string messages = printShaderError(handle);
     if (!messages.empty() && messages[0] != '\0') logLine(2) << messages.c_str() << std::endl;
-}
-
-Shader::~Shader()
-{
-    glDeleteShader(handle);
 }
 
 bool Shader::isCompiled() const

@@ -15,34 +15,17 @@ namespace {
 const Shaderprogram* programInUse = nullptr;
 std::string visitedName; // the uniform that a visit of a UniformVariant sets
 
-GLboolean glBoolean(bool value)
-{
-    return value ? GL_TRUE : GL_FALSE;
-}
-
 } // namespace
-
-Shaderprogram::Shaderprogram()
-{
-    createProgram();
-}
 
 Shaderprogram::~Shaderprogram()
 {
-    deleteProgram();
+    if (programInUse == this) programInUse = nullptr; // without a GL call: the context may have gone
 }
 
 void Shaderprogram::createProgram()
 {
-    deleteProgram();
-    handle = glCreateProgram();
-}
-
-void Shaderprogram::deleteProgram()
-{
     if (programInUse == this) unuse();
-    glDeleteProgram(handle);
-    handle = 0;
+    handle = GlObject(GlKind::Program);
     usable = false;
 }
 
@@ -172,17 +155,22 @@ void Shaderprogram::setUniform(const std::string& name, const glm::vec4& value) 
 
 void Shaderprogram::setUniform(const std::string& name, const glm::mat3& value, bool transpose, int count) const
 {
-    if (canSet()) glUniformMatrix3fv(uniformLocation(name), count, glBoolean(transpose), glm::value_ptr(value));
+    if (canSet()) glUniformMatrix3fv(uniformLocation(name), count, transpose, glm::value_ptr(value));
 }
 
 void Shaderprogram::setUniform(const std::string& name, const glm::mat4& value, bool transpose, int count) const
 {
-    if (canSet()) glUniformMatrix4fv(uniformLocation(name), count, glBoolean(transpose), glm::value_ptr(value));
+    if (canSet()) glUniformMatrix4fv(uniformLocation(name), count, transpose, glm::value_ptr(value));
 }
 
 void Shaderprogram::setUniform(const std::string& name, const Texture* texture, int unit) const
 {
     setSampler(name, texture ? texture->getHandle() : 0, unit);
+}
+
+void Shaderprogram::setUniform(const std::string& name, const TextureUniform& value) const
+{
+    setUniform(name, value.texture, value.unit);
 }
 
 void Shaderprogram::setSampler(const std::string& name, GLuint textureName, int unit) const
@@ -194,30 +182,14 @@ void Shaderprogram::setSampler(const std::string& name, GLuint textureName, int 
     glUniform1i(location, unit);
 }
 
+template <class T>
+void Shaderprogram::operator()(IUniform<T>* uniform) const
+{
+    if (uniform) setUniform(visitedName, uniform->get());
+}
+
 void Shaderprogram::setUniform(const std::string& name, const UniformVariant& uniform) const
 {
     visitedName = name;
     boost::apply_visitor(*this, uniform);
-}
-
-void Shaderprogram::operator()(IUniform<glm::mat4>* uniform) const
-{
-    if (uniform) setUniform(visitedName, uniform->get());
-}
-
-void Shaderprogram::operator()(IUniform<glm::mat3>* uniform) const
-{
-    if (uniform) setUniform(visitedName, uniform->get());
-}
-
-void Shaderprogram::operator()(IUniform<glm::vec4>* uniform) const
-{
-    if (uniform) setUniform(visitedName, uniform->get());
-}
-
-void Shaderprogram::operator()(IUniform<TextureUniform>* uniform) const
-{
-    if (!uniform) return;
-    const TextureUniform value = uniform->get();
-    setUniform(visitedName, value.texture, value.unit);
 }

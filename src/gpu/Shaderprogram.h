@@ -1,9 +1,9 @@
 #pragma once
 
 #include "base/ILibraryObject.h"
+#include "gpu/GlObject.h"
 #include "gpu/IUniform.h"
 
-#include <GL/glew.h>
 #include <boost/variant/static_visitor.hpp>
 #include <glm/glm.hpp>
 
@@ -21,47 +21,43 @@ class Texture;
 /// wrappers skip. All programs are made current through this class, which therefore knows the current one.
 class Shaderprogram final : public ILibraryObject, public boost::static_visitor<void> {
 public:
-    Shaderprogram(); ///< with an empty GL program object
+    Shaderprogram() = default; ///< with an empty GL program object
     ~Shaderprogram();
-    Shaderprogram(const Shaderprogram&) = delete;
-    Shaderprogram& operator=(const Shaderprogram&) = delete;
 
-    /// Puts a fresh, empty program object in place of the old one, which is deleted.
+    /// Put a fresh, empty program object in place of the old one, which is deleted.
     void createProgram();
 
     void attachShader(Shader* shader);
 
-    /// Links, and prints the linker's report to standard output (not to the log). A program that does not link gives
-    /// one log line at level 0. Ends the process when there is no program object at all.
+    /// Link, and print the linker's report to standard output (not to the log). A program that does not link gives one
+    /// log line at level 0. End the process when there is no program object at all.
     void link();
 
-    /// What the log lines call this program: the file that it comes from.
+    /// Tell what the log lines call this program: the file that it comes from.
     void setSource(const std::string& path) { source = path; }
 
-    /// Names the outputs that transform feedback records, interleaved, from the next link() on, reloads included.
+    /// Name the outputs that transform feedback records, interleaved, from the next link() on, reloads included.
     void setFeedbackOutputs(const std::vector<std::string>& outputs) { feedbackOutputs = outputs; }
 
-    /// True from a successful link() until the next createProgram().
-    bool isUsable() const { return usable; }
+    bool isUsable() const { return usable; } ///< true from a successful link() until the next createProgram()
 
-    /// How many times it was linked: tells a reloaded program from the one before, which the GL may have given the same
-    /// name.
+    /// Return how many times it was linked: tells a reloaded program from the one before, which the GL may have given
+    /// the same name.
     unsigned getLinkCount() const { return linkCount; }
 
-    void use() const;    ///< makes this the current program, or none when it is not usable
-    static void unuse(); ///< makes no program current
+    void use() const;    ///< make this the current program, or none when it is not usable
+    static void unuse(); ///< make no program current
 
-    /// The program made current by use(); null when there is none.
-    static const Shaderprogram* current();
+    static const Shaderprogram* current(); ///< the program made current by use(); null when there is none
 
-    /// Whether a draw in this mode is valid with this program: GL_PATCHES with tessellation stages, any other mode
-    /// without. The first refusal after a link is logged at level 0.
+    /// Return whether a draw in this mode is valid with this program: GL_PATCHES with tessellation stages, any other
+    /// mode without. The first refusal after a link is logged at level 0.
     bool acceptsMode(GLenum mode) const;
 
     GLuint getHandle() const { return handle; }
 
-    /// The location of a vertex attribute. -1, with a log line at level 1, when the program has no active attribute of
-    /// that name; -1 without one when the program is not usable.
+    /// Return the location of a vertex attribute. -1, with a log line at level 1, when the program has no active
+    /// attribute of that name; -1 without one when the program is not usable.
     GLint getAttribLocation(const std::string& name) const;
 
     // Each setter takes the location of the name in this program and writes to the current program, which is this one
@@ -73,31 +69,29 @@ public:
     void setUniform(const std::string& name, const glm::mat3& value, bool transpose = false, int count = 1) const;
     void setUniform(const std::string& name, const glm::mat4& value, bool transpose = false, int count = 1) const;
 
-    /// Binds the texture to a texture unit, which stays active, and points the sampler at it. A null texture unbinds
-    /// the unit's.
+    /// Bind the texture to a texture unit, which stays active, and point the sampler at it. A null texture unbinds the
+    /// unit's.
     void setUniform(const std::string& name, const Texture* texture, int unit) const;
 
-    /// The same for a texture object that is not an image of the library, by its GL name (0 for none).
+    /// Do the same for a texture object that is not an image of the library, by its GL name (0 for none).
     void setSampler(const std::string& name, GLuint textureName, int unit) const;
 
-    /// Fetches the source's current value and sets it. A variant that holds a null source sets nothing. Not reentrant.
+    /// Fetch the source's current value and set it. A variant that holds a null source sets nothing. Not reentrant.
     void setUniform(const std::string& name, const UniformVariant& uniform) const;
 
-    // The visits of a UniformVariant, for setUniform() only.
-    void operator()(IUniform<glm::mat4>* uniform) const;
-    void operator()(IUniform<glm::mat3>* uniform) const;
-    void operator()(IUniform<glm::vec4>* uniform) const;
-    void operator()(IUniform<TextureUniform>* uniform) const;
+    /// Visit a UniformVariant, for setUniform() only.
+    template <class T>
+    void operator()(IUniform<T>* uniform) const;
 
 private:
-    void deleteProgram();
+    void setUniform(const std::string& name, const TextureUniform& value) const;
     void declareFeedbackOutputs() const;
     std::string infoLog() const;
     bool hasTessellation() const;
     bool canSet() const;
     GLint uniformLocation(const std::string& name) const;
 
-    GLuint handle = 0;
+    GlObject handle{GlKind::Program};
     bool usable = false;
     bool tessellates = false;
     unsigned linkCount = 0;

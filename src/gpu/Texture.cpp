@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Repeats the grey component of pictures that have only that, so that every picture has three or four components.
+/// Repeat the grey component of pictures that have only that, so that every picture has three or four components.
 Image withColour(const Image& image)
 {
     if (image.channels >= 3) return image;
@@ -26,7 +26,7 @@ int largestSide()
     return side;
 }
 
-/// The picture as it is uploaded; nothing, with one log line, when the file does not yield one.
+/// Return the picture as it is uploaded; nothing, with one log line, when the file does not yield one.
 std::optional<Image> readImage(const std::string& path)
 {
     std::string error;
@@ -42,17 +42,29 @@ std::optional<Image> readImage(const std::string& path)
     return resampledToPowersOfTwo(withColour(*image));
 }
 
-} // namespace
-
-Texture::~Texture()
+/// Upload the whole chain of mipmaps to the bound texture, each half as large as the one before, as glGenerateMipmap
+/// would make it. That call has a software driver compile a program for each format first, which takes longer than
+/// loading everything else.
+void upload(const Image& image)
 {
-    glDeleteTextures(1, &handle);
+    const GLenum format = image.channels == 4 ? GL_RGBA : GL_RGB;
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    Image half;
+    const Image* next = &image;
+    for (GLint level = 0;; ++level) {
+        glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(format), next->width, next->height, 0, format,
+            GL_UNSIGNED_BYTE, next->pixels.data());
+        if (next->width == 1 && next->height == 1) return;
+        half = halved(*next);
+        next = &half;
+    }
 }
+
+} // namespace
 
 void Texture::generate()
 {
-    glDeleteTextures(1, &handle);
-    glGenTextures(1, &handle);
+    handle = GlObject(GlKind::Texture);
 }
 
 void Texture::bind() const
@@ -78,27 +90,10 @@ void Texture::load(const std::string& path)
     const std::optional<Image> image = readImage(path);
     generate();
     bind();
-    if (image) uploadImage(*image);
+    if (image) upload(*image);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_REPEAT);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_REPEAT);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
     unbind();
-}
-
-/// The whole chain of mipmaps, each half as large as the one before, as glGenerateMipmap would make it. That call has a
-/// software driver compile a program for each format first, which takes longer than loading everything else.
-void Texture::uploadImage(const Image& image)
-{
-    const GLenum format = image.channels == 4 ? GL_RGBA : GL_RGB;
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    Image half;
-    const Image* next = &image;
-    for (GLint level = 0;; ++level) {
-        glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(format), next->width, next->height, 0, format,
-            GL_UNSIGNED_BYTE, next->pixels.data());
-        if (next->width == 1 && next->height == 1) return;
-        half = halved(*next);
-        next = &half;
-    }
 }

@@ -1,22 +1,16 @@
 #pragma once
 
 #include "base/ILibraryObject.h"
-
-#include <GL/glew.h>
+#include "gpu/GlObject.h"
 
 #include <string>
-
-struct Image;
 
 /// A two-dimensional GL texture, read from a TGA file. Owned by the asset library; everybody else borrows it.
 class Texture : public ILibraryObject {
 public:
-    Texture() = default; ///< without a texture object
-    virtual ~Texture();
-    Texture(const Texture&) = delete;
-    Texture& operator=(const Texture&) = delete;
+    virtual ~Texture() = default;
 
-    /// Puts a fresh texture object in place of the old one, which is deleted.
+    /// Put a fresh texture object in place of the old one, which is deleted.
     void generate();
 
     void bind() const; ///< on the active unit
@@ -25,13 +19,11 @@ public:
 
     void setFilter(GLint magFilter, GLint minFilter);
 
-    /// Reads a file into a fresh texture object: sides raised to powers of two, repeating, trilinear, with mipmaps. A
+    /// Read a file into a fresh texture object: sides raised to powers of two, repeating, trilinear, with mipmaps. A
     /// file that is missing or broken gives one log line at level 0 and leaves the object without an image, which
     /// samples as black.
     void load(const std::string& path);
 
 private:
-    void uploadImage(const Image& image);
-
-    GLuint handle = 0;
+    GlObject handle;
 };

@@ -26,22 +26,21 @@ struct VertexAttribute {
 /// and outlives the buffers.
 class VertexAttributeList {
 public:
-    /// A name that is already there keeps its first type.
+    /// Add an attribute; a name that is already there keeps its first type.
     void addAttribute(const VertexAttribute& attribute);
 
-    /// Bytes; 0, with a log line at level 1, for a name that is not in the list.
+    /// Return the bytes of one value; 0, with a log line at level 1, for a name that is not in the list.
     unsigned getAttributeByteSize(const std::string& name) const;
 
-    /// Bytes from the start of the vertex; the whole stride for a name that is not in the list.
+    /// Return the bytes from the start of the vertex; the whole stride for a name that is not in the list.
     unsigned getAttributeOffset(const std::string& name) const;
 
-    /// Bytes of one vertex.
-    unsigned getStride() const;
+    unsigned getStride() const; ///< bytes of one vertex
 
-    /// A new vertex array object that feeds the buffer to the program's attributes, by the separate vertex format
+    /// Return a new vertex array object that feeds the buffer to the program's attributes, by the separate vertex format
     /// (binding point 0). An attribute that the program lacks is reported at level 1 and left out. The caller deletes
-    /// it with deleteVertexArray(). 0, which the draw wrappers skip, when the program or the buffer is null or the
-    /// program is not usable.
+    /// it with deleteVertexArray(). Return 0, which the draw wrappers skip, when the program or the buffer is null or
+    /// the program is not usable.
     GLuint createVAO(const Shaderprogram* program, const VertexBuffer* buffer) const;
 
 private:

@@ -7,8 +7,8 @@
 
 class VertexAttributeList;
 
-/// An array of interleaved vertices. setAttributeData() for each attribute, then upload(); the layout is borrowed, may
-/// be shared, and must be complete before.
+/// An array of interleaved vertices, owned with the model or mesh that it draws. setAttributeData() for each attribute,
+/// then upload(); the layout is borrowed, may be shared, and must be complete before.
 class VertexBuffer : public GLBuffer {
 public:
     VertexBuffer(const VertexAttributeList* vertexLayout, unsigned count);
@@ -17,11 +17,11 @@ public:
     unsigned getVertexCount() const { return vertexCount; }
     unsigned getStride() const { return stride; } ///< bytes of one vertex
 
-    /// Copies one attribute of every vertex, tightly packed in `data`, into the staging array. Attributes never written
+    /// Copy one attribute of every vertex, tightly packed in `data`, into the staging array. Attributes never written
     /// stay zero.
     void setAttributeData(const std::string& name, const void* data);
 
-    /// Sends the staged vertices to the GPU and empties the staging array.
+    /// Send the staged vertices to the GPU and empties the staging array.
     void upload(GLenum usage);
 
 private:

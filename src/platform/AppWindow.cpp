@@ -61,6 +61,11 @@ void AppWindow::terminate()
     glfwTerminate();
 }
 
+bool AppWindow::hasContext()
+{
+    return glfwGetCurrentContext() != nullptr;
+}
+
 void AppWindow::captureCursor(bool captured)
 {
     if (window) glfwSetInputMode(window, GLFW_CURSOR, captured ? GLFW_CURSOR_DISABLED : GLFW_CURSOR_NORMAL);

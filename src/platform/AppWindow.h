@@ -25,8 +25,11 @@ public:
     bool isOpen() const;
     void swapBuffers(); ///< shows the picture drawn, and takes in the events that came meanwhile
 
-    /// Close the window and the window library; harmless when nothing is open.
+    /// Close the window and the window library, and with it the context; harmless when nothing is open.
     void terminate();
+
+    /// Return whether there is an OpenGL context to call into, of whatever window.
+    static bool hasContext();
 
     /// Hide and capture the mouse cursor, or release it.
     void captureCursor(bool captured);

@@ -1,7 +1,6 @@
 #include "render/DebugRenderer.h"
 
 #include "assets/Library.h"
-#include "assets/MeshGeometry.h"
 #include "gpu/DrawCalls.h"
 #include "gpu/Shaderprogram.h"
 #include "scene/Camera.h"
@@ -14,6 +13,7 @@
 
 namespace {
 
+constexpr const char* kProgram = "WireframeShader";
 constexpr float kMarkerHalfEdge = 0.15f; // world units
 
 template <class T>
@@ -25,7 +25,7 @@ void removeFirst(std::vector<T>& sequence, const T& value)
 
 } // namespace
 
-DebugRenderer::DebugRenderer() : program(Library::getInstance()->getShaderprogram("WireframeShader"))
+DebugRenderer::DebugRenderer() : program(Library::getInstance()->getShaderprogram(kProgram))
 {
     Mesh box;
     createBox(box, glm::vec3(-kMarkerHalfEdge), glm::vec3(kMarkerHalfEdge));
@@ -33,16 +33,10 @@ DebugRenderer::DebugRenderer() : program(Library::getInstance()->getShaderprogra
     cameraModel = makeShape(Library::getInstance()->getMesh("Camera"));
 }
 
-DebugRenderer::~DebugRenderer() = default;
-
-DebugRenderer::Shape DebugRenderer::makeShape(const Mesh* mesh) const
+DebugRenderer::Shape DebugRenderer::makeShape(const Mesh* mesh)
 {
-    Shape shape;
-    if (!mesh) return shape;
-    shape.geometry =
-        std::make_unique<MeshGeometry>(*mesh, std::initializer_list<MeshAttribute>{MeshAttribute::Position});
-    shape.vertexArray = shape.geometry->layout.createVAO(program, &shape.geometry->vertices);
-    return shape;
+    const auto attributes = {MeshAttribute::Position};
+    return {mesh ? std::make_unique<MeshGeometry>(*mesh, attributes) : nullptr, {}};
 }
 
 void DebugRenderer::visitCamera(Camera* camera)
@@ -67,6 +61,7 @@ void DebugRenderer::releaseNode(Node* node)
 
 void DebugRenderer::render(Camera* camera)
 {
+    if (!program) program = Library::getInstance()->getShaderprogram(kProgram, false);
     glDisable(GL_DEPTH_TEST);
     glEnable(GL_BLEND);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
@@ -83,14 +78,17 @@ void DebugRenderer::render(Camera* camera)
     cameraPoses.clear();
 }
 
-void DebugRenderer::drawAll(const Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const
+void DebugRenderer::drawAll(Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const
 {
     if (!program || !shape.geometry) return;
+    const MeshGeometry& geometry = *shape.geometry;
+    if (!shape.vertexArray)
+        shape.vertexArray = GlObject(GlKind::VertexArray, geometry.layout.createVAO(program, &geometry.vertices));
     program->use();
     program->setUniform("view", camera.getView());
     program->setUniform("projection", camera.getProjection());
     for (const glm::mat4& pose : poses) {
         program->setUniform("model", pose);
-        drawVertexArray(shape.vertexArray, GL_TRIANGLES, &shape.geometry->vertices, &shape.geometry->indices);
+        drawVertexArray(shape.vertexArray, GL_TRIANGLES, &geometry.vertices, &geometry.indices);
     }
 }

@@ -1,24 +1,23 @@
 #pragma once
 
+#include "assets/MeshGeometry.h"
+#include "gpu/GlObject.h"
 #include "scene/INodeVisitor.h"
 
-#include <GL/glew.h>
 #include <glm/glm.hpp>
 
 #include <memory>
 #include <vector>
 
 class Mesh;
-class MeshGeometry;
 class Shaderprogram;
 
 /// Overlays the scene's structure: a marker box at the origin of every node and the camera model at the pose of every
 /// camera, without depth testing. Created by the application once meshes and shaders are loaded; the renderer walks the
-/// scene with it before each render().
+/// scene with it before each render(). What failed to load is left out, a program until it is loaded anew.
 class DebugRenderer final : public INodeVisitor {
 public:
     DebugRenderer();
-    ~DebugRenderer();
 
     void visitModel(Model*) override {}
     void visitCamera(Camera* camera) override;
@@ -29,18 +28,18 @@ public:
     void releaseAttachable(Attachable*) override {}
     void releaseNode(Node* node) override;
 
-    /// Draws what the walk collected and forgets it. Leaves blending off and depth testing on.
+    /// Draw what the walk collected and forget it. Leave blending off and depth testing on.
     void render(Camera* camera);
 
 private:
-    /// One of the two shapes; empty when its mesh failed to load.
+    /// One of the two shapes.
     struct Shape {
-        std::unique_ptr<MeshGeometry> geometry;
-        GLuint vertexArray = 0;
+        std::unique_ptr<MeshGeometry> geometry; ///< null when its mesh failed to load
+        GlObject vertexArray;                   ///< empty until there is a usable program
     };
 
-    Shape makeShape(const Mesh* mesh) const;
-    void drawAll(const Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const;
+    static Shape makeShape(const Mesh* mesh);
+    void drawAll(Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const;
 
     std::vector<glm::vec3> nodePositions;
     std::vector<glm::mat4> cameraPoses;

@@ -15,7 +15,6 @@ void checkComplete()
 
 Framebuffer::Framebuffer(const TargetTexture* colour, const TargetTexture* depth)
 {
-    glGenFramebuffers(1, &name);
     bind();
     if (depth) glFramebufferTexture(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, depth->getHandle(), 0);
     if (colour) {
@@ -26,9 +25,4 @@ Framebuffer::Framebuffer(const TargetTexture* colour, const TargetTexture* depth
     }
     checkComplete();
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
-}
-
-Framebuffer::~Framebuffer()
-{
-    if (name) glDeleteFramebuffers(1, &name);
 }

@@ -3,14 +3,12 @@
 #include "gpu/DrawCalls.h"
 #include "gpu/Shaderprogram.h"
 
+#include <iterator>
+
 FullScreenQuad::FullScreenQuad()
 {
-    constexpr GLfloat kCorners[8] = {-1, -1, -1, 1, 1, -1, 1, 1};
-    glGenBuffers(1, &buffer);
-    glBindBuffer(GL_ARRAY_BUFFER, buffer);
-    glBufferData(GL_ARRAY_BUFFER, sizeof kCorners, kCorners, GL_STATIC_DRAW);
-    glBindBuffer(GL_ARRAY_BUFFER, 0);
-    glGenVertexArrays(1, &vertexArray);
+    constexpr GLfloat kCorners[] = {-1, -1, -1, 1, 1, -1, 1, 1};
+    buffer.setData(std::size(kCorners), kCorners, GL_STATIC_DRAW);
 }
 
 void FullScreenQuad::draw(Shaderprogram& program) const
@@ -20,7 +18,7 @@ void FullScreenQuad::draw(Shaderprogram& program) const
     const GLuint attribute = static_cast<GLuint>(location);
     glBindVertexArray(vertexArray);
     glEnableVertexAttribArray(attribute);
-    glBindBuffer(GL_ARRAY_BUFFER, buffer);
+    buffer.bind();
     glVertexAttribPointer(attribute, 2, GL_FLOAT, GL_FALSE, 0, nullptr);
     glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
     glDisableVertexAttribArray(attribute);

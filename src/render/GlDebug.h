@@ -2,10 +2,10 @@
 
 #include <GL/glew.h>
 
-/// Logs an OpenGL debug message as one line at level 0, whatever its severity. The driver calls it on the rendering
+/// Log an OpenGL debug message as one line at level 0, whatever its severity. The driver calls this on the rendering
 /// thread, inside the offending call.
 void GLAPIENTRY onGlDebugMessage(GLenum source, GLenum type, GLuint id, GLenum severity, GLsizei length,
     const GLchar* message, const void* user);
 
-/// Registers the callback at whichever entry point the driver has and makes messages synchronous.
+/// Register the callback at whichever entry point the driver has and make messages synchronous.
 void enableGlDebugOutput();

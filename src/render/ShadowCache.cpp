@@ -14,7 +14,7 @@ namespace {
 
 constexpr float kMarginTexels = 2; // around what a caster covers, for rounding
 
-/// Changes with every reload of the program; 0 when there is none to draw with.
+/// Return a number that changes with every reload of the program; 0 when there is none to draw with.
 unsigned depthProgramVersion()
 {
     const Shaderprogram* program = Library::getInstance()->getShaderprogram("ShadowDepth", false);
@@ -48,7 +48,7 @@ void ShadowCache::draw(const ShadowMappingRender& shadows)
     ShadowMappingRender::draw(moving);
 }
 
-/// One rectangle a model; a single one once a model covers nobody knows what.
+/// Return one rectangle a model, or the whole texture when the bounds of any are unknown.
 std::vector<ShadowCache::Rect> ShadowCache::coveredBy(const std::vector<Model*>& models) const
 {
     std::vector<Rect> rects;

@@ -17,19 +17,19 @@ class ShadowMappingRender;
 /// Owned by the renderer. draw() once a frame, after the scene update and the shadow visitor's walk.
 class ShadowCache {
 public:
-    /// Both texture and framebuffer are borrowed.
+    /// Borrow both texture and framebuffer.
     ShadowCache(const TargetTexture& lightDepthTexture, const Framebuffer& lightFramebuffer);
 
-    /// Leaves the light's framebuffer bound, with viewport and scissor box over all of it.
+    /// Fill the texture. Leave the light's framebuffer bound, with viewport and scissor box over all of it.
     void draw(const ShadowMappingRender& shadows);
 
-    /// Has the next draw() start anew: something else drew into the light depth texture.
+    /// Have the next draw() start anew: something else drew into the light depth texture.
     void invalidate() { valid = false; }
 
 private:
     struct Rect {
-        int x = 0, y = 0, width = 0, height = 0;
-    }; ///< texels
+        int x = 0, y = 0, width = 0, height = 0; ///< texels
+    };
 
     /// What a static caster looked like when it was drawn.
     struct Snapshot {

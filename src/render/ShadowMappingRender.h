@@ -10,13 +10,11 @@ class Model;
 /// with it before each frame: the walk only adds models, releaseModel withdraws one.
 class ShadowMappingRender final : public ModelRegistry {
 public:
-    /// Draws every caster of the registry, as triangles whatever its primitive type, into the framebuffer and viewport
+    /// Draw every caster of the registry, as triangles whatever its primitive type, into the framebuffer and viewport
     /// that are set.
     void render();
 
-    /// The registered models that cast shadows, in registry order.
-    std::vector<Model*> casters() const;
+    std::vector<Model*> casters() const; ///< the registered models that cast shadows, in registry order
 
-    /// Draws these casters only, likewise.
-    static void draw(const std::vector<Model*>& models);
+    static void draw(const std::vector<Model*>& models); ///< draw these casters only, likewise
 };

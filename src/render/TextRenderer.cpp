@@ -27,16 +27,14 @@ Cell cellOf(char character)
 
 TextRenderer::TextRenderer()
 {
-    glGenVertexArrays(1, &vertexArray);
-    glGenBuffers(1, &vertexBuffer);
     glBindVertexArray(vertexArray);
-    glBindBuffer(GL_ARRAY_BUFFER, vertexBuffer);
+    vertexBuffer.bind();
     glEnableVertexAttribArray(0);
     glVertexAttribPointer(0, 2, GL_FLOAT, GL_FALSE, sizeof(vertex), nullptr);
     glEnableVertexAttribArray(1);
     glVertexAttribPointer(1, 2, GL_FLOAT, GL_FALSE, sizeof(vertex), reinterpret_cast<const void*>(offsetof(vertex, u)));
     glBindVertexArray(0);
-    glBindBuffer(GL_ARRAY_BUFFER, 0);
+    vertexBuffer.unbind();
 }
 
 void TextRenderer::addText(const std::string& text, double x, double y)
@@ -48,13 +46,16 @@ void TextRenderer::addText(const std::string& text, double x, double y)
         const auto [u, v] = cellOf(text[k]);
         const float u1 = u + kGlyph, v1 = v + kGlyph;
         queue.insert(queue.end(),
-            {{left, top, u, v}, {right, bottom, u1, v1}, {left, bottom, u, v1}, {left, top, u, v}, {right, top, u1, v},
-                {right, bottom, u1, v1}});
+            {
+                {left, top, u, v},
+                {right, bottom, u1, v1},
+                {left, bottom, u, v1},
+                {left, top, u, v},
+                {right, top, u1, v},
+                {right, bottom, u1, v1},
+            });
     }
-    if (queue.empty()) return;
-    glBindBuffer(GL_ARRAY_BUFFER, vertexBuffer);
-    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(queue.size() * sizeof(vertex)), queue.data(), GL_STATIC_DRAW);
-    glBindBuffer(GL_ARRAY_BUFFER, 0);
+    if (!queue.empty()) vertexBuffer.setData(queue.size(), queue.data(), GL_STATIC_DRAW);
 }
 
 void TextRenderer::render()

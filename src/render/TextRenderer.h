@@ -1,6 +1,6 @@
 #pragma once
 
-#include <GL/glew.h>
+#include "gpu/GLBuffer.h"
 
 #include <string>
 #include <vector>
@@ -20,12 +20,12 @@ public:
     void setShader(Shaderprogram* program) { shader = program; } ///< borrowed; null draws nothing
     void setFont(Texture* texture) { font = texture; }           ///< borrowed; null draws nothing
 
-    /// Queues the text with the lower-left corner of its first glyph at (x, y). Glyphs are 0.0625 wide and high; text
+    /// Queue the text with the lower-left corner of its first glyph at (x, y). Glyphs are 0.0625 wide and high; text
     /// never wraps.
     void addText(const std::string& text, double x, double y);
 
-    void render(); ///< draws the queue, which stays
-    void clear();  ///< empties the queue
+    void render(); ///< draw the queue, which stays
+    void clear();  ///< empty the queue
 
     struct vertex {
         GLfloat x, y; ///< normalised device coordinates
@@ -37,6 +37,6 @@ private:
     Shaderprogram* shader = nullptr;
     Texture* font = nullptr;
     std::vector<vertex> queue;
-    GLuint vertexArray = 0;
-    GLuint vertexBuffer = 0;
+    GlObject vertexArray{GlKind::VertexArray};
+    GLBuffer vertexBuffer{GL_ARRAY_BUFFER};
 };

@@ -3,8 +3,8 @@
 /// The two debug switches of texture filtering. Each change is applied to every texture of the asset library at once.
 class TextureFilters {
 public:
-    void toggleMagnification(); ///< linear or nearest
-    void cycleMinification();   ///< 0 no mipmaps, 1 nearest mipmap, 2 between mipmaps
+    void toggleMagnification(); ///< switch between linear and nearest
+    void cycleMinification();   ///< go on from no mipmaps to the nearest, to between two, and back to none
 
 private:
     void apply() const;

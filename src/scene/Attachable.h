@@ -6,7 +6,7 @@
 /// only borrows it.
 class Attachable {
 public:
-    /// Once per scene update, after the owning node's world transform is current.
+    /// Follow the node. Called once per scene update, after the owning node's world transform is current.
     virtual void update() = 0;
 
     virtual void accept(INodeVisitor* visitor) { visitor->visitAttachable(this); }

@@ -26,9 +26,14 @@ Camera::Camera(float fov, float aspect, float near, float far, const glm::vec3& 
     // either side, a little wider than what the projection shows, and the game's pictures are composed for it.
     const float h = fov / 2;
     const float k = fov / aspect / 2;
-    planes = {glm::vec4(0, 0, -1, near), glm::vec4(0, 0, 1, far), glm::vec4(std::cos(h), 0, std::sin(h), 0),
-        glm::vec4(-std::cos(h), 0, std::sin(h), 0), glm::vec4(0, -std::sin(k), std::cos(k), 0),
-        glm::vec4(0, std::sin(k), std::cos(k), 0)};
+    planes = {
+        glm::vec4(0, 0, -1, near),
+        glm::vec4(0, 0, 1, far),
+        glm::vec4(std::cos(h), 0, std::sin(h), 0),
+        glm::vec4(-std::cos(h), 0, std::sin(h), 0),
+        glm::vec4(0, -std::sin(k), std::cos(k), 0),
+        glm::vec4(0, std::sin(k), std::cos(k), 0),
+    };
 }
 
 void Camera::update()

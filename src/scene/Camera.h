@@ -10,12 +10,12 @@
 /// point lies roughly inside the view. Owned by an actor or a game state; drawn through a Viewport.
 class Camera final : public Attachable {
 public:
-    /// fov in degrees, near and far in world units. They shape the culling planes only: the projection is the same for
-    /// every camera (45 degrees, 1.3333334, 0.1, 1000). position is the initial view's translation, until the first
-    /// update().
+    /// Make a camera from fov in degrees, near and far in world units. They shape the culling planes only: the
+    /// projection is the same for every camera (45 degrees, 1.3333334, 0.1, 1000). position is the initial view's
+    /// translation, until the first update().
     Camera(float fov, float aspect, float near, float far, const glm::vec3& position);
 
-    void update() override; ///< view from the node's world transform
+    void update() override; ///< take the view from the node's world transform
     void accept(INodeVisitor* visitor) override { visitor->visitCamera(this); }
     void acceptRelease(INodeVisitor* visitor) override { visitor->releaseCamera(this); }
 
@@ -23,12 +23,12 @@ public:
     glm::mat4 getProjection() const { return projection; }
     glm::mat3 getNormalMatrix() const; ///< inverse transpose of the view's upper-left 3 x 3
 
-    /// Culling plane 0 to 5 (near, far, sides, top and bottom), in view space: a x + b y + c z + d >= 0 inside.
+    /// Return culling plane 0 to 5 (near, far, sides, top and bottom), in view space: a x + b y + c z + d >= 0 inside.
     glm::vec4 getPlane(int i) const { return planes.at(static_cast<std::size_t>(i)); }
 
     glm::vec3 getPosition() const; ///< the node's world position
 
-    /// False when the world point lies more than 5 units outside one of the planes.
+    /// Return false when the world point lies more than 5 units outside one of the planes.
     bool isVisible(const glm::vec3& point) const;
 
 private:

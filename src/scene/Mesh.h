@@ -19,16 +19,16 @@ public:
 
     unsigned getVertexCount() const { return static_cast<unsigned>(positions.size()); }
 
-    /// Lowers min and raises max to take in every position; the caller supplies their starting values.
+    /// Lower min and raise max to take in every position; the caller supplies their starting values.
     void getBounds(glm::vec3& min, glm::vec3& max) const;
 
-    /// Replaces the normals by smooth ones: the sum of the adjoining faces' unit normals, each the negative of the
+    /// Replace the normals by smooth ones: the sum of the adjoining faces' unit normals, each the negative of the
     /// usual counter-clockwise one, normalised.
     void calculateNormals();
 
-    /// Swaps two components of every normal: x and y if both are named, else x and z, else y and z.
+    /// Swap two components of every normal: x and y if both are named, else x and z, else y and z.
     void swapNormalAxes(bool x, bool y, bool z);
 
-    /// Negates one component of every normal: x if named, else y, else z.
+    /// Negate one component of every normal: x if named, else y, else z.
     void invertNormalAxes(bool x, bool y, bool z);
 };

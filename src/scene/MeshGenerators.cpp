@@ -3,7 +3,6 @@
 #include "base/Assert.h"
 #include "scene/Mesh.h"
 
-#include <array>
 #include <cmath>
 
 namespace {
@@ -16,16 +15,32 @@ struct Corner {
 };
 
 // Faces in the order +Z, +X, +Y, -X, -Y, -Z, four corners each; the texture is split into 4 x 2 cells.
-// clang-format off
-constexpr std::array<Corner, 24> kBoxCorners{{
-    {true, true, true, 0.5f, 0.5f}, {false, true, true, 0.25f, 0.5f}, {false, false, true, 0.25f, 0.0f}, {true, false, true, 0.5f, 0.0f},
-    {true, true, true, 0.5f, 0.5f}, {true, false, true, 0.5f, 0.0f}, {true, false, false, 0.75f, 0.0f}, {true, true, false, 0.75f, 0.5f},
-    {true, true, true, 0.5f, 0.5f}, {true, true, false, 0.5f, 1.0f}, {false, true, false, 0.25f, 1.0f}, {false, true, true, 0.25f, 0.5f},
-    {false, true, true, 0.25f, 0.5f}, {false, true, false, 0.0f, 0.5f}, {false, false, false, 0.0f, 0.0f}, {false, false, true, 0.25f, 0.0f},
-    {false, false, false, 0.0f, 0.0f}, {true, false, false, 0.0f, 0.0f}, {true, false, true, 0.0f, 0.0f}, {false, false, true, 0.0f, 0.0f},
-    {true, false, false, 0.75f, 0.0f}, {false, false, false, 1.0f, 0.0f}, {false, true, false, 1.0f, 0.5f}, {true, true, false, 0.75f, 0.5f},
-}};
-// clang-format on
+constexpr Corner kBoxCorners[] = {
+    {true, true, true, 0.5f, 0.5f},
+    {false, true, true, 0.25f, 0.5f},
+    {false, false, true, 0.25f, 0.0f},
+    {true, false, true, 0.5f, 0.0f},
+    {true, true, true, 0.5f, 0.5f},
+    {true, false, true, 0.5f, 0.0f},
+    {true, false, false, 0.75f, 0.0f},
+    {true, true, false, 0.75f, 0.5f},
+    {true, true, true, 0.5f, 0.5f},
+    {true, true, false, 0.5f, 1.0f},
+    {false, true, false, 0.25f, 1.0f},
+    {false, true, true, 0.25f, 0.5f},
+    {false, true, true, 0.25f, 0.5f},
+    {false, true, false, 0.0f, 0.5f},
+    {false, false, false, 0.0f, 0.0f},
+    {false, false, true, 0.25f, 0.0f},
+    {false, false, false, 0.0f, 0.0f},
+    {true, false, false, 0.0f, 0.0f},
+    {true, false, true, 0.0f, 0.0f},
+    {false, false, true, 0.0f, 0.0f},
+    {true, false, false, 0.75f, 0.0f},
+    {false, false, false, 1.0f, 0.0f},
+    {false, true, false, 1.0f, 0.5f},
+    {true, true, false, 0.75f, 0.5f},
+};
 constexpr int kBottomFace = 4;
 
 void appendRing(Mesh& mesh, float radius, float y, int segments)

@@ -19,46 +19,46 @@ public:
     Node() = default;
     explicit Node(std::string nodeName);
 
-    /// From memory that nodes have to themselves: thousands of them, scattered among what is freed again, would break
-    /// the heap to pieces.
+    /// Take memory that nodes have to themselves: thousands of them, scattered among what is freed again, would break the
+    /// heap to pieces.
     static void* operator new(std::size_t bytes);
     static void operator delete(void*) {}
 
-    /// Creates a node of that name as the last child and logs it at level 2.
+    /// Create a node of that name as the last child and log it at level 2.
     Node* createChild(const std::string& childName);
 
-    void addChild(Node* child);      ///< ignored when it is among the children already
-    void removeChild(Node* child);   ///< does nothing when it is no child
-    void setParent(Node* newParent); ///< leaves the old parent and becomes the new one's last child
+    void addChild(Node* child);      ///< do nothing when it is among the children already
+    void removeChild(Node* child);   ///< do nothing when it is no child
+    void setParent(Node* newParent); ///< leave the old parent and become the new one's last child
 
     Node* getParent() const { return parent; }
     const std::vector<Node*>& getChildren() const { return children; }
     std::string getName() const { return name; }
     void setName(const std::string& newName) { name = newName; }
 
-    /// Hangs an attachment (borrowed) on this node. No check for duplicates.
+    /// Hang an attachment (borrowed) on this node. No check for duplicates.
     void attach(Attachable* attachable);
 
     void setTransform(const glm::mat4& matrix) { local = matrix; }
 
-    /// post true: local x matrix (the node's own frame); post false: matrix x local (the parent's frame).
+    /// Multiply the local transform: local x matrix if post (the node's own frame), else matrix x local (the parent's).
     void transform(const glm::mat4& matrix, bool post);
 
     glm::mat4 getWorldTransform() const { return world; }
     glm::vec3 getWorldPosition() const { return glm::vec3(world[3]); }
 
-    /// This node or the first descendant of that name, depth first; null when there is none.
+    /// Return this node or the first descendant of that name, depth first; null when there is none.
     Node* find(const std::string& wanted);
 
-    /// Recomputes world (identity without a parent), then updates the attachments in order.
+    /// Recompute world (identity without a parent), then update the attachments in order.
     virtual void updateTransform();
 
-    /// Takes the whole subtree out of the tree, children first. Nothing is freed.
+    /// Take the whole subtree out of the tree, children first. Nothing is freed.
     virtual void destroy();
 
-    void update();                             ///< updateTransform and update of every child; not of this node itself
-    void accept(INodeVisitor* visitor);        ///< this node, its attachments, its children
-    void acceptRelease(INodeVisitor* visitor); ///< likewise, with the release operations
+    void update();                             ///< call updateTransform and update of every child; not of this node
+    void accept(INodeVisitor* visitor);        ///< show it this node, its attachments, its children
+    void acceptRelease(INodeVisitor* visitor); ///< do likewise, with the release operations
 
 protected:
     ~Node() = default;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Whether all corners of the box lie outside the same plane of the view.
+/// Return whether all corners of the box lie outside the same plane of the view.
 bool isOutside(const glm::vec3& min, const glm::vec3& max, const glm::mat4& toClip)
 {
     int below[3] = {}, above[3] = {};

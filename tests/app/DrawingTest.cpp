@@ -3,9 +3,15 @@
 #include "StoryGame.h"
 
 #include "app/GameStateManager.h"
+#include "assets/BallModel.h"
 #include "assets/Library.h"
+#include "gpu/Shader.h"
 #include "gpu/Shaderprogram.h"
+#include "gpu/Texture.h"
 #include "render/DebugRenderer.h"
+#include "render/Framebuffer.h"
+#include "render/FullScreenQuad.h"
+#include "render/ParticleSystem.h"
 #include "render/TextRenderer.h"
 #include "testing/CapturedLog.h"
 #include "testing/GlErrors.h"
@@ -19,6 +25,39 @@
 namespace {
 
 constexpr double kSmoke = 0.03; // share of a picture that the smoke changes from one drawing to the next
+
+/// One of each kind that owns GL objects.
+struct Owners {
+    Owners()
+    {
+        program.attachShader(&stage);
+        program.link();
+        program.use();
+        texture.load("Textures/font.tga");
+    }
+
+    Shader stage{GL_VERTEX_SHADER, "#version 430 core\nvoid main() { gl_Position = vec4(0); }\n"};
+    Shaderprogram program;
+    Texture texture;
+    TargetTexture target{GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, glm::ivec2(4)};
+    Framebuffer framebuffer{&target, nullptr};
+    FullScreenQuad quad;
+    TextRenderer text;
+    ParticleSystem smoke{Library::getInstance()->getShaderprogram("ParticleMovement")};
+    BallModel ball{glm::vec4(1)};
+    DebugRenderer overlay;
+};
+
+int objectCount()
+{
+    Shaderprogram::unuse(); // a program in use outlives its deletion
+    int count = 0;
+    for (GLuint name = 1; name < 3000; ++name) { // more than there are
+        for (const auto is : {glIsBuffer, glIsFramebuffer, glIsProgram, glIsShader, &glIsTexture, glIsVertexArray})
+            count += is(name);
+    }
+    return count;
+}
 
 /// What the renderer does with the world of a match in which everybody stands still.
 class Drawing : public StoryGame {
@@ -142,6 +181,24 @@ TEST_F(Drawing, ComesBackFromTheWireFrameAsItWas)
     EXPECT_GT(change(solid, draw()), 0.5);
     game->getRenderer().toggleWireframe();
     EXPECT_LT(change(solid, draw()), kSmoke);
+}
+
+TEST_F(Drawing, DeletesGlObjectsWithTheirOwnersAndLeavesThemAloneOnceTheirContextHasGone)
+{
+    const int before = objectCount();
+    auto owners = std::make_unique<Owners>();
+    const int most = objectCount();
+    EXPECT_GT(most, before + 15);
+    owners.reset();
+    EXPECT_EQ(objectCount(), before);
+
+    owners = std::make_unique<Owners>();
+    GLFWwindow* const window = glfwGetCurrentContext();
+    glfwMakeContextCurrent(nullptr);
+    owners.reset(); // the test fails at any call of OpenGL
+    EXPECT_EQ(Shaderprogram::current(), nullptr);
+    glfwMakeContextCurrent(window);
+    EXPECT_EQ(objectCount(), most);
 }
 
 TEST_F(Drawing, LogsWhatTheDriverHasToSay)
