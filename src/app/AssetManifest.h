@@ -8,8 +8,8 @@ struct Asset {
     const char* name;
 };
 
-/// What the game loads besides its meshes (the library knows those) and the height image (the terrain reads it), in
-/// loading order.
+// Return what the game loads, in loading order. Its meshes and the height image are not among it: the library and the
+// terrain load those themselves.
 std::span<const Asset> shaderAssets();
 std::span<const Asset> textureAssets();
 std::span<const Asset> soundAssets();

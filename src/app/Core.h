@@ -8,7 +8,7 @@ class Core {
 public:
     static Core* getInstance();
 
-    /// Imports the game's meshes, then opens the window. False when no picture can be had; the log says why.
+    /// Import the game's meshes, then open the window. Return false when no window can be had; the log says why.
     [[nodiscard]] bool init();
 
     Renderer* getRenderer() const { return renderer; }

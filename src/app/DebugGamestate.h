@@ -11,7 +11,7 @@ class QKD_Game;
 /// counts. Entered from the match and left back to it. Owned by the game.
 class DebugGamestate final : public IGameState {
 public:
-    /// The renderer must have the scene graph by now: the node "CameraNode" joins it.
+    /// Add the node "CameraNode" to the game's scene.
     DebugGamestate(const std::string& stateName, QKD_Game& game);
 
     void enter() override;

@@ -2,7 +2,7 @@
 
 class Node;
 
-/// Flies a node by keyboard and mouse: W, A, S, D move it in its own frame (ten times as fast with the left Shift key),
+/// The flight of a node by keyboard and mouse: W, A, S, D move it in its own frame (ten times as fast with the left Shift key),
 /// the arrow keys or the mouse turn it. The node is borrowed and keeps its pose between flights.
 class FreeFlight {
 public:
@@ -12,10 +12,10 @@ public:
 
     explicit FreeFlight(Node& flownNode) : node(flownNode) {}
 
-    /// Where the mouse is before the first update: only its movement from there on turns the node.
+    /// Take in where the mouse is before the first update: only its movement from there on turns the node.
     void start(Mouse mouse) { lastMouse = mouse; }
 
-    /// One frame; seconds of game time.
+    /// Fly for one frame of so many seconds of game time.
     void update(Mouse mouse, float seconds);
 
 private:

@@ -13,10 +13,10 @@ public:
         kHeld,    ///< in every frame in which it is down
     };
 
-    /// number: 1 to 12.
+    /// Have a key, number 1 to 12, do something.
     void bind(int number, When when, std::function<void()> action);
 
-    /// Reads the twelve keys, runs what is due, and remembers the keys for the next frame.
+    /// Read the twelve keys, run what is due, and remember the keys for the next frame.
     void update();
 
 private:

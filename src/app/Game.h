@@ -12,24 +12,24 @@ public:
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
 
-    /// Starts, runs passes until the window is closed or quit() was called, and closes the window. False when no window
-    /// could be opened.
+    /// Start, run passes until the window is closed or quit() was called, and close the window. Return false when no
+    /// window could be opened.
     [[nodiscard]] bool run();
 
-    /// Opens the window, loads the resources and builds the world. False when no window could be opened.
+    /// Open the window, load the resources and build the world. Return false when no window could be opened.
     [[nodiscard]] bool start();
 
-    /// One pass of the loop, its sleep included.
+    /// Make one pass of the loop, its sleep included.
     void pass();
 
-    /// The half of a pass that computes. False when the pass before took so long that this one is skipped: then nothing
-    /// has happened but the tick, and there is nothing to draw.
+    /// Do the half of a pass that computes. Return false when the pass took so long that it is skipped: then nothing has
+    /// happened but the tick, and there is nothing to draw.
     bool updatePass();
 
-    /// The half that draws and presents what updatePass() has made.
+    /// Do the half that draws and presents what updatePass() has made.
     void drawPass();
 
-    void quit() { quitting = true; } ///< the loop ends after the current pass
+    void quit() { quitting = true; } ///< end the loop after the current pass
     bool isQuitting() const { return quitting; }
 
     Core* getCore() const { return core; }
@@ -37,10 +37,10 @@ public:
 protected:
     ~Game() = default;
 
-    virtual void init() = 0;          ///< builds the world, creates the states and enters the first
-    virtual void loadResources() = 0; ///< loads every shader and texture; the context is current
-    virtual void update() = 0;        ///< the game's own work once a drawn frame, after the current state's
-    virtual void cleanup() = 0;       ///< for a game that has something to put away; the loop never calls it
+    virtual void init() = 0;          ///< build the world, create the states and enter the first
+    virtual void loadResources() = 0; ///< load every shader and texture; the context is current
+    virtual void update() = 0;        ///< do the game's own work once a drawn frame, after the state's
+    virtual void cleanup() = 0;       ///< put something away; the loop never calls it
 
 private:
     FrameTimer* timer;

@@ -9,11 +9,11 @@
 /// creates once.
 class GameStateManager {
 public:
-    /// Stores a state under its getName(); an earlier state of that name is forgotten without notice.
+    /// Store a state under its getName(); an earlier state of that name is forgotten without notice.
     void addState(IGameState* state);
 
-    /// Leaves the current state and enters the named one; does nothing when that is current already. A name that was
-    /// never added is a programming error and stops the program.
+    /// Leave the current state and enter the named one; do nothing when that is current already. A name that was never
+    /// added is a programming error and stops the program.
     void changeState(const std::string& name);
 
     IGameState* getCurrentState() const { return current; } ///< null before the first change

@@ -10,5 +10,5 @@ struct HelpLine {
     const char* text;
 };
 
-/// Writes the lines for this frame, from the window's upper-left corner on.
+/// Write the lines for this frame, from the window's upper-left corner on.
 void writeHelp(TextRenderer& text, std::span<const HelpLine> lines);

@@ -8,8 +8,8 @@
 class MeshGeometry;
 class Renderer;
 
-/// Shows participants with real models, through the renderer, and lets them be heard through the audio system. Owned by
-/// the game; needs the window and the loaded assets from the first car on.
+/// The presentation with real models, drawn by the renderer, and real sounds, played by the audio system. Owned by the
+/// game; needs the window and the loaded assets from the first car on.
 class Presentation final : public IPresentation {
 public:
     explicit Presentation(Renderer& renderer); ///< borrowed

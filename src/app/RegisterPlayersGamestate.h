@@ -10,7 +10,7 @@ class QKD_Game;
 /// the game.
 class RegisterPlayersGamestate final : public IGameState {
 public:
-    /// The renderer must have the scene graph by now: the node "PanoramaCamera" joins it.
+    /// Add the node "PanoramaCamera" to the game's scene.
     RegisterPlayersGamestate(const std::string& stateName, QKD_Game& game);
 
     void enter() override;

@@ -16,10 +16,10 @@ class TerrainModel final : public Model {
 public:
     explicit TerrainModel(const Terrain& terrain);
 
-    /// Hangs both models on the terrain's node.
+    /// Hang both models on the terrain's node.
     void attachTo(Node& mapNode);
 
-    /// Draws the patches that the camera being drawn may see; all of them when the second model is not drawable.
+    /// Draw the patches that the camera being drawn may see; all of them when the second model is not drawable.
     void draw() override;
 
 private:

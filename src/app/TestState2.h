@@ -2,8 +2,7 @@
 
 #include "base/IGameState.h"
 
-/// The smallest state there is: says in the log that it comes and goes, and does nothing in between. No game creates
-/// one; it is there to try the changing of states with.
+/// A state that only logs its entry and its exit. The game does not create it; tests change states with it.
 class TestState2 final : public IGameState {
 public:
     using IGameState::IGameState;
