@@ -11,6 +11,7 @@ require_packages "${play_packages[@]}"
 build release --target quackdash
 
 if [[ -z ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
-    die 'The game is built, but there is no display to show it on; a virtual one serves (packages xvfb, xauth): xvfb-run -a -s "-screen 0 1400x900x24" ./play.sh'
+    die 'The game is built, but there is no display to show it on; a virtual one serves (packages xvfb, xauth):' \
+        'xvfb-run -a -s "-screen 0 1400x900x24" ./play.sh'
 fi
 exec "$project_root/build/release/quackdash"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what game and tests need (Debian, once), builds both with warnings as errors, and runs the tests. Those that need a window
-# bring a virtual display of their own. The exit status is CTest's.
+# Installs what game and tests need (Debian, once), builds both with warnings as errors, and runs the tests. Those that
+# need a window bring a virtual display of their own. The exit status is CTest's.
 #
 # usage: ./test.sh [--sanitize] [CTEST-ARGUMENT...]
 #   --sanitize  builds and tests with AddressSanitizer and UndefinedBehaviorSanitizer

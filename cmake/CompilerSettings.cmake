@@ -22,6 +22,7 @@ target_compile_options(quackdash_settings INTERFACE -Wall -Wextra -Wpedantic -Ws
 # GLM: silence its own deprecation guard for the extensions in use. GLFW: GL comes from GLEW alone.
 target_compile_definitions(quackdash_settings INTERFACE GLM_ENABLE_EXPERIMENTAL GLFW_INCLUDE_NONE)
 if(QUACKDASH_SANITIZE)
-    target_compile_options(quackdash_settings INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize=vptr)
+    target_compile_options(quackdash_settings INTERFACE
+        -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize=vptr)
     target_link_options(quackdash_settings INTERFACE -fsanitize=address,undefined)
 endif()

@@ -1,6 +1,7 @@
 # The physics SDK: the registry crate physx-sys carries PhysX 4.1 and compiles it. cargo builds it once, whatever the
 # number of presets: they share one target folder. The SDK's own headers stay where cargo unpacked the crate.
-set(QUACKDASH_PHYSX_TARGET_DIR ${CMAKE_SOURCE_DIR}/build/physx CACHE PATH "Where cargo builds the physics SDK; shared by all presets")
+set(QUACKDASH_PHYSX_TARGET_DIR ${CMAKE_SOURCE_DIR}/build/physx
+    CACHE PATH "Where cargo builds the physics SDK; shared by all presets")
 set(PHYSX_CRATE_DIR ${CMAKE_SOURCE_DIR}/third_party/physx)
 set(PHYSX_ARCHIVE ${QUACKDASH_PHYSX_TARGET_DIR}/release/libquackdash_physx.a)
 

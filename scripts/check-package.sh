@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Makes the packages of a release build and checks them: Debian's rules, the metadata, what is inside, whether its dependencies can be had.
+# Makes the packages of a release build and checks them: Debian's rules, the metadata, what is inside, whether its
+# dependencies can be had.
 #
 # usage: scripts/check-package.sh [BUILD-FOLDER]
 #   BUILD-FOLDER  default: build/release. The packages are left there.
@@ -36,11 +37,14 @@ done
 
 cd "$scratch/deb/usr"
 diff -r share/games/quackdash "$project_root/data" || die 'Not the data of this tree'
-strangers=$(find . -type f ! -path './share/games/quackdash/*' ! -path './share/doc/quackdash/*' ! -name 'quackdash*' ! -name '*.metainfo.xml')
-[[ -z $strangers && $(ls games) == quackdash ]] || die "Files that have no business in a package: $strangers $(ls games)"
+strangers=$(find . -type f ! -path './share/games/quackdash/*' ! -path './share/doc/quackdash/*' ! -name 'quackdash*' \
+    ! -name '*.metainfo.xml')
+[[ -z $strangers && $(ls games) == quackdash ]] ||
+    die "Files that have no business in a package: $strangers $(ls games)"
 [[ $(readelf -S games/quackdash) != *.symtab* ]] || die 'The program is not stripped'
 for owner in 'Quackdash developers' 'NVIDIA Corporation'; do
     grep -q "^[C ].* [0-9]\{4\} $owner" share/doc/quackdash/copyright || die "The copyright file does not name $owner"
 done
-grep -q 'Redistributions in binary form must reproduce' share/doc/quackdash/copyright || die "The SDK's licence is missing"
+grep -q 'Redistributions in binary form must reproduce' share/doc/quackdash/copyright ||
+    die "The SDK's licence is missing"
 echo "${debs[0]##*/} and ${archives[0]##*/} are in order"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs every command of the README as it stands, or says what else runs it; a command that is not known here is an error. Wants what
-# test.sh installs, and a release build.
+# Runs every command of the README as it stands, or says what else runs it; a command that is not known here is an
+# error. Wants what test.sh installs, and a release build.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 scratch=$(mktemp -d)
@@ -34,7 +34,8 @@ on_display() {
 
 # Commands are the lines that stand four columns in, and a few within the text.
 # shellcheck disable=SC2016  # backticks are the README's
-mapfile -t commands < <(sed -n 's/^    \([^ ].*\)/\1/p' README.md; grep -o '`[^`]*cmake --install [^`]*`\|`./test.sh [^`]*`' README.md | tr -d '`')
+mapfile -t commands < <(sed -n 's/^    \([^ ].*\)/\1/p' README.md
+    grep -o '`[^`]*cmake --install [^`]*`\|`./test.sh [^`]*`' README.md | tr -d '`')
 ((${#commands[@]} > 0)) || die 'The README has no commands'
 
 for command in "${commands[@]}"; do
@@ -46,8 +47,10 @@ for command in "${commands[@]}"; do
         'xvfb-run '*./play.sh) play "$command" ;;
         'tar xf '*) HOME=$scratch bash -c "$command" ;;
         '~/quackdash-'*) HOME=$scratch play "$(on_display "$command")" ;;
-        'sudo apt install '*) bash -c "apt-get install --simulate ${command#sudo apt install}" ;; # the real one changes this machine
-        'sudo cmake --install '*) DESTDIR=$scratch/root bash -c "${command#sudo }" && [[ -x $scratch/root/usr/local/games/quackdash ]] ;;
+        'sudo apt install '*) bash -c "apt-get install --simulate ${command#sudo apt install}" ;; # changes nothing
+        'sudo cmake --install '*)
+            DESTDIR=$scratch/root bash -c "${command#sudo }" && [[ -x $scratch/root/usr/local/games/quackdash ]]
+            ;;
         './test.sh -L unit' | 'cmake --preset '* | 'cmake --build '*) bash -c "$command" ;;
         *) die 'Nothing runs this command of the README' ;;
     esac
@@ -65,7 +68,8 @@ for quote in "${quotes[@]}"; do
     grep -rqF "logLine(0) << \"$quote" src || die "The README quotes what the game does not say: $quote"
 done
 
-mapfile -t links < <(grep -oh '](\([^)#]*\))' README.md CONTRIBUTING.md THIRD_PARTY.md docs/*.md | sed 's/^](//; s/)$//' | grep -v '://' | sort -u)
+mapfile -t links < <(grep -oh '](\([^)#]*\))' README.md CONTRIBUTING.md THIRD_PARTY.md docs/*.md |
+    sed 's/^](//; s/)$//' | grep -v '://' | sort -u)
 for link in "${links[@]}"; do
     [[ -e $link || -e docs/$link ]] || die "A page refers to $link, which is not there"
 done

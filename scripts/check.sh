@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# Checks the form of the C++ sources with clang-format, and their habits with clang-tidy. The tests hold every source to its format.
+# Checks the form of the sources: C++ by clang-format, no line over 120 columns anywhere; and the habits of the C++
+# sources by clang-tidy. The tests hold every source to its form.
 #
 # usage: scripts/check.sh [--format | --fix] [FILE...]
 #   FILE...   default: every C++ file of the repository
-#   --format  clang-format only, which takes a second; clang-tidy takes some per file
-#   --fix     lets clang-format rewrite the files first; a table that is laid out by hand stands between clang-format off and on
+#   --format  the form only, which takes a second; clang-tidy takes some per file
+#   --fix     lets clang-format rewrite the files first; a table that is laid out by hand stands between clang-format
+#             off and on
 set -euo pipefail
 # shellcheck source=scripts/setup.sh
 source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
@@ -15,11 +17,18 @@ mode=${1:-}
 [[ $mode != --fix ]] || format=(clang-format -i)
 [[ $mode != --* ]] || shift
 files=("$@")
-((${#files[@]} > 0)) || mapfile -t files < <(find src testing tests bench tools -name '*.h' -o -name '*.cpp' | LC_ALL=C sort)
+wide=("${files[@]}")
+if ((${#files[@]} == 0)); then
+    mapfile -t files < <(find src testing tests bench tools -name '*.h' -o -name '*.cpp' | LC_ALL=C sort)
+    mapfile -t wide < <(find src testing tests bench tools scripts cmake data/Shader ./*.sh -type f \( -name '*.h' \
+        -o -name '*.cpp' -o -name '*.sh' -o -name '*.py' -o -name '*.cmake' -o -name CMakeLists.txt -o -path 'data/*' \))
+fi
 
 status=0
 require_packages "${play_packages[@]}" "${test_packages[@]}"
 "${format[@]}" "${files[@]}" || status=1
+awk 'length > 120 { print FILENAME ":" FNR ": wider than 120 columns"; wide = 1 } END { exit wide }' "${wide[@]}" ||
+    status=1
 [[ $mode != --format ]] || exit "$status"
 
 require_packages clang-tidy

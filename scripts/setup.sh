@@ -1,4 +1,5 @@
-# Sourced by play.sh, test.sh and scripts/check.sh: what a machine needs, and how it gets it. Wants bash with `set -euo pipefail`.
+# Sourced by play.sh, test.sh and scripts/check.sh: what a machine needs, and how it gets it. Wants bash with
+# `set -euo pipefail`.
 # shellcheck shell=bash
 
 project_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -10,7 +11,8 @@ play_packages=(g++ cmake ninja-build pkg-config ca-certificates
     libsdl2-dev libopenal-dev libsndfile1-dev dpkg-dev)
 # What the tests need besides:
 # shellcheck disable=SC2034
-test_packages=(libgtest-dev libpng-dev libx11-dev libxtst-dev xvfb xauth lintian desktop-file-utils appstream clang-format)
+test_packages=(libgtest-dev libpng-dev libx11-dev libxtst-dev xvfb xauth lintian desktop-file-utils appstream
+    clang-format)
 
 die() {
     printf '%s\n' "$*" >&2
@@ -27,7 +29,8 @@ has_recent_cargo() {
 # The arguments that name no installed package, one a line.
 missing_packages() {
     comm -23 <(printf '%s\n' "$@" | LC_ALL=C sort -u) \
-        <(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^.i[^ ]* *//p' | LC_ALL=C sort -u)
+        <(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' "$@" 2>/dev/null |
+            sed -n 's/^.i[^ ]* *//p' | LC_ALL=C sort -u)
 }
 
 # Installs those of the named packages that are missing, and a cargo that is recent enough where there is none.
@@ -37,13 +40,15 @@ require_packages() {
         wanted+=(cargo-web rustc-web)
         PATH=/usr/bin:$PATH # before an older cargo that lies elsewhere
     fi
-    command -v dpkg-query >/dev/null || die "This is no Debian system; install what these Debian packages hold, then build with CMake: ${wanted[*]}"
+    command -v dpkg-query >/dev/null ||
+        die "This is no Debian system; install what these Debian packages hold, then build with CMake: ${wanted[*]}"
 
     mapfile -t missing < <(missing_packages "${wanted[@]}")
     ((${#missing[@]} > 0)) || return 0
     local as_root=()
     if ((EUID != 0)); then
-        command -v sudo >/dev/null || die "These packages are missing, and there is neither root nor sudo to install them: ${missing[*]}"
+        command -v sudo >/dev/null ||
+            die "These packages are missing, and there is neither root nor sudo to install them: ${missing[*]}"
         as_root=(sudo)
     fi
     echo "Installing ${missing[*]}"

@@ -14,8 +14,8 @@
 #include <deque>
 #include <memory>
 
-/// A whole match without a window: the real rules, physics, ground and scene, a keyboard to hold keys on and a clock that
-/// runs only when passes are made. The physics world goes with it.
+/// A whole match without a window: the real rules, physics, ground and scene, a keyboard to hold keys on and a clock
+/// that runs only when passes are made. The physics world goes with it.
 class HeadlessMatch {
 public:
     enum class Ground {

@@ -8,8 +8,8 @@
 #include <initializer_list>
 #include <map>
 
-/// A keyboard whose keys a test presses, with the sticky keys of the real one: a key that was released reads as down once
-/// more, so that a tap shorter than a pass is not lost. In place of the program's for as long as it lives.
+/// A keyboard whose keys a test presses, with the sticky keys of the real one: a key that was released reads as down
+/// once more, so that a tap shorter than a pass is not lost. In place of the program's for as long as it lives.
 class ScriptedKeyboard : public IKeyboard {
 public:
     ScriptedKeyboard() { setKeyboard(this); }

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Takes the pictures of docs/images anew, from the game as it is built here (./test.sh builds it, or the preset release where GoogleTest is
-# installed). Works without a display.
+# Takes the pictures of docs/images anew, from the game as it is built here (./test.sh builds it, or the preset release
+# where GoogleTest is installed). The tests compare the game with them. Works without a display.
 #
-# usage: tools/screenshots.sh [NAME]   # registration, duel, four, six, leader, help or debug; all of them unless given
+# usage: tools/screenshots.sh [NAME]   # such as duel or leader; all of them unless given
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 mkdir -p "$root/docs/images"

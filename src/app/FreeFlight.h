@@ -2,8 +2,8 @@
 
 class Node;
 
-/// The flight of a node by keyboard and mouse: W, A, S, D move it in its own frame (ten times as fast with the left Shift key),
-/// the arrow keys or the mouse turn it. The node is borrowed and keeps its pose between flights.
+/// The flight of a node by keyboard and mouse: W, A, S, D move it in its own frame (ten times as fast with the left
+/// Shift key), the arrow keys or the mouse turn it. The node is borrowed and keeps its pose between flights.
 class FreeFlight {
 public:
     struct Mouse {

@@ -4,8 +4,8 @@ class Core;
 class FrameTimer;
 class IGameState;
 
-/// The main loop. A concrete game fills in the four steps; main calls run() once. Whoever wants the loop in its own hands
-/// calls start(), then pass() as often as it likes, or updatePass() and drawPass() by themselves.
+/// The main loop. A concrete game fills in the four steps; main calls run() once. Whoever wants the loop in its own
+/// hands calls start(), then pass() as often as it likes, or updatePass() and drawPass() by themselves.
 class Game {
 public:
     Game();
@@ -22,8 +22,8 @@ public:
     /// Make one pass of the loop, its sleep included.
     void pass();
 
-    /// Do the half of a pass that computes. Return false when the pass took so long that it is skipped: then nothing has
-    /// happened but the tick, and there is nothing to draw.
+    /// Do the half of a pass that computes. Return false when the pass took so long that it is skipped: then nothing
+    /// has happened but the tick, and there is nothing to draw.
     bool updatePass();
 
     /// Do the half that draws and presents what updatePass() has made.

@@ -12,8 +12,8 @@ class PlayGamestate;
 class RegisterPlayersGamestate;
 class Renderer;
 
-/// The game itself: has the match with its world, the scenery and the states, and does what every frame needs besides the
-/// current state's work: physics, sounds, function keys, the ranking in the log.
+/// The game itself: has the match with its world, the scenery and the states, and does what every frame needs besides
+/// the current state's work: physics, sounds, function keys, the ranking in the log.
 class QKD_Game : public Game {
 public:
     QKD_Game(); ///< seen and heard by way of the renderer and the audio system

@@ -75,7 +75,7 @@ void TerrainModel::FarGround::draw()
     ground.draw(*this, kFineDistance, kEverywhere);
 }
 
-/// What the camera being drawn may see of the ground at these distances from it, in world units.
+/// Draw what the camera being drawn may see of the ground at these distances from it, in world units.
 void TerrainModel::draw(const Model& model, float from, float to) const
 {
     const Camera& camera = *IRenderServices::current()->getCurrentCamera();

@@ -18,7 +18,8 @@ expect() {
 }
 
 printf '#include "base/Log.h"\n#include <GL/glew.h>\nvoid f() { glClear(0); }\n' >"$folder/src/gpu/Draw.cpp"
-printf '#include "app/Main.h"\n#include "gpu/Draw.h"\n// like glClear()\nvoid f() { glfwInit(); }\n' >"$folder/src/app/Main.cpp"
+printf '#include "app/Main.h"\n#include "gpu/Draw.h"\n// like glClear()\nvoid f() { glfwInit(); }\n' \
+    >"$folder/src/app/Main.cpp"
 expect 0 'a clean tree'
 printf '#include "gpu/Draw.h"\n' >"$folder/src/base/Log.h"
 expect 1 'upwards'

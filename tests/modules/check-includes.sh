@@ -7,7 +7,8 @@
 set -euo pipefail
 table=$1 root=${2%/}
 
-find "$root" \( -name '*.h' -o -name '*.cpp' \) -print0 | LC_ALL=C sort -z | xargs -0 awk -v table="$table" -v root="$root" '
+find "$root" \( -name '*.h' -o -name '*.cpp' \) -print0 | LC_ALL=C sort -z |
+    xargs -0 awk -v table="$table" -v root="$root" '
     function moduleOf(path) { # the innermost folder that is a module
         while (sub("/[^/]*$", "", path)) if (path in modules) return path
         return ""
@@ -28,11 +29,13 @@ find "$root" \( -name '*.h' -o -name '*.cpp' \) -print0 | LC_ALL=C sort -z | xar
         split($0, parts, "\"")
         other = moduleOf(parts[2])
         if (other == "") complain("\"" parts[2] "\" names no module of ours")
-        else if (!((own, other) in allowed)) complain(own " includes \"" parts[2] "\", but its link line does not name " other)
+        else if (!((own, other) in allowed))
+            complain(own " includes \"" parts[2] "\", but its link line does not name " other)
     }
     own != "gpu" && own != "render" {
         code = $0
         sub("//.*", "", code)
-        if (code ~ /(^|[^A-Za-z0-9_])gl[A-Z][A-Za-z0-9]*[ \t]*\(/) complain(own " calls OpenGL; only gpu and render may")
+        if (code ~ /(^|[^A-Za-z0-9_])gl[A-Z][A-Za-z0-9]*[ \t]*\(/)
+            complain(own " calls OpenGL; only gpu and render may")
     }
     END { exit faults > 0 }' || exit 1

@@ -30,7 +30,8 @@ def quack(length, height, seed):
     t = times / length
     pitch = height * contour(t, [(0, 0.78), (0.18, 1.08), (0.5, 1.0), (1, 0.66)])
     beak = contour(t, [(0, 0.1), (0.25, 1.0), (0.65, 0.9), (1, 0.2)])
-    formants = [(550 + 550 * beak, 150, 0.8), (1450 + 650 * beak, 220, 1.0), (2800 + 300 * beak, 320, 0.7), (4200, 600, 0.3)]
+    formants = [(550 + 550 * beak, 150, 0.8), (1450 + 650 * beak, 220, 1.0),
+                (2800 + 300 * beak, 320, 0.7), (4200, 600, 0.3)]
     loudness = contour(t, [(0, 0), (0.08, 0.8), (0.35, 1.0), (0.75, 0.7), (1, 0)])
     return voiced(times, pitch, formants, 0.02, seed) * loudness
 
@@ -47,19 +48,23 @@ def duck():
 def bang():
     """A cork out of a toy cannon: a thump that falls, a puff of air, a pop that rises."""
     times = seconds(0.5)
-    thump = numpy.sin(2 * numpy.pi * numpy.cumsum(62 + 240 * numpy.exp(-times / 0.035)) / RATE) * numpy.exp(-times / 0.11)
+    thump = numpy.sin(2 * numpy.pi * numpy.cumsum(62 + 240 * numpy.exp(-times / 0.035)) / RATE)
+    thump *= numpy.exp(-times / 0.11)
     air = band(numpy.random.default_rng(3).standard_normal(len(times)), 350, 2600) * numpy.exp(-times / 0.055)
-    pop = numpy.sin(2 * numpy.pi * numpy.cumsum(420 + 900 * numpy.minimum(times / 0.05, 1.0)) / RATE) * numpy.exp(-times / 0.022)
+    pop = numpy.sin(2 * numpy.pi * numpy.cumsum(420 + 900 * numpy.minimum(times / 0.05, 1.0)) / RATE)
+    pop *= numpy.exp(-times / 0.022)
     return faded(numpy.tanh(2.2 * (thump + 0.9 * air / numpy.abs(air).max() + 0.7 * pop)), start=0.0006)
 
 
 def engine():
-    """A loop of 3.2 seconds, about one when played three times as fast: 30 firings a second in the file, 90 to 120 as heard."""
+    """A loop of 3.2 seconds, about one when played three times as fast: 30 firings a second in the file, 90 to 120 as
+    heard."""
     firings, length = 96, 3.2
     random = numpy.random.default_rng(4)
     signal = numpy.zeros(round(length * RATE))
     spacing = len(signal) // firings
-    # Four cylinders that are never quite alike give the loop its putter; a little chance keeps it from sounding like a tone.
+    # Four cylinders that are never quite alike give the loop its putter; a little chance keeps it from sounding like a
+    # tone.
     cylinder = numpy.array([1.0, 0.78, 0.92, 0.7])
     for firing in range(firings):
         at = firing * spacing + round(random.normal(0, 0.006 * spacing))

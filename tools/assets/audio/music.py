@@ -22,8 +22,16 @@ TUBA, BASS, GUITAR, MUTED, CLARINET, TRUMPET, OBOE, BASSOON, PICCOLO, ACCORDION 
 DRUMS = 9 # channel
 
 # Tunes: one string a bar; a note is a name with octave, then its length in eighths; "-" rests.
-TUNE_A = ["B4 1 B4 1 D5 2 B4 1 A4 1 G4 2", "B4 1 B4 1 D5 2 G5 2 - 2", "E5 1 E5 1 G5 2 E5 1 D5 1 C5 2", "E5 2 D5 1 C5 1 B4 2 - 2",
-          "A4 1 A4 1 C5 2 A4 1 G4 1 F#4 2", "A4 1 B4 1 C5 1 D5 1 E5 1 F#5 1 D5 2", "G5 3 D5 1 B4 2 G4 2", "A4 1 B4 1 A4 1 F#4 1 D4 2 - 2"]
+TUNE_A = [
+    "B4 1 B4 1 D5 2 B4 1 A4 1 G4 2",
+    "B4 1 B4 1 D5 2 G5 2 - 2",
+    "E5 1 E5 1 G5 2 E5 1 D5 1 C5 2",
+    "E5 2 D5 1 C5 1 B4 2 - 2",
+    "A4 1 A4 1 C5 2 A4 1 G4 1 F#4 2",
+    "A4 1 B4 1 C5 1 D5 1 E5 1 F#5 1 D5 2",
+    "G5 3 D5 1 B4 2 G4 2",
+    "A4 1 B4 1 A4 1 F#4 1 D4 2 - 2",
+]
 CHORDS_A = "G G C C D7 D7 G D7".split()
 TUNE_B = ["E5 4 G5 4", "E5 3 D5 1 C5 4", "D5 4 G5 4", "D5 3 C5 1 B4 4", "C#5 2 E5 2 A5 4", "G5 3 E5 1 C#5 4",
           "D5 1 F#5 1 A5 2 F#5 1 A5 1 D5 2", "D5 2 D5 1 D5 1 D5 1 E5 1 F#5 2"]
@@ -32,8 +40,15 @@ TUNE_C = ["E4 1 - 1 E4 1 - 1 G4 1 F#4 1 E4 2", "B4 1 - 1 B4 1 - 1 A4 1 G4 1 E4 2
           "B4 1 G4 1 E4 1 G4 1 B4 2 - 2", "D#5 1 F#5 1 D#5 1 B4 1 A4 2 F#4 2", "B4 2 A4 1 G4 1 F#4 2 D#4 2",
           "E4 1 G4 1 B4 1 E5 1 G5 2 E5 2", "D5 1 D5 1 - 1 D5 1 D5 1 E5 1 F#5 2"]
 CHORDS_C = "Em Em Am Em B7 B7 Em D7".split()
-CHORDS = {"G": (43, "G3 B3 D4"), "C": (36, "G3 C4 E4"), "D7": (38, "F#3 C4 D4"), "A7": (45, "G3 C#4 E4"), "Em": (40, "G3 B3 E4"),
-          "Am": (45, "A3 C4 E4"), "B7": (47, "F#3 A3 D#4")}
+CHORDS = {
+    "G": (43, "G3 B3 D4"),
+    "C": (36, "G3 C4 E4"),
+    "D7": (38, "F#3 C4 D4"),
+    "A7": (45, "G3 C#4 E4"),
+    "Em": (40, "G3 B3 E4"),
+    "Am": (45, "A3 C4 E4"),
+    "B7": (47, "F#3 A3 D#4"),
+}
 
 
 def pitch(name):
@@ -182,9 +197,19 @@ def answers(score, start):
 
 def main(target):
     score = Score()
-    for voice in (("tuba", TUBA, 92, 60), ("bass", BASS, 84, 64), ("skank", MUTED, 104, 92), ("accordion", ACCORDION, 92, 36),
-                  ("clarinet", CLARINET, 98, 56), ("trumpet", TRUMPET, 110, 72), ("oboe", OBOE, 98, 60), ("bassoon", BASSOON, 102, 70),
-                  ("piccolo", PICCOLO, 98, 48), ("guitar", GUITAR, 114, 50), ("quack", OBOE, 112, 88)):
+    for voice in (
+            ("tuba", TUBA, 92, 60),
+            ("bass", BASS, 84, 64),
+            ("skank", MUTED, 104, 92),
+            ("accordion", ACCORDION, 92, 36),
+            ("clarinet", CLARINET, 98, 56),
+            ("trumpet", TRUMPET, 110, 72),
+            ("oboe", OBOE, 98, 60),
+            ("bassoon", BASSOON, 102, 70),
+            ("piccolo", PICCOLO, 98, 48),
+            ("guitar", GUITAR, 114, 50),
+            ("quack", OBOE, 112, 88),
+    ):
         score.voice(*voice)
     # Two rounds are played and the second is kept: it begins with the echoes of its own end.
     end = compose(score, compose(score, 0))
@@ -193,13 +218,13 @@ def main(target):
     with tempfile.TemporaryDirectory() as folder:
         midi, wave = os.path.join(folder, "theme.mid"), os.path.join(folder, "theme.wav")
         score.write(midi)
-        subprocess.run(["fluidsynth", "-q", "-n", "-i", "-r", str(RATE), "-g", "0.5", "-o", "synth.chorus.active=0", "-O", "float",
-                        "-T", "wav", "-F", wave, SOUND_FONT, midi], check=True)
+        subprocess.run(["fluidsynth", "-q", "-n", "-i", "-r", str(RATE), "-g", "0.5", "-o",
+                       "synth.chorus.active=0", "-O", "float", "-T", "wav", "-F", wave, SOUND_FONT, midi], check=True)
         played = soundfile.read(wave)[0][samples:2 * samples]
         assert len(played) == samples, "the theme was cut short"
         soundfile.write(wave, leveled(played), RATE, subtype="PCM_16")
-        subprocess.run(["lame", "--quiet", "-m", "j", "-b", "160", "-q", "2", "--noreplaygain", wave, target + "/quackdash.mp3"],
-                       check=True)
+        subprocess.run(["lame", "--quiet", "-m", "j", "-b", "160", "-q", "2",
+                       "--noreplaygain", wave, target + "/quackdash.mp3"], check=True)
 
 
 def leveled(played):

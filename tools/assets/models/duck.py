@@ -1,7 +1,8 @@
 """duck.dae: a duck in a pedal car, one mesh in one colour.
 
-Built in the car's own units: x ahead, y left, z up, the origin at the chassis origin. The game draws the wheels itself: radius 0.45
-and 0.35 wide, at x = +-1.51, y = +-0.92, z = -0.75; the front ones steer by up to 60 degrees and all sink in by up to 0.3.
+Built in the car's own units: x ahead, y left, z up, the origin at the chassis origin. The game draws the wheels itself:
+radius 0.45 and 0.35 wide, at x = +-1.51, y = +-0.92, z = -0.75; the front ones steer by up to 60 degrees and all sink
+in by up to 0.3.
 """
 import math
 import os
@@ -83,14 +84,16 @@ def scarf(duck):
 
 
 def head(duck):
-    duck.tube([ring(0.30, 0.45, 0.36, 0.36, climb=80), ring(0.34, 0.95, 0.26, 0.26, climb=90)], capStart=False, capEnd=False)
+    duck.tube([ring(0.30, 0.45, 0.36, 0.36, climb=80), ring(0.34, 0.95, 0.26, 0.26, climb=90)],
+              capStart=False, capEnd=False)
     scarf(duck)
     duck.ellipsoid(HEAD, HEAD_RADII, 14, 8)
 
 
 def bill(duck):
     duck.tube([ring(x, z, width, height, points=8, climb=climb, power=2.4) for x, z, width, height, climb in (
-        (0.70, 1.25, 0.27, 0.17, -10), (1.00, 1.18, 0.23, 0.10, 0), (1.26, 1.21, 0.33, 0.065, 15), (1.46, 1.28, 0.20, 0.04, 25))],
+        (0.70, 1.25, 0.27, 0.17, -10), (1.00, 1.18, 0.23, 0.10, 0), (1.26, 1.21, 0.33, 0.065, 15),
+        (1.46, 1.28, 0.20, 0.04, 25))],
         capStart=False)
     duck.tube([ring(x, z, width, height, points=8, power=2.4, climb=-18) for x, z, width, height in (
         (0.66, 1.06, 0.20, 0.09), (0.98, 0.93, 0.20, 0.065), (1.22, 0.87, 0.16, 0.04))], capStart=False)
@@ -104,7 +107,8 @@ def eyes(duck):
         facing = gaze.to_track_quat("Z", "Y").to_matrix()
         eye = Vector((0.62, side * 0.25, 1.53))
         duck.ellipsoid(eye, (0.18, 0.20, 0.17), 8, 4, facing)
-        duck.ellipsoid(eye + gaze * 0.09 + Vector((0, side * -0.03, 0)), (0.095, 0.13, 0.10), 8, 4, facing, upTo=0.5, ink=True)
+        duck.ellipsoid(eye + gaze * 0.09 + Vector((0, side * -0.03, 0)),
+                       (0.095, 0.13, 0.10), 8, 4, facing, upTo=0.5, ink=True)
         brow = [tip(0.60, 1.71, 0.40), ring(0.72, 1.66, 0.07, 0.045, y=0.27, points=4), tip(0.83, 1.60, 0.09)]
         duck.tube(brow if side > 0 else mirrored(brow), ink=True)
 

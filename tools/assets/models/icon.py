@@ -1,7 +1,7 @@
 """The program's icon: the duck's head in a party hat on a round badge, one picture a size.
 
-Drawn like the game draws: bands of light, and an outline that is the model's own back, swollen. Blender's Cycles renders the duck,
-Pillow lays it over the badge. Small pictures get a wider outline.
+Drawn like the game draws: bands of light, and an outline that is the model's own back, swollen. Blender's Cycles
+renders the duck, Pillow lays it over the badge. Small pictures get a wider outline.
 """
 import os
 import sys
@@ -21,7 +21,8 @@ OVERSAMPLING = 4
 VIEW = 2.45                    # what the picture spans, in the car's units
 OUTLINE_PIXELS, OUTLINE_LEAST = 1.0, 0.028
 
-YELLOW, ORANGE, RED, WHITE, PINK = (1.0, 0.78, 0.10), (1.0, 0.45, 0.05), (0.86, 0.13, 0.16), (1.0, 1.0, 1.0), (0.93, 0.16, 0.48)
+YELLOW, ORANGE, RED = (1.0, 0.78, 0.10), (1.0, 0.45, 0.05), (0.86, 0.13, 0.16)
+WHITE, PINK = (1.0, 1.0, 1.0), (0.93, 0.16, 0.48)
 INK = (0.07, 0.06, 0.10)
 BADGE, BADGE_LOW, RIM = (98, 196, 238), (40, 128, 200), (18, 15, 26)
 
@@ -51,7 +52,8 @@ def paint(colour):
     """Three bands of light from the upper left of the viewer."""
     material, glow, _ = emission("paint", colour)
     nodes, links = material.node_tree.nodes, material.node_tree.links
-    normal, light, ramp = nodes.new("ShaderNodeNewGeometry"), nodes.new("ShaderNodeVectorMath"), nodes.new("ShaderNodeValToRGB")
+    normal, light = nodes.new("ShaderNodeNewGeometry"), nodes.new("ShaderNodeVectorMath")
+    ramp = nodes.new("ShaderNodeValToRGB")
     light.operation = "DOT_PRODUCT"
     light.inputs[1].default_value = Vector((0.62, -0.28, 0.74)).normalized()
     ramp.color_ramp.interpolation = "CONSTANT"
@@ -74,7 +76,8 @@ def outline():
     """Seen from behind only: what faces the eye lets the model through."""
     material, glow, output = emission("outline", INK)
     nodes, links = material.node_tree.nodes, material.node_tree.links
-    facing, clear, choice = nodes.new("ShaderNodeNewGeometry"), nodes.new("ShaderNodeBsdfTransparent"), nodes.new("ShaderNodeMixShader")
+    facing, clear = nodes.new("ShaderNodeNewGeometry"), nodes.new("ShaderNodeBsdfTransparent")
+    choice = nodes.new("ShaderNodeMixShader")
     links.new(facing.outputs["Backfacing"], choice.inputs[0])
     links.new(clear.outputs[0], choice.inputs[1])
     links.new(glow.outputs[0], choice.inputs[2])

@@ -1,8 +1,8 @@
 """partyhat.dae: a paper hat with a rolled brim, stepped stripes and a pompom, made for the duck's head.
 
 The game hangs the hat on the chassis by a fixed transform: file units are half as large as the car's, and a point lies
-(z + 7.3) / 2 above the chassis origin and (1 - y) / 2 ahead of it, in the axes after import. The hat bobs by half a unit up
-and down. The game computes the normals itself from faces that share corners.
+(z + 7.3) / 2 above the chassis origin and (1 - y) / 2 ahead of it, in the axes after import. The hat bobs by half a
+unit up and down. The game computes the normals itself from faces that share corners.
 """
 import os
 import sys
@@ -12,7 +12,8 @@ from mathutils import Matrix, Vector
 sys.path.append(os.path.dirname(os.path.abspath(__file__)))
 from shapes import Builder, circle, export
 
-# The duck's crown in the car's units (duck.py), and how far above it the brim floats at rest: at its lowest it is pulled down a bit.
+# The duck's crown in the car's units (duck.py), and how far above it the brim floats at rest: at its lowest it is
+# pulled down a bit.
 HEAD_TOP, HEAD_AHEAD, HOVER = 1.78, 0.34, 0.30
 
 # After import z is up and -y ahead; the importer mirrors z.

@@ -1,7 +1,7 @@
 """Building blocks of the model scripts, run inside Blender.
 
-Models are built here with x ahead, y to the left and z up, in whatever unit the script likes; export() turns them into the axes
-that the game wants and writes the one mesh of the file.
+Models are built here with x ahead, y to the left and z up, in whatever unit the script likes; export() turns them into
+the axes that the game wants and writes the one mesh of the file.
 """
 import math
 import re
@@ -37,8 +37,8 @@ def circle(points):
 class Builder:
     """Collects closed shells into one mesh. Faces wind counter-clockwise seen from outside.
 
-    An ink shell is turned inside out when exported, with its normals left pointing outwards: the game draws what faces away from
-    the eye in its outline colour, so such a shell shows as a dark mark, in a model that has but one colour.
+    An ink shell is turned inside out when exported, with its normals left pointing outwards: the game draws what faces
+    away from the eye in its outline colour, so such a shell shows as a dark mark, in a model that has but one colour.
     """
 
     def __init__(self):
@@ -85,8 +85,9 @@ class Builder:
             ring = []
             for i in range(segments if 0 < k < rings else 1):
                 around = 2 * math.pi * i / segments
-                ring.append(centre + turn @ Vector((math.sin(polar) * math.cos(around) * radii[0],
-                                                    math.sin(polar) * math.sin(around) * radii[1], -math.cos(polar) * radii[2])))
+                point = Vector((math.sin(polar) * math.cos(around) * radii[0],
+                                math.sin(polar) * math.sin(around) * radii[1], -math.cos(polar) * radii[2]))
+                ring.append(centre + turn @ point)
             result.append(ring)
         self.tube(result, capStart=False, ink=ink)
 
@@ -108,11 +109,12 @@ class Builder:
 
     def disc(self, centre, facing, radius, sides, ink=False):
         turn = Vector(facing).to_track_quat("Z", "Y").to_matrix()
-        self.shell([Vector(centre) + turn @ Vector((radius * c, radius * s, 0)) for c, s in circle(sides)], [tuple(range(sides))], ink)
+        self.shell([Vector(centre) + turn @ Vector((radius * c, radius * s, 0))
+                   for c, s in circle(sides)], [tuple(range(sides))], ink)
 
     def box(self, low, high):
-        self.tube([[Vector((x, y, z)) for y, z in ((low[1], low[2]), (high[1], low[2]), (high[1], high[2]), (low[1], high[2]))]
-                   for x in (low[0], high[0])])
+        self.tube([[Vector((x, y, z)) for y, z in ((low[1], low[2]), (high[1], low[2]),
+                  (high[1], high[2]), (low[1], high[2]))] for x in (low[0], high[0])])
 
     def rod(self, start, end, radius, sides, radiusEnd=None, ink=False):
         """A closed cylinder, or a frustum with another radius at its end, between two points."""
@@ -148,7 +150,8 @@ def settled(text):
 
 
 def export(path, builder, axes, smoothAngle):
-    """Writes the shells as one Collada mesh. `axes` (3 x 3, a rotation times a scale) leads from the building axes to the file's.
+    """Writes the shells as one Collada mesh. `axes` (3 x 3, a rotation times a scale) leads from the building axes to
+    the file's.
     Edges sharper than `smoothAngle` degrees stay hard."""
     faces, ink = zip(*triangles(builder))
     vertices = [axes @ v for v in builder.vertices]
@@ -159,12 +162,14 @@ def export(path, builder, axes, smoothAngle):
     if draft.validate(verbose=True):
         raise SystemExit(path + ": degenerate or doubled faces")
     shaded, smooth = shadedNormals(draft, smoothAngle), shadedNormals(draft, 180)
-    normals = [whole if inside else part for whole, part, inside in zip(smooth, shaded, ink)] # ink must not split where it swells
+    normals = [whole if inside else part for whole, part, inside in zip(
+        smooth, shaded, ink)] # ink must not split where it swells
 
     mesh = bpy.data.meshes.new("mesh")
     mesh.from_pydata(vertices, [], [face[::-1] if inside else face for face, inside in zip(faces, ink)])
     mesh.use_auto_smooth = True
-    mesh.normals_split_custom_set([n for corners, inside in zip(normals, ink) for n in (corners[::-1] if inside else corners)])
+    mesh.normals_split_custom_set([n for corners, inside in zip(normals, ink)
+                                  for n in (corners[::-1] if inside else corners)])
     thing = bpy.data.objects.new("mesh", mesh)
     bpy.context.collection.objects.link(thing)
     thing.select_set(True)

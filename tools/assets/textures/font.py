@@ -1,7 +1,8 @@
 """font.tga: printable ASCII as 16 x 16 cells, white with a dark rim on nothing.
 
-Cell 0 is '!', at the bottom left of the stored picture; cells go right, then up. Text is drawn with a glyph's top edge at the
-smaller v, so each glyph stands on its head as stored: the whole sheet is the ordinary reading order turned upside down.
+Cell 0 is '!', at the bottom left of the stored picture; cells go right, then up. Text is drawn with a glyph's top edge
+at the smaller v, so each glyph stands on its head as stored: the whole sheet is the ordinary reading order turned
+upside down.
 """
 import sys
 

@@ -46,7 +46,8 @@ def grass():
         tone = colour("#86d455") if random.random() < 0.6 else colour("#479a31")
         height = random.uniform(11, 17)
         for lean in (-7, 0, 7):
-            picture = mix(picture, tone, 0.85 * blade(x - lean * 0.35, y, height * (1.15 if lean == 0 else 0.85), lean, 2.4))
+            picture = mix(picture, tone, 0.85 * blade(x - lean * 0.35, y,
+                          height * (1.15 if lean == 0 else 0.85), lean, 2.4))
     return picture
 
 

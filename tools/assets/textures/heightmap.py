@@ -1,11 +1,11 @@
 """map.tga: the playing field's heights, one grey byte a world unit.
 
-A pixel's column counts along world z and its row from the bottom along world x, both from -256; the byte 255 stands for a height
-of 50 units. The game reads every eighth pixel, so nothing here is narrower than three of those.
+A pixel's column counts along world z and its row from the bottom along world x, both from -256; the byte 255 stands for
+a height of 50 units. The game reads every eighth pixel, so nothing here is narrower than three of those.
 
-The middle, where cars enter, rolls gently at 40 to 46 units: cars drop in from 50, and where frames are slow a longer fall
-tips them over. Around it runs a sunken ring, then a rim of hills with a lookout in each corner. Along z two causeways lead level to
-the edge, along x two gaps slope down to it: there one can drive off the field.
+The middle, where cars enter, rolls gently at 40 to 46 units: cars drop in from 50, and where frames are slow a longer
+fall tips them over. Around it runs a sunken ring, then a rim of hills with a lookout in each corner. Along z two
+causeways lead level to the edge, along x two gaps slope down to it: there one can drive off the field.
 """
 import sys
 
@@ -23,7 +23,8 @@ MEADOW, RING, CREST, LOOKOUT, CAUSEWAY, SHORE = 41.8, 22.5, 38.0, 46.0, 39.8, 20
 
 
 def ramp(value, start, end):
-    """0 before `start`, 1 beyond `end`, even in between: for a given rise the gentlest slope. The final blur rounds its ends."""
+    """0 before `start`, 1 beyond `end`, even in between: for a given rise the gentlest slope. The final blur rounds its
+    ends."""
     return numpy.clip((value - start) / (end - start), 0.0, 1.0)
 
 
@@ -56,7 +57,8 @@ def heights():
     causeway = ramp(numpy.abs(x), 54, 15) * smoothstep(95, 125, numpy.abs(z))
     height = height + numpy.maximum(0.0, CAUSEWAY - height) * causeway
 
-    # Inside the meadow: a table in the middle, steep enough to show its soil, and four gentle mounds with flat tops around it.
+    # Inside the meadow: a table in the middle, steep enough to show its soil, and four gentle mounds with flat tops
+    # around it.
     height = height + 3.4 * ramp(numpy.hypot(x, z), 42, 25)
     for angle in (38, 128, 218, 308):
         centre = 82 * numpy.cos(numpy.radians(angle)), 82 * numpy.sin(numpy.radians(angle))
@@ -71,7 +73,8 @@ def report(height):
     samples = height[::8, ::8]
     entry = samples[(256 - ENTRY) // 8:(256 + ENTRY) // 8 + 2, (256 - ENTRY) // 8:(256 + ENTRY) // 8 + 2]
     slopes = numpy.hypot(*numpy.gradient(samples, 8.0))
-    print("entry %.1f to %.1f, field %.1f to %.1f, steeper than 25 degrees: %.2f %%, steepest in the middle %.1f degrees" % (
+    print("entry %.1f to %.1f, field %.1f to %.1f, steeper than 25 degrees: %.2f %%, "
+          "steepest in the middle %.1f degrees" % (
         entry.min(), entry.max(), samples.min(), samples.max(), 100.0 * (slopes > DRIVABLE_SLOPE).mean(),
         numpy.degrees(numpy.arctan(slopes[19:46, 19:46].max()))))
     if entry.min() < ENTRY_LOW or entry.max() > ENTRY_HIGH:

@@ -1,9 +1,9 @@
 """skybox.tga: sky, clouds, hills and sea as the six faces of a box seen from inside.
 
-Four by two cells: -X, +Z, +X and -Z side by side below, +Y above +Z. The floor of the box shows one texel, the lower left
-corner. Every texel takes the colour of the direction it is seen in, so faces meet by construction; and the sky above as well as
-the sea below fade to one blue before the box's upper and lower edges, so that what filtering mixes in there from cells which
-are no neighbours on the box is that same blue.
+Four by two cells: -X, +Z, +X and -Z side by side below, +Y above +Z. The floor of the box shows one texel, the lower
+left corner. Every texel takes the colour of the direction it is seen in, so faces meet by construction; and the sky
+above as well as the sea below fade to one blue before the box's upper and lower edges, so that what filtering mixes in
+there from cells which are no neighbours on the box is that same blue.
 """
 import sys
 
@@ -68,7 +68,8 @@ def look(direction):
             around = (numpy.degrees(azimuth) - lobeAzimuth + 180.0) % 360.0 - 180.0
             across = around * numpy.cos(numpy.radians(lobeElevation))
             body = numpy.maximum(body, radius - numpy.hypot(across, elevation - lobeElevation))
-            light = numpy.maximum(light, radius - numpy.hypot(across - 0.15 * radius, elevation - lobeElevation - 0.35 * radius))
+            fromLobe = numpy.hypot(across - 0.15 * radius, elevation - lobeElevation - 0.35 * radius)
+            light = numpy.maximum(light, radius - fromLobe)
         flatBase = smoothstep(-0.2, 0.2, elevation - base)
         cover = smoothstep(-0.1, 0.15, body) * flatBase
         picture = mix(picture, CLOUD_SHADE, cover)

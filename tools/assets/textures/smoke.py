@@ -6,7 +6,8 @@ import numpy
 from pictures import colour, mix, saveTga, smoothstep
 
 SIZE = 128  # pixels a side
-# Lobes of the puff: centre x, centre y, radius, in halves of the picture's side, y down. The game turns each puff by another angle.
+# Lobes of the puff: centre x, centre y, radius, in halves of the picture's side, y down. The game turns each puff by
+# another angle.
 LOBES = [(0.0, 0.0, 0.62)] + [(0.45 * numpy.cos(a), 0.45 * numpy.sin(a), r) for a, r in
                               ((0.2, 0.42), (1.15, 0.36), (2.2, 0.44), (3.25, 0.36), (4.2, 0.42), (5.3, 0.38))]
 
