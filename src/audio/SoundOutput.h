@@ -17,9 +17,9 @@ using SoundChannel = std::weak_ptr<SoundSource>;
 
 /// Sound output over OpenAL Soft: a fixed number of channels that play decoded sounds.
 ///
-/// Owned by the AudioSystem; one open at a time in a process. Order: open, then the rest; main thread only. Before that,
-/// without a sound device, after the device is lost and after close, the output is silent: its calls succeed and play
-/// nothing, so that a failing device is reported once, and not by everything that would have been heard.
+/// Owned by the AudioSystem; one open at a time in a process. Order: open, then the rest; main thread only. Before
+/// that, without a sound device, after the device is lost and after close, the output is silent: its calls succeed and
+/// play nothing, so that a failing device is reported once, and not by everything that would have been heard.
 class SoundOutput {
 public:
     explicit SoundOutput(SoundTarget ownTarget);
@@ -30,8 +30,8 @@ public:
     /// Open the device, for so many sounds at once. False when there is none.
     [[nodiscard]] bool open(std::size_t channelCount);
 
-    /// Start a sound on a channel of its own; volume 0 to 1, linear, more counts as 1. When all are taken the oldest one
-    /// that does not loop gives way. False when all loop, or the sound library refuses.
+    /// Start a sound on a channel of its own; volume 0 to 1, linear, more counts as 1. When all are taken the oldest
+    /// one that does not loop gives way. False when all loop, or the sound library refuses.
     [[nodiscard]] bool play(const std::shared_ptr<const SoundData>& sound, bool loop, float volume,
         SoundChannel& channel);
 
