@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kChannels = 32; // sounds at once
+constexpr std::size_t kChannels = 32; // sounds at once
 
 AudioSystem* createForProcess()
 {
@@ -25,14 +25,13 @@ AudioSystem* AudioSystem::getInstance()
 
 void AudioSystem::init(const std::vector<std::pair<std::string, std::string>>& files)
 {
-    if (system.create() != kSoundOk) logLine(0) << "Error, initializing Audiosystem!" << std::endl;
-    if (system.init(kChannels) != kSoundOk) logLine(0) << "Error, initializing Audiosystem!" << std::endl;
+    if (!system.open(kChannels)) logLine(0) << "Error, initializing Audiosystem!" << std::endl;
     for (const auto& [name, file] : files) addSound(name, file);
 }
 
 void AudioSystem::addSound(const std::string& name, const std::string& file)
 {
-    sounds[name] = std::make_unique<Sound>(&system, name, file);
+    sounds[name] = createSound(name, file);
 }
 
 std::unique_ptr<Sound> AudioSystem::createSound(const std::string& name, const std::string& file)
@@ -47,7 +46,7 @@ void AudioSystem::play(const std::string& name, bool loop, float volume)
     } else {
         logLine(1) << "Sound does not exist: " << name << std::endl;
     }
-    if (system.update() != kSoundOk) logLine(0) << "Error, updating Audiosystem!" << std::endl;
+    if (!system.update()) logLine(0) << "Error, updating Audiosystem!" << std::endl;
 }
 
 void AudioSystem::update()

@@ -14,22 +14,22 @@
 /// silence.
 class AudioSystem {
 public:
-    /// Created on the first call, never destroyed; at the end of the process its device is given back.
+    /// Return the process's own, made on the first call and never destroyed; its device is given back at the end.
     static AudioSystem* getInstance();
 
-    /// One of its own, for tests; at most one with an open output at a time.
+    /// Make one for a test; at most one has an open output at a time.
     explicit AudioSystem(SoundTarget target) : system(target) {}
 
-    /// Opens the output and loads the sounds, given as pairs of name and file.
+    /// Open the output and load the sounds, given as pairs of name and file.
     void init(const std::vector<std::pair<std::string, std::string>>& files);
 
-    /// Loads a sound under a name, in place of the one that had it.
+    /// Load a sound under a name, in place of the one that had it.
     void addSound(const std::string& name, const std::string& file);
 
-    /// Loads a sound that only its caller plays: play does not find it.
+    /// Load a sound that only its caller plays: play does not find it.
     std::unique_ptr<Sound> createSound(const std::string& name, const std::string& file);
 
-    /// Plays a sound by name; volume 0 to 1.
+    /// Play a sound by name; volume 0 to 1.
     void play(const std::string& name, bool loop, float volume);
 
     void update();

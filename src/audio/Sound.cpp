@@ -1,5 +1,7 @@
 #include "audio/Sound.h"
 
+#include "audio/SoundData.h"
+#include "audio/SoundSource.h"
 #include "base/Logger.h"
 
 #include <cmath>
@@ -14,38 +16,34 @@ constexpr double kPitchUnit = 44100.0;    // hertz
 } // namespace
 
 Sound::Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file)
-    : system(ownSystem), name(ownName)
+    : system(ownSystem), name(ownName), data(SoundData::load(file))
 {
-    if (system->createSound(file, sound) != kSoundOk) logLine(0) << "Error, initializing Sound: " << name << std::endl;
+    if (!data) logLine(0) << "Error, initializing Sound: " << name << std::endl;
 }
 
 void Sound::play(bool loop, float volume)
 {
-    if (system->setMode(sound, loop ? SoundMode::LoopNormal : SoundMode::LoopOff) != kSoundOk) {
+    if (!data) {
         logLine(0) << "Error, looping sound: " << name << std::endl;
-        return;
-    }
-    if (system->playSound(sound, channel) != kSoundOk) {
-        logLine(0) << "Error, playing sound: " << name << std::endl;
-        return;
-    }
-    if (system->setVolume(channel, volume) != kSoundOk) {
+    } else if (!(volume >= 0)) { // no number either
         logLine(0) << "Error, setting sound-volume: " << name << std::endl;
-        return;
+    } else if (!system->play(data, loop, volume, channel)) {
+        logLine(0) << "Error, playing sound: " << name << std::endl;
+    } else {
+        updateSystem();
     }
-    updateSystem();
 }
 
 void Sound::setPitch(float target)
 {
     if (std::abs(target - pitch) > kPitchRounding) pitch += pitch < target ? kPitchStep : -kPitchStep;
 
-    // No line for a sound without a channel: one that cannot be played has said so, and this comes every frame.
-    static_cast<void>(system->setFrequency(channel, static_cast<float>((pitch + kPitchOffset) * kPitchUnit)));
+    if (const auto playing = channel.lock())
+        playing->setFrequency(static_cast<float>((pitch + kPitchOffset) * kPitchUnit));
     updateSystem();
 }
 
 void Sound::updateSystem()
 {
-    if (system->update() != kSoundOk) logLine(0) << "Error, updating Audiosystem!" << std::endl;
+    if (!system->update()) logLine(0) << "Error, updating Audiosystem!" << std::endl;
 }

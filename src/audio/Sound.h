@@ -10,27 +10,23 @@
 /// does nothing that is heard.
 class Sound final : public ISound {
 public:
-    /// Loads the file. On failure logs "Error, initializing Sound: " with the name.
+    /// Load the file. On failure log "Error, initializing Sound: " with the name.
     Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file);
 
-    /// What is playing goes on: the samples belong to the output.
+    /// Forget the sound; what is playing of it goes on.
     ~Sound() override = default;
     Sound(const Sound&) = delete;
     Sound& operator=(const Sound&) = delete;
 
-    /// Starts the sound on a new channel, which setPitch then goes for; what played before plays on. Volume 0 to 1.
     void play(bool loop, float volume) override;
-
-    /// Moves the pitch by one step of 0.01 towards the target (-1 to 1) and plays at (pitch + 3) x 44100 Hz from now
-    /// on. Once per frame.
-    void setPitch(float target) override;
+    void setPitch(float target) override; ///< in steps of 0.01, to play at (pitch + 3) x 44100 Hz
 
 private:
     void updateSystem();
 
-    SoundData* sound = nullptr;
     SoundOutput* system;
-    SoundChannel channel;
     std::string name;
+    std::shared_ptr<const SoundData> data; ///< null: the file could not be loaded
+    SoundChannel channel;
     float pitch = 0.0f;
 };

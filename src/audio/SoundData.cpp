@@ -1,50 +1,93 @@
 #include "audio/SoundData.h"
 
-#include "audio/SoundFile.h"
+#include "base/Logger.h"
 
+#include <AL/alc.h>
 #include <AL/alext.h>
+#include <sndfile.h>
 
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <fstream>
+#include <system_error>
 #include <vector>
 
 namespace {
 
-constexpr std::int64_t kLongestWhole =
-    std::int64_t{512} * 1024; // frames (12 s at 44.1 kHz, 4 MiB decoded); longer sounds are streamed
+constexpr sf_count_t kMostFrames = 10 * 60 * 48000; // ten minutes at 48 kHz, 230 MB decoded
+
+struct Closer {
+    void operator()(SNDFILE* file) const { sf_close(file); }
+};
+using SoundFile = std::unique_ptr<SNDFILE, Closer>;
+
+/// Return why a file cannot be decoded, or nothing. Not in the decoder's words: to it a folder is of an unknown format,
+/// and a text called .mp3 does not exist.
+std::string findFault(const std::string& path, const SoundFile& file, const SF_INFO& info)
+{
+    errno = 0;
+    if (std::ifstream(path).peek() == std::ifstream::traits_type::eof())
+        return errno ? std::generic_category().message(errno) : "it is empty";
+    if (!file) return "no sound that can be decoded";
+    if (info.frames <= 0 || info.samplerate <= 0) return "no sound in it";
+    if (info.frames > kMostFrames) return "longer than ten minutes at 48 kHz";
+    if (info.channels > 2) return std::to_string(info.channels) + " channels, only one or two can be played";
+    return "";
+}
+
+float cutToFullScale(float sample)
+{
+    return std::isnan(sample) ? 0.0f : std::clamp(sample, -1.0f, 1.0f);
+}
+
+/// Decode what there is of the frames that the file promises, left and right in turn.
+std::vector<float> decode(const SoundFile& file, const SF_INFO& info)
+{
+    std::vector<float> samples(2 * static_cast<std::size_t>(info.frames));
+    const sf_count_t decoded = sf_readf_float(file.get(), samples.data(), info.frames);
+    const auto frames = static_cast<std::size_t>(std::max(decoded, sf_count_t{0}));
+    if (info.channels == 1) {
+        for (std::size_t i = frames; i-- > 0;) samples[2 * i] = samples[2 * i + 1] = samples[i];
+    }
+    samples.resize(2 * frames);
+    std::transform(samples.begin(), samples.end(), samples.begin(), cutToFullScale);
+    return samples;
+}
 
 } // namespace
 
-std::unique_ptr<SoundData> SoundData::load(const std::string& path, bool audible, std::string& error)
+std::shared_ptr<const SoundData> SoundData::load(const std::string& path)
 {
-    const std::unique_ptr<SoundFile> file = SoundFile::open(path, error);
-    if (!file) return nullptr;
-
-    std::unique_ptr<SoundData> sound(new SoundData(path, *file));
-    if (audible && !sound->streamed && !sound->decode(*file)) {
-        error = "cannot be decoded";
+    SF_INFO info{};
+    const SoundFile file(sf_open(path.c_str(), SFM_READ, &info));
+    std::string fault = findFault(path, file, info);
+    std::vector<float> samples;
+    if (fault.empty()) {
+        samples = decode(file, info);
+        if (samples.empty()) fault = "damaged from its beginning";
+    }
+    if (!fault.empty()) {
+        logLine(0) << "couldn't open sound file: " << path << " (" << fault << ")" << std::endl;
         return nullptr;
     }
-    return sound;
+    const sf_count_t missing = info.frames - static_cast<sf_count_t>(samples.size() / 2);
+    if (missing >= info.samplerate) // less is the rounding of an estimate
+        logLine(1) << "sound file is damaged: " << path << " (" << missing / info.samplerate
+                   << " seconds at its end are lost)" << std::endl;
+
+    return std::shared_ptr<const SoundData>(new SoundData(samples, info.samplerate));
 }
 
-SoundData::SoundData(const std::string& ownPath, const SoundFile& file)
-    : path(ownPath), sampleRate(file.getSampleRate()), streamed(file.getFrames() > kLongestWhole)
+SoundData::SoundData(const std::vector<float>& samples, int ownSampleRate) : sampleRate(ownSampleRate)
 {
+    if (!alcGetCurrentContext()) return;
+    alGenBuffers(1, &buffer);
+    alBufferData(buffer, AL_FORMAT_STEREO_FLOAT32, samples.data(), static_cast<ALsizei>(samples.size() * sizeof(float)),
+        sampleRate);
 }
 
-void SoundData::releaseBuffer()
+SoundData::~SoundData()
 {
     if (buffer) alDeleteBuffers(1, &buffer);
-    buffer = 0;
-}
-
-bool SoundData::decode(SoundFile& file)
-{
-    std::vector<float> samples(2 * static_cast<std::size_t>(file.getFrames()));
-    const std::size_t frames = file.read(samples.data(), samples.size() / 2);
-    if (frames == 0) return false;
-
-    alGenBuffers(1, &buffer);
-    alBufferData(buffer, AL_FORMAT_STEREO_FLOAT32, samples.data(), static_cast<ALsizei>(2 * frames * sizeof(float)),
-        sampleRate);
-    return alGetError() == AL_NO_ERROR;
 }

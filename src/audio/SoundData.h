@@ -2,41 +2,29 @@
 
 #include <AL/al.h>
 
-#include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
-class SoundFile;
-
-/// A sound that can be played, made from a file. Short ones are decoded whole into a buffer of the sound library, long
-/// ones (music) are decoded while they play. Owned by the SoundOutput, which must have a current context while an
-/// audible one is made or destroyed.
+/// A sound that can be played: a file of anything that libsndfile reads (WAV, MP3 and more), decoded whole into a
+/// buffer of the sound library, so that nothing is read while it plays. Shared by its Sound and by what plays of it.
 class SoundData {
 public:
-    /// `audible` false: the file is only checked, for an output that plays nothing. Nothing, and a reason in `error`,
-    /// on failure.
-    static std::unique_ptr<SoundData> load(const std::string& path, bool audible, std::string& error);
+    /// Decode a file of one channel, which then goes to both sides at full level, or two. Samples beyond full scale, as
+    /// a damaged MP3 has them, are cut to it. Null when the file is missing or no sound that can be played (logged with
+    /// the reason). Without a sound device the file is only checked.
+    static std::shared_ptr<const SoundData> load(const std::string& path);
 
-    ~SoundData() { releaseBuffer(); }
+    ~SoundData();
     SoundData(const SoundData&) = delete;
     SoundData& operator=(const SoundData&) = delete;
 
-    const std::string& getPath() const { return path; }
     int getSampleRate() const { return sampleRate; } ///< hertz
-    bool isStreamed() const { return streamed; }
-    ALuint getBuffer() const { return buffer; } ///< 0 for a streamed or an inaudible sound
-
-    /// Gives the samples back to the sound library; the sound cannot be heard any more.
-    void releaseBuffer();
-
-    bool looping = false; ///< what plays that start from now on do at the end
+    ALuint getBuffer() const { return buffer; }
 
 private:
-    SoundData(const std::string& ownPath, const SoundFile& file);
-    bool decode(SoundFile& file);
+    SoundData(const std::vector<float>& samples, int ownSampleRate);
 
-    std::string path;
     int sampleRate;
-    bool streamed;
     ALuint buffer = 0;
 };

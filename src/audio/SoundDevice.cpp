@@ -1,30 +1,48 @@
 #include "audio/SoundDevice.h"
 
+#include "audio/SoundOutput.h"
+
 #define AL_ALEXT_PROTOTYPES
 #include <AL/alext.h>
 
 #include <array>
 
-bool SoundDevice::openDefault()
+namespace {
+
+/// Return the context's attributes. What plays is no place in space, so that headphones get what two loudspeakers do;
+/// and what adds up to more than full scale, as two sides on one loudspeaker may, is turned down before it clips.
+std::array<ALCint, 7> attributesFor(SoundTarget target)
 {
-    device = alcOpenDevice(nullptr);
-    return device != nullptr;
+    if (target == SoundTarget::Speakers) return {ALC_HRTF_SOFT, ALC_FALSE, ALC_OUTPUT_LIMITER_SOFT, ALC_TRUE};
+
+    constexpr int kLoopbackRate = 44100; // hertz
+    const ALCint layout = target == SoundTarget::MonoLoopback ? ALC_MONO_SOFT
+        : target == SoundTarget::SurroundLoopback             ? ALC_5POINT1_SOFT
+                                                              : ALC_STEREO_SOFT;
+    return {ALC_FORMAT_CHANNELS_SOFT, layout, ALC_FORMAT_TYPE_SOFT, ALC_FLOAT_SOFT, ALC_FREQUENCY, kLoopbackRate};
 }
 
-bool SoundDevice::openLoopback()
+} // namespace
+
+std::unique_ptr<SoundDevice> SoundDevice::open(SoundTarget target)
 {
-    device = alcLoopbackOpenDeviceSOFT(nullptr);
-    loopback = device != nullptr;
-    return loopback;
+    ALCdevice* const opened =
+        target == SoundTarget::Speakers ? alcOpenDevice(nullptr) : alcLoopbackOpenDeviceSOFT(nullptr);
+    if (!opened) return nullptr;
+
+    std::unique_ptr<SoundDevice> device(new SoundDevice(opened));
+    device->context = alcCreateContext(opened, attributesFor(target).data());
+    if (!device->context || !alcMakeContextCurrent(device->context)) return nullptr;
+    return device;
 }
 
-bool SoundDevice::createContext()
+SoundDevice::~SoundDevice()
 {
-    if (!device) return false;
-    constexpr std::array<ALCint, 7> kLoopbackFormat = {ALC_FORMAT_CHANNELS_SOFT, ALC_STEREO_SOFT, ALC_FORMAT_TYPE_SOFT,
-        ALC_FLOAT_SOFT, ALC_FREQUENCY, kLoopbackRate, 0};
-    context = alcCreateContext(device, loopback ? kLoopbackFormat.data() : nullptr);
-    return context && alcMakeContextCurrent(context);
+    if (context) {
+        alcMakeContextCurrent(nullptr);
+        alcDestroyContext(context);
+    }
+    alcCloseDevice(device);
 }
 
 bool SoundDevice::isConnected() const
@@ -34,19 +52,7 @@ bool SoundDevice::isConnected() const
     return connected == ALC_TRUE;
 }
 
-void SoundDevice::render(float* stereo, int frames)
+void SoundDevice::render(float* samples, int frames)
 {
-    if (loopback) alcRenderSamplesSOFT(device, stereo, frames);
-}
-
-void SoundDevice::close()
-{
-    if (context) {
-        alcMakeContextCurrent(nullptr);
-        alcDestroyContext(context);
-    }
-    if (device) alcCloseDevice(device);
-    context = nullptr;
-    device = nullptr;
-    loopback = false;
+    alcRenderSamplesSOFT(device, samples, frames);
 }

@@ -1,82 +1,39 @@
 #include "audio/SoundSource.h"
 
 #include "audio/SoundData.h"
-#include "audio/SoundStream.h"
 
 #include <AL/alext.h>
 
-#include <cmath>
-
-SoundSource::SoundSource()
+std::shared_ptr<SoundSource> SoundSource::start(std::shared_ptr<const SoundData> sound, bool loop, float volume)
 {
+    std::shared_ptr<SoundSource> started(new SoundSource(std::move(sound), loop));
+    ALuint& source = started->source;
     alGenSources(1, &source);
-    if (alGetError() != AL_NO_ERROR) {
-        source = 0;
-        return;
-    }
-    // Both channels go straight to both speakers, so that a volume is what it says; a place in space would weigh them
-    // anew.
-    alSourcei(source, AL_SOURCE_RELATIVE, AL_TRUE);
-    alSourcei(source, AL_DIRECT_CHANNELS_SOFT, AL_TRUE);
+
+    // Each side to its own loudspeaker, and both to the one where there is but one. A library as old as 1.19 does not
+    // know the word, which is then 0: it places the sides in front of the listener. That is the same on one and on two
+    // loudspeakers, and spreads them a little on more; its other way is to drop what has no loudspeaker of its own.
+    alSourcei(source, AL_DIRECT_CHANNELS_SOFT, alGetEnumValue("AL_REMIX_UNMATCHED_SOFT"));
+    alSourcef(source, AL_GAIN, volume);
+    alSourcei(source, AL_LOOPING, loop);
+    alSourcei(source, AL_BUFFER, static_cast<ALint>(started->sound->getBuffer()));
+    alSourcePlay(source);
+    return alGetError() == AL_NO_ERROR ? started : nullptr;
 }
 
 SoundSource::~SoundSource()
 {
-    if (!source) return;
-    stop();
-    alDeleteSources(1, &source);
-}
-
-bool SoundSource::start(const SoundData& sound, std::uint64_t newPlay)
-{
-    stop();
-    play = newPlay;
-    sampleRate = sound.getSampleRate();
-    looping = sound.looping;
-
-    alSourcef(source, AL_GAIN, 1.0f);
-    alSourcef(source, AL_PITCH, 1.0f);
-    if (sound.isStreamed()) {
-        stream = SoundStream::open(sound);
-        alSourcei(source, AL_LOOPING, AL_FALSE); // the stream loops; the source would repeat its last pieces
-        if (!stream || !stream->start(source)) return false;
-    } else {
-        alSourcei(source, AL_LOOPING, looping);
-        alSourcei(source, AL_BUFFER, static_cast<ALint>(sound.getBuffer()));
-    }
-    alSourcePlay(source);
-    return alGetError() == AL_NO_ERROR;
-}
-
-void SoundSource::stop()
-{
-    alSourceStop(source);
-    stream.reset();
-    alSourcei(source, AL_BUFFER, 0);
+    if (source) alDeleteSources(1, &source);
 }
 
 bool SoundSource::isPlaying() const
 {
-    if (stream && !stream->hasEnded()) return true; // one that has run dry goes on with the next update
     ALint state = AL_STOPPED;
     alGetSourcei(source, AL_SOURCE_STATE, &state);
     return state == AL_PLAYING;
 }
 
-bool SoundSource::setVolume(float volume)
+void SoundSource::setFrequency(float hertz)
 {
-    alSourcef(source, AL_GAIN, volume);
-    return alGetError() == AL_NO_ERROR;
-}
-
-bool SoundSource::setFrequency(float hertz)
-{
-    if (!std::isfinite(hertz)) return false;
-    alSourcef(source, AL_PITCH, hertz / static_cast<float>(sampleRate));
-    return alGetError() == AL_NO_ERROR;
-}
-
-bool SoundSource::update()
-{
-    return !stream || stream->refill();
+    alSourcef(source, AL_PITCH, hertz / static_cast<float>(sound->getSampleRate()));
 }

@@ -2,44 +2,32 @@
 
 #include <AL/al.h>
 
-#include <cstdint>
 #include <memory>
 
 class SoundData;
-class SoundStream;
 
-/// One of the places in the mix, that plays one sound at a time (a source of the sound library, heard equally from both
-/// sides whatever the listener does). Owned by the SoundOutput, whose context must be current.
+/// One playing of a sound (a source of the sound library), heard from both sides whatever the listener does. Owned by
+/// the SoundOutput, whose device must be open.
 class SoundSource {
 public:
-    SoundSource();
+    /// Start a sound from its beginning at its own speed; volume 0 to 1, linear, more counts as 1. Null when the sound
+    /// library refuses.
+    static std::shared_ptr<SoundSource> start(std::shared_ptr<const SoundData> sound, bool loop, float volume);
+
     ~SoundSource();
     SoundSource(const SoundSource&) = delete;
     SoundSource& operator=(const SoundSource&) = delete;
 
-    bool isValid() const { return source != 0; } ///< false when the sound library had no source left
-
-    /// Starts a sound from its beginning, at full volume and its own speed, in place of the one before. `newPlay`
-    /// numbers this playing.
-    bool start(const SoundData& sound, std::uint64_t newPlay);
-
-    /// Stops and forgets the sound.
-    void stop();
-
     bool isPlaying() const;
     bool isLooping() const { return looping; }
-    std::uint64_t getPlay() const { return play; } ///< the number of the current or last playing; 0 before the first
 
-    bool setVolume(float volume); ///< 0 to 1
-    bool setFrequency(float hertz);
-
-    /// Keeps a streamed sound going. False when its pieces cannot be handed on any more.
-    bool update();
+    /// Play the samples at this rate, in hertz, from now on.
+    void setFrequency(float hertz);
 
 private:
+    SoundSource(std::shared_ptr<const SoundData> ownSound, bool loop) : sound(std::move(ownSound)), looping(loop) {}
+
+    std::shared_ptr<const SoundData> sound;
+    bool looping;
     ALuint source = 0;
-    std::unique_ptr<SoundStream> stream;
-    std::uint64_t play = 0;
-    int sampleRate = 1; ///< of the current sound, hertz
-    bool looping = false;
 };
