@@ -8,8 +8,7 @@
 #include "render/TextRenderer.h"
 
 namespace {
-constexpr float kLongestPass =
-    1.0f; // seconds of game time; a pass of that length or more is neither computed nor drawn
+constexpr float kTooLong = 1.0f; // seconds of game time: a pass that comes this late is neither computed nor drawn
 }
 
 Game::Game() : timer(FrameTimer::getInstance()), core(Core::getInstance()) {}
@@ -40,8 +39,7 @@ bool Game::updatePass()
 {
     core->getRenderer()->getTextRenderer()->clear();
     timer->tick();
-    const bool shortEnough = gameDelta() < kLongestPass;
-    if (!shortEnough) return false;
+    if (gameDelta() >= kTooLong) return false;
 
     frameState = core->getStateManager()->getCurrentState();
     if (frameState) frameState->update();
