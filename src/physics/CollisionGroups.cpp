@@ -11,8 +11,7 @@ PxU32 collidesWith(CollisionGroup group)
 {
     switch (group) {
     case kGroundGroup: return kChassisGroup | kObstacleGroup | kDrivableObstacleGroup;
-    case kWheelGroup:
-        return kWheelGroup | kChassisGroup | kObstacleGroup; // the suspension rays carry the wheels, not the ground
+    case kWheelGroup: return kWheelGroup | kChassisGroup | kObstacleGroup; // rays hold them above the ground
     case kChassisGroup:
     case kObstacleGroup: return kEveryGroup;
     case kDrivableObstacleGroup: return 0;

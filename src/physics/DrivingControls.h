@@ -14,8 +14,8 @@ struct DriverInput {
 /// backwards. One per driver, owned by the player; apply() once a pass, before the physics world updates its vehicles.
 class DrivingControls {
 public:
-    /// Writes the car's raw inputs and switches into and out of reverse. Going backwards the brake control is the
-    /// throttle and the throttle control brakes. Returns the throttle written, 0 to 1.
+    /// Write the car's raw inputs and switch into and out of reverse. Going backwards the brake control is the throttle
+    /// and the throttle control brakes. Return the throttle written, 0 to 1.
     float apply(const DriverInput& input, VehicleHandle& car);
 
     bool isReversing() const { return reversing; }

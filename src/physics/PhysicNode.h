@@ -19,12 +19,12 @@ public:
     physx::PxRigidActor* actor = nullptr; ///< held by the scene, never null once the node is in use
     physx::PxShape* shape = nullptr;      ///< one of the actor's shapes to follow, e.g. a wheel; null: the actor itself
 
-    /// Teleports the actor, upright, and wakes it. Its velocities stay.
+    /// Teleport the actor, upright, and wake it. Its velocities stay.
     void setPosition(float x, float y, float z);
 
-    /// World units per second of simulated time. The actor must be dynamic.
+    /// Set the actor, which must be dynamic, in motion: world units per second of simulated time.
     void setLinearVelocity(const glm::vec3& velocity);
 
-    void updateTransform() override; ///< takes the pose from the actor first
-    void destroy() override;         ///< takes the actor out of the physics scene too; not to be updated afterwards
+    void updateTransform() override; ///< take the pose from the actor first
+    void destroy() override;         ///< take the actor out of the physics scene too; not to be updated afterwards
 };

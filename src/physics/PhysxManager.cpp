@@ -2,6 +2,7 @@
 
 #include "base/Logger.h"
 #include "physics/CollisionGroups.h"
+#include "physics/DebuggerTransport.h"
 #include "physics/PhysicNode.h"
 #include "physics/SampleVehicle_SceneQuery.h"
 #include "physics/SampleVehicle_VehicleCooking.h"
@@ -10,6 +11,7 @@
 
 #include <PxPhysicsAPI.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <iostream>
 
@@ -17,8 +19,8 @@ using namespace physx;
 
 namespace {
 
-const PxVec3 kSceneGravity(0, -29.43f,
-    0); // bodies move one step a pass while game time runs three times faster: 3 x 9.81
+// Units per second squared. Three times 9.81: bodies move one step a pass while game time runs three times faster.
+const PxVec3 kSceneGravity(0, -29.43f, 0);
 
 constexpr float staticFrictions[] = {0.9f, 0.9f, 0.9f, 0.9f};
 constexpr float dynamicFrictions[] = {0.9f, 0.9f, 0.9f, 0.9f};
@@ -39,9 +41,7 @@ constexpr float kBallDensity = 10;
 constexpr float kBallFriction = 0.5f;
 constexpr float kBallRestitution = 0.1f;
 
-constexpr const char* kDebuggerHost = "127.0.0.1";
-constexpr int kDebuggerPort = 5425;
-constexpr unsigned kDebuggerTimeoutMs = 1000;
+constexpr std::uint16_t kDebuggerPort = 5425;
 
 PxDefaultAllocator& allocator()
 {
@@ -55,7 +55,7 @@ PxDefaultErrorCallback& errorCallback()
     return instance;
 }
 
-/// Without this object there is no world and no game.
+/// Return that object, without which there is no world and no game: where it is null, log and end the process.
 template <class T>
 T* required(T* object, const char* failure)
 {
@@ -74,14 +74,16 @@ PhysxManager* PhysxManager::getInstance(PxSimulationEventCallback* game)
     return theInstance;
 }
 
-PhysxManager::PhysxManager(PxSimulationEventCallback* game) : vehicleManager(std::make_unique<VehicleManager>())
+PhysxManager::PhysxManager(PxSimulationEventCallback* game)
+    : vehicleManager(std::make_unique<VehicleManager>()),
+      debuggerTransport(std::make_unique<DebuggerTransport>(kDebuggerPort))
 {
     createSdk();
     createScene(game);
     createMaterials();
     cookVehicleMeshes();
     vehicleManager->init(*physics, materials.data(), surfaceTypes.data());
-    connectVisualDebugger();
+    visualDebugger->connect(*debuggerTransport, PxPvdInstrumentationFlag::eALL);
 }
 
 PhysxManager::~PhysxManager()
@@ -92,8 +94,7 @@ PhysxManager::~PhysxManager()
     cooking->release();
     PxCloseExtensions();
     physics->release();
-    if (visualDebugger) visualDebugger->release();
-    if (debuggerTransport) debuggerTransport->release();
+    visualDebugger->release();
     foundation->release();
     theInstance = nullptr;
 }
@@ -102,8 +103,7 @@ void PhysxManager::createSdk()
 {
     foundation = required(PxCreateFoundation(PX_PHYSICS_VERSION, allocator(), errorCallback()),
         "Could not create Phyx Foundation");
-    visualDebugger = PxCreatePvd(*foundation);
-    if (!visualDebugger) logLine(0) << "PxProfileZoneManager::createProfileZoneManager failed!" << std::endl;
+    visualDebugger = required(PxCreatePvd(*foundation), "PxProfileZoneManager::createProfileZoneManager failed!");
 
     const PxTolerancesScale scale;
     physics = required(PxCreatePhysics(PX_PHYSICS_VERSION, *foundation, scale, true, visualDebugger),
@@ -136,18 +136,15 @@ void PhysxManager::createMaterials()
 
 void PhysxManager::cookVehicleMeshes()
 {
-    wheelCentreOffsets = {PxVec3(-0.9193479f, -0.7525774f, 1.51114f), PxVec3(0.9193479f, -0.7525774f, 1.51114f),
-        PxVec3(-0.9193479f, -0.7525774f, -1.51114f), PxVec3(0.9193479f, -0.7525774f, -1.51114f)};
+    wheelCentreOffsets = {
+        PxVec3(-0.9193479f, -0.7525774f, 1.51114f), // front left
+        PxVec3(0.9193479f, -0.7525774f, 1.51114f),
+        PxVec3(-0.9193479f, -0.7525774f, -1.51114f), // rear left
+        PxVec3(0.9193479f, -0.7525774f, -1.51114f),
+    };
     chassisConvexMesh = createCuboidConvexMesh(PxVec3(1, 1, 1), kChassisRise, *physics, *cooking);
     for (PxConvexMesh*& mesh : wheelConvexMeshes)
         mesh = createWheelConvexMesh(kWheelWidth, kWheelRadius, kWheelCirclePoints, *physics, *cooking);
-}
-
-void PhysxManager::connectVisualDebugger()
-{
-    if (!visualDebugger) return;
-    debuggerTransport = PxDefaultPvdSocketTransportCreate(kDebuggerHost, kDebuggerPort, kDebuggerTimeoutMs);
-    if (debuggerTransport) visualDebugger->connect(*debuggerTransport, PxPvdInstrumentationFlag::eALL);
 }
 
 bool PhysxManager::step(float dt)
@@ -158,7 +155,15 @@ bool PhysxManager::step(float dt)
     accumulator -= stepSize;
     scene->simulate(stepSize);
     scene->fetchResults(true);
+    dropLostDebugger();
     return true;
+}
+
+void PhysxManager::dropLostDebugger()
+{
+    if (!debuggerTransport->takeLoss()) return;
+    visualDebugger->disconnect(); // or the SDK would go on gathering what nobody takes
+    logLine(1) << "The visual debugger at port " << kDebuggerPort << " takes no data; going on without it" << std::endl;
 }
 
 void PhysxManager::updateVehicles(float dt, const PxVec3& gravity)

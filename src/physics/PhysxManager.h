@@ -15,10 +15,10 @@ class PxFoundation;
 class PxMaterial;
 class PxPhysics;
 class PxPvd;
-class PxPvdTransport;
 class PxScene;
 class PxSimulationEventCallback;
 }
+class DebuggerTransport;
 class PhysicNode;
 class Terrain;
 class VehicleHandle;
@@ -26,43 +26,43 @@ class VehicleManager;
 
 /// The rigid-body world: the SDK's objects, the ground, the cars and the balls. One at a time in a process; made by the
 /// first getInstance(), and in the game never destroyed. Once a pass: updateVehicles(), then step(), with the same dt.
-/// Main thread only.
+/// Main thread only. It is shown to a visual debugger that listens at port 5425 of this machine when it is made.
 class PhysxManager {
 public:
-    /// The world, created by the first call with that receiver of contacts (borrowed, may be null); later calls ignore
-    /// the argument. A program without physics library has no game: a failure is logged and ends the process with
+    /// Return the world. The first call creates it with that receiver of contacts (borrowed, may be null); later calls
+    /// ignore the argument. Without the physics library there is no game: log a failure and end the process with
     /// status 1.
     static PhysxManager* getInstance(physx::PxSimulationEventCallback* game);
 
-    /// The world, or null while there is none.
+    /// Return the world, or null while there is none.
     static PhysxManager* instance() { return theInstance; }
 
-    /// Releases the whole world, after which getInstance() makes a fresh one. Terrains and vehicle handles go with it,
+    /// Release the whole world, after which getInstance() makes a fresh one. Terrains and vehicle handles go with it,
     /// nodes stay.
     virtual ~PhysxManager();
     PhysxManager(const PhysxManager&) = delete;
     PhysxManager& operator=(const PhysxManager&) = delete;
 
-    /// Adds dt (seconds of game time) to the time owed and, if that makes up a fixed step of 1/60 s, simulates exactly
-    /// one: true then. Contacts are reported inside this call.
+    /// Add dt (seconds of game time) to the time owed and, if that makes up a fixed step of 1/60 s, simulate exactly
+    /// one and return true. Contacts are reported inside this call.
     virtual bool step(float dt);
 
-    /// Feeds every car its driver's controls, finds the ground under its wheels and advances it. dt: seconds of game
-    /// time; gravity: units per second squared.
+    /// Feed every car its driver's controls, find the ground under its wheels and advance it. dt: seconds of game time;
+    /// gravity: units per second squared.
     void updateVehicles(float dt, const physx::PxVec3& gravity);
 
-    /// A new car in first gear at (rand() % 10, 5, 0); there is room for MAX_NUM_4W_VEHICLES. The world owns the
+    /// Create a car in first gear at (rand() % 10, 5, 0); there is room for MAX_NUM_4W_VEHICLES. The world owns the
     /// handle.
     VehicleHandle* createVehicle();
 
-    /// A new sphere of radius 1 at (0, 10, 0) and the node that follows it; the caller places it and puts it into the
-    /// tree.
+    /// Create a sphere of radius 1 at (0, 10, 0) and return the node that follows it, which the caller places and puts
+    /// into the tree.
     PhysicNode* createBall();
 
-    /// The ground from "Textures/map.tga"; the world owns it. Its node awaits a place in the tree.
+    /// Create the ground from "Textures/map.tga"; the world owns it. Its node awaits a place in the tree.
     Terrain* createTerrain();
 
-    /// Takes the actor out of the scene; it is not released.
+    /// Take the actor out of the scene; it is not released.
     void removeActor(physx::PxActor* actor);
 
     physx::PxScene& getScene() const { return *scene; }
@@ -76,7 +76,7 @@ private:
     void createScene(physx::PxSimulationEventCallback* game);
     void createMaterials();
     void cookVehicleMeshes();
-    void connectVisualDebugger();
+    void dropLostDebugger();
     physx::PxMaterial& getBallMaterial();
 
     static PhysxManager* theInstance;
@@ -93,7 +93,7 @@ private:
 
     physx::PxFoundation* foundation = nullptr;
     physx::PxPvd* visualDebugger = nullptr;
-    physx::PxPvdTransport* debuggerTransport = nullptr;
+    std::unique_ptr<DebuggerTransport> debuggerTransport; // outlives visualDebugger
     physx::PxPhysics* physics = nullptr;
     physx::PxCooking* cooking = nullptr;
     physx::PxScene* scene = nullptr;

@@ -9,12 +9,12 @@ class PxBatchQuery;
 class PxScene;
 }
 
-/// Query records tell a wheel's ray what it may stand on. Each helper fills word3, which must still be zero.
+/// Fill word3, which must still be zero, of a query record: it tells a wheel's ray what it may stand on.
 void setupDrivableSurface(physx::PxFilterData& filterData);
 void setupNonDrivableSurface(physx::PxFilterData& filterData);
 void setupVehicleShape(physx::PxFilterData& filterData); ///< cars do not drive on each other
 
-/// The wheel rays' pre-filter: only a drivable surface stops a ray.
+/// The wheel rays' pre-filter: let only a drivable surface stop a ray.
 physx::PxQueryHitType::Enum filterWheelRay(physx::PxFilterData query, physx::PxFilterData object, const void* constants,
     physx::PxU32 constantsSize, physx::PxHitFlags& hitFlags);
 
@@ -29,6 +29,6 @@ struct VehicleSceneQueryData {
     static VehicleSceneQueryData* allocate(physx::PxU32 wheels);
     void free();
 
-    /// A batch query of that scene on these buffers; to be released before them.
+    /// Create a batch query of that scene on these buffers; to be released before them.
     physx::PxBatchQuery* createBatchQuery(physx::PxScene& scene) const;
 };

@@ -24,11 +24,20 @@ constexpr float kFriction[kSurfaceTypes][kTireTypes] = {
 };
 
 // Change per second of game time: accelerator, brake, hand brake, steer left, steer right.
-const PxVehiclePadSmoothingData kPadSmoothing = {{6.0f, 6.0f, 12.0f, 2.5f, 2.5f}, {10.0f, 10.0f, 12.0f, 5.0f, 5.0f}};
+const PxVehiclePadSmoothingData kPadSmoothing = {
+    {6.0f, 6.0f, 12.0f, 2.5f, 2.5f},   // rising
+    {10.0f, 10.0f, 12.0f, 5.0f, 5.0f}, // falling
+};
 
 // Forward speed, units per second, and the part of the full steering angle that is left at it.
-constexpr PxReal kSteerVsForwardSpeed[] = {0, 0.9f, 5, 0.7f, 30, 0.5f, 120, 0.3f};
-const PxFixedSizeLookupTable<8> kSteerVsForwardSpeedTable(kSteerVsForwardSpeed, 4);
+constexpr PxU32 kSteerPairs = 4;
+constexpr PxReal kSteerVsForwardSpeed[kSteerPairs][2] = {
+    {0, 0.9f},
+    {5, 0.7f},
+    {30, 0.5f},
+    {120, 0.3f},
+};
+const PxFixedSizeLookupTable<8> kSteerVsForwardSpeedTable(*kSteerVsForwardSpeed, kSteerPairs);
 
 PxVehicleDrivableSurfaceToTireFrictionPairs* createFrictionPairs(const PxMaterial* const* materials,
     const PxU32* surfaceTypes)

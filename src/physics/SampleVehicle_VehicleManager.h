@@ -23,36 +23,36 @@ struct VehicleSceneQueryData;
 constexpr physx::PxU32 MAX_NUM_4W_VEHICLES = 16;
 constexpr physx::PxU32 kWheelsPerVehicle = 4;
 
-/// Makes and owns all cars and advances them. Owned by PhysxManager: init() once, then update() once a pass; release()
-/// at the end.
+/// All cars and what moves them. Owned by PhysxManager: init() once, then update() once a pass; release() at the end.
 class VehicleManager {
 public:
     VehicleManager();
     ~VehicleManager();
 
-    /// Initialises the SDK's vehicle library. Entry i of both four-element arrays: a standard material and its drivable
+    /// Initialise the SDK's vehicle library. Entry i of both four-element arrays: a standard material and its drivable
     /// surface type.
     void init(physx::PxPhysics& physics, const physx::PxMaterial* const* materials, const physx::PxU32* surfaceTypes);
 
-    /// A car at rest in first gear at startTransform, in the scene. chassisMass in kilograms; wheelCentreOffsets4
-    /// (relative to the chassis origin) and wheelMeshes4: front left, front right, rear left, rear right. A seventeenth
+    /// Put a car at rest into the scene, in first gear, at startTransform. chassisMass in kilograms; the offsets, from
+    /// the chassis origin, and the meshes of the wheels: front left, front right, rear left, rear right. A seventeenth
     /// car is an assertion.
     VehicleHandle* create4WVehicle(physx::PxScene& scene, physx::PxPhysics& physics, physx::PxCooking& cooking,
         const physx::PxMaterial& material, physx::PxF32 chassisMass, const physx::PxVec3* wheelCentreOffsets4,
         physx::PxConvexMesh* chassisMesh, physx::PxConvexMesh* const* wheelMeshes4,
         const physx::PxTransform& startTransform, bool useAutoGearFlag);
 
-    /// Controls, wheel rays, then the cars' motion. dt: seconds of game time; gravity: units per second squared.
+    /// Smooth the controls, cast the wheels' rays, then move the cars. dt: seconds of game time; gravity: units per
+    /// second squared.
     void update(float dt, const physx::PxVec3& gravity, physx::PxScene& scene);
 
-    /// Frees the cars (their actors stay with the scene), the buffers and the vehicle library.
+    /// Free the cars (their actors stay with the scene), the buffers and the vehicle library.
     void release();
 
     physx::PxU32 getNumVehicles() const { return mNumVehicles; }
     physx::PxVehicleWheels* getVehicle(physx::PxU32 i) const { return mVehicles.at(i); }
     VehicleHandle* getHandle(physx::PxU32 i) const { return handles.at(i).get(); }
 
-    /// What wheel `wheel` of car i stood on in the last update.
+    /// Return what wheel `wheel` of car i stood on in the last update.
     const physx::PxWheelQueryResult& getWheelQuery(physx::PxU32 i, physx::PxU32 wheel) const
     {
         return wheelQueries.at(i).at(wheel);

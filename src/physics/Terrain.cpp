@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 using namespace physx;
 
@@ -17,6 +18,17 @@ constexpr const char* kHeightImage = "Textures/map.tga";
 constexpr int kImageSide = 512;    // pixels that the field is sampled from, and its edge length in world units
 constexpr PxI16 kFlatHeight = 204; // height 40: cars enter at 50, and a longer fall turns some of them over
 
+/// Return the height picture, its sides raised to powers of two; nothing, and why in `error`, where it does not serve.
+std::optional<Image> readHeightImage(std::string& error)
+{
+    std::optional<Image> image = readTga(kHeightImage, error);
+    if (!image) return image;
+    image = resampledToPowersOfTwo(*std::move(image));
+    if (image->width >= kImageSide && image->height >= kImageSide) return image;
+    error = "height picture is smaller than " + std::to_string(kImageSide) + " x " + std::to_string(kImageSide);
+    return std::nullopt;
+}
+
 } // namespace
 
 Terrain::Terrain()
@@ -24,11 +36,7 @@ Terrain::Terrain()
       samples(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns))
 {
     std::string error;
-    const std::optional<Image> image = readTga(kHeightImage, error);
-    if (image && (image->width < kImageSide || image->height < kImageSide)) {
-        error = "height picture is smaller than " + std::to_string(kImageSide) + " x " + std::to_string(kImageSide);
-    }
-    if (error.empty()) {
+    if (const std::optional<Image> image = readHeightImage(error)) {
         sample(*image);
     } else {
         logLine(0) << error << ": " << kHeightImage << std::endl;
@@ -38,12 +46,10 @@ Terrain::Terrain()
 
 void Terrain::sample(const Image& image)
 {
-    const int rowPixels = static_cast<int>(rowScale),
-              columnPixels = static_cast<int>(columnScale); // one pixel a world unit
-    auto* next = samples.data();
+    const int pixels = kImageSide / size; // between grid points
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column)
-            (next++)->height = *image.at(column * columnPixels, row * rowPixels);
+            samples[indexOf(row, column)].height = *image.at(column * pixels, row * pixels);
     }
 }
 
@@ -82,10 +88,9 @@ std::vector<glm::vec3> Terrain::getVertices() const
 {
     std::vector<glm::vec3> vertices;
     vertices.reserve(samples.size());
-    const PxHeightFieldSample* next = samples.data();
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
-            const float height = static_cast<float>((next++)->height) * heightScale;
+            const float height = static_cast<float>(samples[indexOf(row, column)].height) * heightScale;
             vertices.emplace_back(static_cast<float>(row) * columnScale, height, static_cast<float>(column) * rowScale);
         }
     }
@@ -97,13 +102,18 @@ std::vector<unsigned short> Terrain::getIndices() const
     std::vector<unsigned short> indices;
     for (int row = 0; row + 1 < rows; ++row) {
         for (int column = 0; column + 1 < columns; ++column) {
-            const int b = row * columns + column;
+            const std::size_t b = indexOf(row, column), next = indexOf(row + 1, column);
             // The diagonal is the one along which the physics library splits a cell whose tessellation flag is clear.
-            for (int corner : {b, b + columns, b + 1, b + columns, b + columns + 1, b + 1})
+            for (const std::size_t corner : {b, next, b + 1, next, next + 1, b + 1})
                 indices.push_back(static_cast<unsigned short>(corner));
         }
     }
     return indices;
+}
+
+std::size_t Terrain::indexOf(int row, int column) const
+{
+    return static_cast<std::size_t>(row * columns + column);
 }
 
 int Terrain::getSize() const

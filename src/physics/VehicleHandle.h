@@ -19,25 +19,24 @@ class VehicleHandle {
 public:
     explicit VehicleHandle(physx::PxVehicleDrive4W& drivenVehicle);
 
-    /// The controls that the next vehicle update reads; they stay until written again.
+    /// Return the controls that the next vehicle update reads; they stay until written again.
     physx::PxVehicleDrive4WRawInputData& getRawInputs() { return rawInputs; }
 
-    /// A new node that follows shape i (0 to 3: a wheel, 4: the chassis); the caller puts it into the tree.
+    /// Create a node that follows shape i (0 to 3: a wheel, 4: the chassis); the caller puts it into the tree.
     PhysicNode* createWheelNode(unsigned i);
 
-    PhysicNode* getChassisNode() const
-    {
-        return chassisNode;
-    } ///< follows the actor; in no tree unless someone puts it there
+    /// Return the node that follows the actor; it is in no tree unless someone puts it there.
+    PhysicNode* getChassisNode() const { return chassisNode; }
+
     physx::PxVehicleDrive4W& getVehicle() const { return vehicle; }
     physx::PxRigidDynamic* getActor() const; ///< the car's body, e.g. to recognise it in a contact report
 
     float computeForwardSpeed() const; ///< units per second of simulated time, negative when rolling backwards
 
-    /// Changes gear at once (physx::PxVehicleGearsData: eREVERSE 0, eNEUTRAL 1, eFIRST 2).
+    /// Change gear at once (physx::PxVehicleGearsData: eREVERSE 0, eNEUTRAL 1, eFIRST 2).
     void forceGear(physx::PxU32 gear);
 
-    /// Puts the car there, upright, facing +z and with its body at rest.
+    /// Put the car there, upright, facing +z and with its body at rest.
     void placeAt(const glm::vec3& position);
 
 private:

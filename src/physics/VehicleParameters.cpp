@@ -15,8 +15,7 @@ constexpr PxU32 kFirstRearWheel = PxVehicleDrive4WWheelOrder::eREAR_LEFT;
 constexpr float kChassisHeight = 1.8494055f; // the box that stands for the chassis' mass, world units
 constexpr float kChassisLength = 4.8532596f;
 const PxVec3 kChassisCMOffset(0, -kChassisHeight * 0.5f + 0.65f, 0.25f); // centre of mass, from the chassis origin
-// Of a box 2.4758029 wide with 1500 kg, turning more readily (0.8) about the vertical axis than a box does; kilograms x
-// units squared.
+// Kilograms x units squared. Of a box 2.4758029 wide with 1500 kg, turning more easily (0.8) about its vertical axis.
 const PxVec3 kChassisMOI(3371.8037f, 2968.3728f, 1193.7377f);
 
 constexpr float kWheelMass = 80;             // kilograms

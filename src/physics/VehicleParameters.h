@@ -14,6 +14,8 @@ struct WheelSize {
     float width = 0;  ///< extent along x
     float radius = 0; ///< a little less than the mesh's, whose corners stick out
 };
+
+/// Return the size of a wheel whose axis is x.
 WheelSize measureWheel(const physx::PxConvexMesh& mesh);
 
 /// How a chassis' mass rests on its axles, kilograms.
@@ -21,9 +23,11 @@ struct AxleLoads {
     float front = 0;
     float rear = 0;
 };
+
+/// Return the loads of a chassis of that mass in kilograms.
 AxleLoads splitMass(float chassisMass);
 
-/// Fills in everything that the vehicle library wants to know of a car: wheels, tires, suspensions, drive train and
+/// Fill in everything that the vehicle library wants to know of a car: wheels, tires, suspensions, drive train and
 /// chassis. chassisMass in kilograms; wheelCentreOffsets4 relative to the chassis origin; wheelSizes4 and offsets in
 /// the library's wheel order.
 void setUpVehicleSimulationData(float chassisMass, const WheelSize* wheelSizes4,
