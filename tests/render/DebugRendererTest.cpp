@@ -35,16 +35,7 @@ TEST_F(RenderTest, F6MarksNodesAndCamerasThroughThingsInEveryViewportWhileHeld)
     const int cameraTriangles = static_cast<int>(library.getMesh("Camera")->indices.size()) / 3;
     constexpr int kNodes = 4, kCameras = 2, kViews = 2;
 
-    struct Row {
-        bool mended, held;
-    };
-    const Row rows[] = {
-        {false, true},
-        {true, true},
-        {true, true},
-        {true, false},
-    };
-    for (const auto& [mended, held] : rows) {
+    for (const auto& [mended, held] : {std::pair{false, true}, {true, true}, {true, true}, {true, false}}) {
         if (mended) library.loadShader("WireframeShader", "Shader/WireframeShader.shader");
         if (held) keys.hold({GLFW_KEY_F6});
         else keys.hold({});
