@@ -128,11 +128,6 @@ GLint Shaderprogram::getAttribLocation(const std::string& name) const
     return location;
 }
 
-bool Shaderprogram::canSet() const
-{
-    return usable && programInUse;
-}
-
 GLint Shaderprogram::uniformLocation(const std::string& name) const
 {
     return glGetUniformLocation(handle, name.c_str());
@@ -140,27 +135,27 @@ GLint Shaderprogram::uniformLocation(const std::string& name) const
 
 void Shaderprogram::setUniform(const std::string& name, float value) const
 {
-    if (canSet()) glUniform1f(uniformLocation(name), value);
+    if (usable) glUniform1f(uniformLocation(name), value);
 }
 
 void Shaderprogram::setUniform(const std::string& name, const glm::vec3& value) const
 {
-    if (canSet()) glUniform3fv(uniformLocation(name), 1, glm::value_ptr(value));
+    if (usable) glUniform3fv(uniformLocation(name), 1, glm::value_ptr(value));
 }
 
 void Shaderprogram::setUniform(const std::string& name, const glm::vec4& value) const
 {
-    if (canSet()) glUniform4fv(uniformLocation(name), 1, glm::value_ptr(value));
+    if (usable) glUniform4fv(uniformLocation(name), 1, glm::value_ptr(value));
 }
 
 void Shaderprogram::setUniform(const std::string& name, const glm::mat3& value, bool transpose, int count) const
 {
-    if (canSet()) glUniformMatrix3fv(uniformLocation(name), count, transpose, glm::value_ptr(value));
+    if (usable) glUniformMatrix3fv(uniformLocation(name), count, transpose, glm::value_ptr(value));
 }
 
 void Shaderprogram::setUniform(const std::string& name, const glm::mat4& value, bool transpose, int count) const
 {
-    if (canSet()) glUniformMatrix4fv(uniformLocation(name), count, transpose, glm::value_ptr(value));
+    if (usable) glUniformMatrix4fv(uniformLocation(name), count, transpose, glm::value_ptr(value));
 }
 
 void Shaderprogram::setUniform(const std::string& name, const Texture* texture, int unit) const
@@ -175,7 +170,7 @@ void Shaderprogram::setUniform(const std::string& name, const TextureUniform& va
 
 void Shaderprogram::setSampler(const std::string& name, GLuint textureName, int unit) const
 {
-    if (!canSet()) return;
+    if (!usable) return;
     const GLint location = uniformLocation(name);
     glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
     glBindTexture(GL_TEXTURE_2D, textureName);

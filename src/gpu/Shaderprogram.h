@@ -88,7 +88,6 @@ private:
     void declareFeedbackOutputs() const;
     std::string infoLog() const;
     bool hasTessellation() const;
-    bool canSet() const;
     GLint uniformLocation(const std::string& name) const;
 
     GlObject handle{GlKind::Program};

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr const char* kProgram = "WireframeShader";
 constexpr float kMarkerHalfEdge = 0.15f; // world units
 
 template <class T>
@@ -25,7 +24,7 @@ void removeFirst(std::vector<T>& sequence, const T& value)
 
 } // namespace
 
-DebugRenderer::DebugRenderer() : program(Library::getInstance()->getShaderprogram(kProgram))
+DebugRenderer::DebugRenderer()
 {
     Mesh box;
     createBox(box, glm::vec3(-kMarkerHalfEdge), glm::vec3(kMarkerHalfEdge));
@@ -61,7 +60,6 @@ void DebugRenderer::releaseNode(Node* node)
 
 void DebugRenderer::render(Camera* camera)
 {
-    if (!program) program = Library::getInstance()->getShaderprogram(kProgram, false);
     glDisable(GL_DEPTH_TEST);
     glEnable(GL_BLEND);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
@@ -78,8 +76,9 @@ void DebugRenderer::render(Camera* camera)
     cameraPoses.clear();
 }
 
-void DebugRenderer::drawAll(Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const
+void DebugRenderer::drawAll(Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera)
 {
+    const Shaderprogram* program = Library::getInstance()->getShaderprogram("WireframeShader", false);
     if (!program || !shape.geometry) return;
     const MeshGeometry& geometry = *shape.geometry;
     if (!shape.vertexArray)

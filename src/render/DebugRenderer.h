@@ -10,7 +10,6 @@
 #include <vector>
 
 class Mesh;
-class Shaderprogram;
 
 /// Overlays the scene's structure: a marker box at the origin of every node and the camera model at the pose of every
 /// camera, without depth testing. Created by the application once meshes and shaders are loaded; the renderer walks the
@@ -39,11 +38,10 @@ private:
     };
 
     static Shape makeShape(const Mesh* mesh);
-    void drawAll(Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera) const;
+    static void drawAll(Shape& shape, const std::vector<glm::mat4>& poses, const Camera& camera);
 
     std::vector<glm::vec3> nodePositions;
     std::vector<glm::mat4> cameraPoses;
-    Shaderprogram* program;
     Shape marker;
     Shape cameraModel;
 };
