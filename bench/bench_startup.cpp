@@ -22,9 +22,8 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kDefaultRuns = 9;
-constexpr double kPatienceSeconds = 60;
-constexpr ScreenArea kRow{
-    0, 500, 1024, 1}; // one row of pixels across the landscape: looking at it costs the game next to nothing
+// One row of pixels across the landscape: looking at it costs the game next to nothing.
+constexpr ScreenArea kRow{0, 500, 1024, 1};
 constexpr ScreenArea kWholeRow{0, 0, 1024, 1};
 constexpr double kDetail = 0.05;    // share of the row that a blank window does not have
 constexpr double kOtherScene = 0.3; // share of the row that changes when the overview gives way to the match
@@ -41,15 +40,14 @@ class Run {
 public:
     Run(VirtualDisplay& virtualDisplay, const fs::path& folder)
         : display(virtualDisplay), start(Clock::now()),
-          game({{QUACKDASH_PROGRAM}, folder, display.name(), folder / "game.txt"})
+          game({{QUACKDASH_PROGRAM}, folder / "game.txt", {{"DISPLAY", display.name()}}, folder})
     {
     }
 
     double untilFirstPicture()
     {
-        if (!display.waitForWindow("Quackdash", kPatienceSeconds)) giveUp("no window");
-        const auto hasPicture = [this] { return detailShare(display.lookAt(kRow), kWholeRow) > kDetail; };
-        if (!waitUntil(kPatienceSeconds, hasPicture)) giveUp("no picture");
+        game.waitFor("a window", [this] { return display.findWindow("Quackdash"); });
+        game.waitFor("a picture", [this] { return detailShare(display.lookAt(kRow), kWholeRow) > kDetail; });
         return millisecondsSince(start);
     }
 
@@ -59,31 +57,25 @@ public:
         holdUntil("k", "Player 0, Pfeil");
         holdUntil("1", "Player 1, WASD");
         holdUntil("Return", "Enter PlayGamestate");
-        const auto showsMatch = [&] { return changedShare(overview, display.lookAt(kRow), kWholeRow) > kOtherScene; };
-        if (!waitUntil(kPatienceSeconds, showsMatch)) giveUp("no picture of the match");
+        game.waitFor("a picture of the match",
+            [&] { return changedShare(overview, display.lookAt(kRow), kWholeRow) > kOtherScene; });
         return millisecondsSince(start);
     }
 
     void quit()
     {
-        display.pressKey("Escape");
-        const bool ended = game.waitForExit(kPatienceSeconds) == 0;
-        display.releaseKey("Escape");
-        if (!ended) giveUp("no proper end");
+        display.press({"Escape"});
+        const int status = game.waitForExit();
+        display.release({"Escape"});
+        if (status != 0) throw std::runtime_error("ended with status " + std::to_string(status));
     }
 
 private:
     void holdUntil(const std::string& key, const std::string& text)
     {
-        display.pressKey(key);
-        const bool came = waitUntil(kPatienceSeconds, [&] { return game.output().find(text) != std::string::npos; });
-        display.releaseKey(key);
-        if (!came) giveUp("\"" + text + "\" is missing");
-    }
-
-    [[noreturn]] void giveUp(const std::string& what) const
-    {
-        throw std::runtime_error(what + "; the log:\n" + game.output());
+        display.press({key});
+        game.waitForOutput(text);
+        display.release({key});
     }
 
     VirtualDisplay& display;
@@ -99,7 +91,7 @@ double median(std::vector<double> values)
 
 void measure(int runs, const fs::path& folder)
 {
-    VirtualDisplay display(folder);
+    VirtualDisplay display;
     std::vector<double> firstPictures, matches;
     for (int number = 0; number <= runs; ++number) {
         Run run(display, folder);

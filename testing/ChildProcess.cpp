@@ -1,84 +1,79 @@
 #include "testing/ChildProcess.h"
 
-#include <fcntl.h>
+#include <boost/process.hpp>
+#include <boost/process/extend.hpp>
 #include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <thread>
 
-namespace {
-
-constexpr auto kPollPause = std::chrono::milliseconds(5);
-constexpr int kCannotStart = 127; // exit status, as of a shell
-
-/// Between fork and exec: the child's end of it. Never returns.
-[[noreturn]] void become(const ChildProcess::Settings& settings)
-{
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    const int output = open(settings.output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    if (output < 0 || dup2(output, STDOUT_FILENO) < 0 || dup2(output, STDERR_FILENO) < 0) _exit(kCannotStart);
-    if (!settings.workingFolder.empty() && chdir(settings.workingFolder.c_str()) != 0) _exit(kCannotStart);
-    unsetenv("WAYLAND_DISPLAY");
-    if (settings.display.empty()) unsetenv("DISPLAY");
-    else setenv("DISPLAY", settings.display.c_str(), 1);
-
-    std::vector<char*> arguments;
-    for (const std::string& argument : settings.command) arguments.push_back(const_cast<char*>(argument.c_str()));
-    arguments.push_back(nullptr);
-    execvp(arguments[0], arguments.data());
-    _exit(kCannotStart);
-}
-
-} // namespace
-
-bool waitUntil(double seconds, const std::function<bool()>& condition)
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) return false;
-        std::this_thread::sleep_for(kPollPause);
-    }
-    return true;
-}
+namespace bp = boost::process;
 
 ChildProcess::ChildProcess(const Settings& settings) : outputFile(settings.output)
 {
-    process = fork();
-    if (process < 0) throw std::runtime_error("cannot start " + settings.command.front());
-    if (process == 0) become(settings);
+    bp::environment environment = boost::this_process::environment();
+    for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY"}) environment.erase(display);
+    for (const auto& [name, value] : settings.environment) environment[name] = value;
+
+    std::ofstream(outputFile, std::ios::trunc).close(); // the library opens it as it is
+    process = std::make_unique<bp::child>(
+        bp::exe = "/usr/bin/env", bp::args = settings.command, bp::start_dir = settings.workingFolder.string(),
+        environment, (bp::std_out & bp::std_err) > outputFile.string(),
+        bp::extend::on_exec_setup = [](auto&) { prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
 
-ChildProcess::~ChildProcess()
+ChildProcess::~ChildProcess() = default;
+
+void ChildProcess::waitFor(const std::string& what, const std::function<bool()>& condition, double seconds)
 {
-    if (!isRunning()) return;
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
+    constexpr auto kPollPause = std::chrono::milliseconds(5);
+    constexpr std::size_t kLastCharacters = 2000;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
+    for (bool isRunning = true; !condition(); std::this_thread::sleep_for(kPollPause)) {
+        const bool isLate = std::chrono::steady_clock::now() > end;
+        if (!isRunning || isLate) {
+            const std::string printed = output();
+            throw std::runtime_error(what + " did not come; the program " +
+                (isRunning ? "still runs" : "ended with status " + std::to_string(status())) + " and printed last:\n" +
+                printed.substr(printed.size() - std::min(printed.size(), kLastCharacters)));
+        }
+        isRunning = process->running(); // before the condition, which its last words may fulfil
+    }
 }
 
-bool ChildProcess::isRunning()
+void ChildProcess::waitForOutput(const std::string& text, int times, double seconds)
 {
-    if (status) return false;
-    int state = 0;
-    if (waitpid(process, &state, WNOHANG) != process) return true;
-    status = WIFSIGNALED(state) ? 128 + WTERMSIG(state) : WEXITSTATUS(state);
-    return false;
+    const auto isThere = [&] { return count(text) >= times; };
+    waitFor('"' + text + '"', isThere, seconds);
 }
 
-std::optional<int> ChildProcess::waitForExit(double seconds)
+int ChildProcess::waitForExit()
 {
-    waitUntil(seconds, [this] { return !isRunning(); });
-    return status;
+    waitFor("the end", [this] { return !process->running(); });
+    return status();
+}
+
+int ChildProcess::status() const
+{
+    const int native = process->native_exit_code();
+    return WIFSIGNALED(native) ? 128 + WTERMSIG(native) : WEXITSTATUS(native);
 }
 
 std::string ChildProcess::output() const
 {
     std::ifstream file(outputFile, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+int ChildProcess::count(const std::string& text) const
+{
+    const std::string all = output();
+    int found = 0;
+    for (std::size_t at = all.find(text); at != std::string::npos; at = all.find(text, at + text.size())) ++found;
+    return found;
 }

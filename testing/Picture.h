@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdlib>
 #include <vector>
 
 /// A rectangle of a picture, in pixels from its upper-left corner.
@@ -21,12 +22,30 @@ struct Picture {
     }
 };
 
-/// The share (0 to 1) of a region's pixels that differ visibly between two pictures of the same size.
-double changedShare(const Picture& before, const Picture& after, const ScreenArea& region);
+/// Return the share (0 to 1) of a region's pixels that differ visibly from what `other` returns for their x and y.
+template <class Other>
+double differingShare(const Picture& picture, const ScreenArea& region, const Other& other)
+{
+    constexpr int kVisibleStep = 10; // of 255, in any component
+    const int size = region.width * region.height;
+    int hits = 0;
+    for (int i = 0; i < size; ++i) {
+        const int x = region.x + i % region.width, y = region.y + i / region.width;
+        const unsigned char *a = picture.at(x, y), *b = other(x, y);
+        const auto differs = [&](int part) { return std::abs(a[part] - b[part]) > kVisibleStep; };
+        hits += differs(0) || differs(1) || differs(2);
+    }
+    return static_cast<double>(hits) / size;
+}
 
-/// The share (0 to 1) of a region's pixels that differ visibly from the region's upper-left one: 0 for a blank region.
-double detailShare(const Picture& picture, const ScreenArea& region);
+/// The share of pixels that differ between two pictures of the same size.
+inline double changedShare(const Picture& before, const Picture& after, const ScreenArea& region)
+{
+    return differingShare(after, region, [&](int x, int y) { return before.at(x, y); });
+}
 
-/// How many of a region's pixels are nearly black: outlines of letters and figures, rubber. The landscape and the sky
-/// have none.
-int darkPixels(const Picture& picture, const ScreenArea& region);
+/// The share of pixels that differ from the region's upper-left one: 0 for a blank region.
+inline double detailShare(const Picture& picture, const ScreenArea& region)
+{
+    return differingShare(picture, region, [&](int, int) { return picture.at(region.x, region.y); });
+}

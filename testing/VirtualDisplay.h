@@ -2,8 +2,9 @@
 
 #include "testing/ChildProcess.h"
 #include "testing/Picture.h"
+#include "testing/TemporaryFolder.h"
 
-#include <memory>
+#include <initializer_list>
 #include <string>
 
 struct _XDisplay;
@@ -11,37 +12,37 @@ struct _XDisplay;
 /// An X server of one's own that draws into memory (Xvfb), with the hands and eyes of a player: keys, and pictures of
 /// one window.
 ///
-/// Construct, start the game on name(), waitForWindow(), then the rest. There is no window manager: keys go to the
-/// window under the pointer, which waitForWindow() places. Failures to start throw std::runtime_error.
+/// Construct, start the game on name(), wait until findWindow(), then the rest. There is no window manager: keys go to
+/// the window under the pointer, which rests in the middle of the screen. Failures to start throw std::runtime_error.
 class VirtualDisplay {
 public:
-    explicit VirtualDisplay(const std::filesystem::path& outputFolder); ///< the folder takes the server's messages
+    VirtualDisplay();
     ~VirtualDisplay();
     VirtualDisplay(const VirtualDisplay&) = delete;
     VirtualDisplay& operator=(const VirtualDisplay&) = delete;
 
     const std::string& name() const { return displayName; } ///< for the variable DISPLAY
 
-    /// True once a window of that title is on the screen; it is then the one that the other operations mean.
-    bool waitForWindow(const std::string& title, double seconds);
+    /// Return true once a window of that title lies under the pointer; the other operations then mean that one.
+    [[nodiscard]] bool findWindow(const std::string& title);
 
     /// Key names are those of the X headers: "k", "1", "Up", "Return", "Escape", "F1", "space".
-    void pressKey(const std::string& key);
-    void releaseKey(const std::string& key);
+    void press(std::initializer_list<std::string> keys) { send(keys, true); }
+    void release(std::initializer_list<std::string> keys) { send(keys, false); }
 
-    /// Asks the window to close, as the button in its title bar would.
+    /// Ask the window to close, as the button in its title bar would.
     void closeWindow();
 
-    Picture look() const { return lookAt({0, 0, window.width, window.height}); }
+    Picture look() const { return lookAt(window); }
     Picture lookAt(const ScreenArea& region) const; ///< region of the window
 
 private:
-    bool findWindow(const std::string& title);
-    void sendKey(const std::string& key, bool down);
+    void send(std::initializer_list<std::string> keys, bool down);
 
+    TemporaryFolder folder;
+    ChildProcess server;
     std::string displayName;
-    std::unique_ptr<ChildProcess> server;
     _XDisplay* connection = nullptr;
     unsigned long windowId = 0;
-    ScreenArea window;
+    ScreenArea window; // the whole of it
 };

@@ -9,6 +9,10 @@
 
 #include <GL/glew.h>
 
+#include <fstream>
+#include <iterator>
+#include <optional>
+
 namespace {
 
 const std::string kVertex =
@@ -29,6 +33,29 @@ protected:
     /// A load starts with a name that the library has not met.
     static std::string freshName() { return "Program" + std::to_string(nextName++); }
 
+    /// The program that a fresh load of the file registers; null when it registers none.
+    Shaderprogram* loaded(const std::string& description)
+    {
+        const std::string name = freshName();
+        library.loadShader(name, description);
+        return library.getShaderprogram(name, false);
+    }
+
+    static std::string contentOf(const std::string& file)
+    {
+        std::ifstream in(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    }
+
+    /// A program's description and the sources that it lists.
+    static std::vector<std::string> filesOf(const std::string& description)
+    {
+        std::vector<std::string> files{description};
+        std::ifstream words(description);
+        for (std::string stage, source; words >> stage >> source;) files.push_back(source);
+        return files;
+    }
+
     static std::vector<GLuint> stagesOf(const Shaderprogram& program)
     {
         GLint count = 0;
@@ -45,16 +72,41 @@ private:
     static inline int nextName = 0;
 };
 
-TEST_F(LibraryLoadersTest, EveryProgramOfTheGameIsUsable)
+TEST_F(LibraryLoadersTest, EveryProgramOfTheGameIsUsableUntilAnyOfItsFilesIsSpoiledAndNamed)
 {
+    const CompilerErrorsExpected spoiled;
     data.copyGameData();
     int programs = 0;
-    for (const auto& entry : std::filesystem::directory_iterator("Shader")) {
-        if (entry.path().extension() != ".shader") continue;
-        const std::string name = freshName();
-        library.loadShader(name, entry.path().string());
-        EXPECT_TRUE(library.getShaderprogram(name)->isUsable()) << entry.path();
+    const std::vector<std::filesystem::path> all(std::filesystem::directory_iterator("Shader"), {});
+    for (const std::string description : all) {
+        if (!description.ends_with(".shader")) continue;
         ++programs;
+        EXPECT_TRUE(loaded(description)->isUsable()) << description;
+
+        for (const std::string& file : filesOf(description)) {
+            const std::string whole = contentOf(file);
+            const std::optional<std::string> spoilings[] = {
+                std::nullopt, // removed
+                "",
+                whole.substr(0, whole.rfind('}')), // cut short
+                "\x89PNG\r\n\x1a\n" + std::string(5000, '\xe4'),
+                std::string(100000, '('),
+            };
+            for (const std::optional<std::string>& bytes : spoilings) {
+                if (bytes == whole) continue; // a description has no brace to cut off
+                std::filesystem::remove(file);
+                if (bytes) data.write(file, *bytes);
+                CapturedLog log;
+                const Shaderprogram* program = loaded(description);
+                EXPECT_EQ(log.count(file + '\n'), 1) << log.text();
+                EXPECT_LE(log.count("ERROR | "), 2) << log.text();
+                EXPECT_FALSE(log.contains(std::string(1, '\0')))
+                    << "the compiler's messages go to the log up to their end";
+                EXPECT_EQ(program != nullptr, log.contains("Linking program")) << file;
+                EXPECT_FALSE(program && program->isUsable()) << file;
+            }
+            data.write(file, whole);
+        }
     }
     EXPECT_GT(programs, 10);
 }
@@ -78,28 +130,6 @@ TEST_F(LibraryLoadersTest, ALoadThatEndsEarlyGivesOneErrorAndRegistersNothing)
         EXPECT_TRUE(log.contains("ERROR | " + error)) << log.text();
         EXPECT_EQ(log.count("ERROR | "), 1);
         EXPECT_EQ(library.getShaderprogram(name, false), nullptr);
-    }
-}
-
-TEST_F(LibraryLoadersTest, SpoiledStagesAreNamedAndTheProgramIsRegisteredUnusable)
-{
-    CompilerErrorsExpected spoiled;
-    const std::string withSpoiled = "VERTEX_SHADER Shader/plain.vert FRAGMENT_SHADER spoiled.frag",
-                      withoutStages = " \n \n";
-    const std::pair<std::string, std::string> rows[] = {// text of the .shader file, text of the stage
-        {withoutStages, ""}, {withSpoiled, ""}, {withSpoiled, std::string(100000, '(')},
-        {withSpoiled, kFragment.substr(0, 40)}};
-    for (const auto& [program, stage] : rows) {
-        data.write("any.shader", program);
-        data.write("spoiled.frag", stage);
-        const std::string name = freshName();
-        CapturedLog log;
-        library.loadShader(name, "any.shader");
-        EXPECT_LE(log.count("ERROR | couldn't compile shader: spoiled.frag\n"), 1);
-        EXPECT_EQ(log.count("ERROR | couldn't link program: any.shader\n"), 1);
-        EXPECT_LE(log.count("ERROR | "), 2);
-        EXPECT_FALSE(log.contains(std::string(1, '\0'))) << "the compiler's messages go to the log up to their end";
-        EXPECT_FALSE(library.getShaderprogram(name)->isUsable());
     }
 }
 

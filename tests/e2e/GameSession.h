@@ -4,51 +4,77 @@
 #include "testing/DataScratch.h"
 #include "testing/VirtualDisplay.h"
 
+#include <map>
 #include <memory>
+#include <regex>
 #include <string>
-#include <vector>
 
-/// One run of the built program on a virtual display of its own, over a scratch copy of the data folder, which is also
-/// the test's working directory: spoil files there before start().
+/// The built program on a virtual display of its own, over a scratch copy of the data folder, which is also the test's
+/// working directory: spoil files there before a start. Runs may follow one another. For waits see ChildProcess.
 class GameSession {
 public:
-    GameSession();
+    using Environment = std::map<std::string, std::string>;
 
-    /// Starts the program and waits until the registration screen is up. False when that takes too long or the program
-    /// ends.
-    [[nodiscard]] bool start();
+    GameSession() { data.copyGameData(); }
 
-    /// Starts it without waiting. environment: VARIABLE=value each.
-    void launch(const std::vector<std::string>& environment = {}, bool withDisplay = true);
+    /// Start the program with these variables beside the test's own, without waiting.
+    void launch(const Environment& environment)
+    {
+        const std::filesystem::path log = data.path() / "log.txt";
+        process.reset(new ChildProcess({.command = {QUACKDASH_PROGRAM}, .output = log, .environment = environment}));
+    }
 
-    /// Holds the key for as long as a slow frame may take, then lets go for as long.
-    void tap(const std::string& key);
+    /// Start the program and wait until it has come to the registration and has its window.
+    void start(Environment environment = {})
+    {
+        // Sound goes nowhere: the same run, and the same log, on machines with and without a sound device.
+        environment.insert({{"DISPLAY", display.name()}, {"ALSOFT_DRIVERS", "null"}});
+        launch(environment);
+        process->waitForOutput("Enter RegisterPlayersGamestate");
+        process->waitFor("a window", [this] { return display.findWindow("Quackdash"); });
+    }
 
-    /// Both keyboard halves join and the arrow half starts the match.
-    [[nodiscard]] bool startMatch();
+    /// Hold the key until the program has printed that text once more.
+    void holdUntil(const std::string& key, const std::string& text)
+    {
+        const int before = process->count(text);
+        display.press({key});
+        process->waitForOutput(text, before + 1);
+        display.release({key});
+    }
 
-    /// Waits until the program has printed that text so many times.
-    [[nodiscard]] bool waitForLog(const std::string& text, int times = 1, double seconds = 30);
+    /// Have both keyboard halves join and the arrow half start the match.
+    void startMatch()
+    {
+        for (const char* shoot : {"k", "1"}) holdUntil(shoot, "Player registered");
+        holdUntil("Return", "Enter PlayGamestate");
+    }
 
-    int countInLog(const std::string& text) const;
-    std::string log() const { return process->output(); }
+    /// Press Escape and return the exit status.
+    int quit()
+    {
+        display.press({"Escape"});
+        const int status = process->waitForExit();
+        display.release({"Escape"});
+        return status;
+    }
 
-    /// The lines of the log that report something bad; empty for a run without a fault.
-    std::string complaints() const;
+    /// Return the lines of the log that report something bad; empty for a run without a fault.
+    std::string complaints() const
+    {
+        const std::string log = process->output();
+        const std::regex complaint(".*(OpenGL Error:|ERROR \\| |WARNING \\| ).*\n");
+        std::string found;
+        for (std::sregex_iterator line(log.begin(), log.end(), complaint), end; line != end; ++line)
+            found += line->str();
+        return found;
+    }
 
-    /// Waits until the picture in the region differs from `before` in more than that share of its pixels.
-    [[nodiscard]] bool waitForChange(const Picture& before, const ScreenArea& region, double share,
-        double seconds = 20);
-
-    /// Presses Escape and returns the exit status; -1 when the program does not end.
-    int quit();
-
-    int waitForExit(); ///< -1 when the program does not end
-
+    ChildProcess& program() { return *process; }
     VirtualDisplay& screen() { return display; }
 
 private:
-    DataScratch scratch;
+    DataScratch data;
     VirtualDisplay display;
     std::unique_ptr<ChildProcess> process;
 };

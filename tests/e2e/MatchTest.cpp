@@ -2,126 +2,141 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
+#include <utility>
+
+using namespace std::chrono_literals;
 
 namespace {
+
+using Clock = std::chrono::steady_clock;
 
 constexpr int kComputerPlayers = 10;
 constexpr double kFirstHitSeconds = 200;
 
-const ScreenArea kLeftHalf{0, 0, 510, 768};
-// The words "Pfeil" and "WASD" of the two labels.
-const ScreenArea kLeftLabel{22, 48, 180, 36};
-const ScreenArea kRightLabel{535, 48, 170, 36};
-// Above the duck's head, where its shots leave: a point that stands still in the picture.
-const ScreenArea kLaunchPoint{246, 272, 20, 34};
+void tap(VirtualDisplay& screen, const char* key)
+{
+    screen.press({key});
+    screen.release({key});
+}
 
-/// Two people on one keyboard, from the first line of the log to the last.
-class Match : public testing::Test {
-protected:
-    void SetUp() override { ASSERT_TRUE(game.start()) << game.log(); }
-
-    void TearDown() override
-    {
-        EXPECT_EQ(game.quit(), 0);
-        EXPECT_EQ(game.complaints(), "");
-    }
-
-    /// Waits until the region holds more dark pixels than that, or no more.
-    bool waitForDark(const ScreenArea& region, int pixels, bool more)
-    {
-        return waitUntil(20, [&] { return (darkPixels(game.screen().look(), region) > pixels) == more; });
-    }
-
-    bool waitForSplitScreen() { return waitForDark(kLeftLabel, 200, true) && waitForDark(kRightLabel, 200, true); }
-
+TEST(Match, PeopleAndComputerPlayersJoinDriveShootAndAreRankedEveryThreeSeconds)
+{
     GameSession game;
+    game.start();
+    ChildProcess& program = game.program();
+    game.holdUntil("k", "DEBUG | Registering (0) Player 0, Pfeil\nDEBUG | "); // lines arrive while the program runs
+    tap(game.screen(), "Return");
+    std::this_thread::sleep_for(1s); // a pass of the main loop must see it before the next key
+    game.holdUntil("1", "Registering (0) Player 1, WASD\n");
+    program.waitFor("the tenth computer player", [&] {
+        tap(game.screen(), "space");
+        std::this_thread::sleep_for(100ms);
+        return program.count(", AI-Controller ") == kComputerPlayers;
+    });
+    EXPECT_EQ(program.count("Enter PlayGamestate"), 0) << "one player alone must not start, nor when the second joins";
+    game.holdUntil("Return", "DEBUG | Leave RegisterPlayersGamestate\nDEBUG | Enter PlayGamestate\n");
+
+    game.screen().press({"Up", "w", "k", "1"});
+    program.waitForOutput("DEBUG | First:  (", 1, kFirstHitSeconds);
+    const auto ranked = Clock::now();
+    game.screen().release({"Up", "w", "k", "1"});
+    program.waitForOutput("DEBUG | First:  (", 2);
+    EXPECT_GT(Clock::now() - ranked, 2500ms);
+    EXPECT_LT(Clock::now() - ranked, 8s) << "a busy machine's long passes included";
+
+    EXPECT_EQ(game.quit(), 0);
+    EXPECT_EQ(game.complaints(), "");
+}
+
+TEST(Match, WithoutASoundDeviceGoesOnIntoAFlightAndBackUntilTheWindowIsClosed)
+{
+    GameSession game;
+    game.start({{"ALSOFT_DRIVERS", "nosuch"}});
+    const auto isStill = [&] {
+        const Picture before = game.screen().look();
+        std::this_thread::sleep_for(300ms); // some passes of a busy machine
+        return changedShare(before, game.screen().look(), before.whole()) < 0.02;
+    };
+    game.startMatch();
+    game.screen().press({"k"});
+    game.holdUntil("F12", "DEBUG | Leave PlayGamestate\nDEBUG | Enter TestState1\n");
+    game.program().waitFor("a view without cars that roll", isStill);
+
+    const Picture view = game.screen().look();
+    const ScreenArea ground{0, 0, 1024, 60}; // seen from below
+    game.screen().press({"Shift_L", "w"});
+    game.program().waitFor("a flight", [&] { return changedShare(view, game.screen().look(), ground) > 0.2; });
+    game.screen().release({"Shift_L", "w"});
+    game.program().waitFor("the flight's end", isStill);
+
+    game.holdUntil("F11", "DEBUG | Leave TestState1\nDEBUG | Enter PlayGamestate\n");
+    game.program().waitFor("cars that roll", [&] { return !isStill(); });
+    game.screen().closeWindow();
+    EXPECT_EQ(game.program().waitForExit(), 0);
+    EXPECT_EQ(game.complaints(), "ERROR | Error, initializing Audiosystem!\n");
+}
+
+/// What ten taps on F2 did, which shows and hides the frame rate.
+struct TenTaps {
+    int toggles = 0;                   ///< how often the frame rate has come or gone
+    Clock::duration longestPass = 0ms; ///< of the main loop; each shows in the smoke, which rises
+    Clock::duration longestGap = 0ms;  ///< between two looks at the window
 };
 
-TEST_F(Match, PeopleAndComputerPlayersJoinDriveShootAndAreRankedEveryThreeSeconds)
+/// Tap that far apart, in a match in which a car stands and smokes.
+TenTaps tapTenTimes(VirtualDisplay& screen, Clock::duration pause)
 {
-    game.tap("k");
-    ASSERT_TRUE(game.waitForLog("DEBUG | Registering (0) Player 0, Pfeil\nDEBUG | "))
-        << "lines must arrive while the program runs";
-    game.tap("Return");
-    game.tap("1");
-    ASSERT_TRUE(game.waitForLog("Registering (0) Player 1, WASD"));
-    EXPECT_EQ(game.countInLog("Enter PlayGamestate"), 0)
-        << "one player alone must not start, nor when the second joins";
-    ASSERT_TRUE(waitUntil(60, [this] {
-        game.tap("space");
-        return game.countInLog(", AI-Controller ") == kComputerPlayers;
-    })) << game.log();
-    game.tap("Return");
-    ASSERT_TRUE(game.waitForLog("DEBUG | Leave RegisterPlayersGamestate\nDEBUG | Enter PlayGamestate"));
-    EXPECT_TRUE(waitForSplitScreen());
-
-    const Picture before = game.screen().look();
-    for (const char* key : {"Up", "w", "k", "1"}) game.screen().pressKey(key);
-    // One of the two may have landed on its tail and see the sky.
-    EXPECT_TRUE(game.waitForChange(before, before.whole(), 0.1)) << "nobody sees anything else than at the start";
-    ASSERT_TRUE(game.waitForLog("DEBUG | First:  (", 1, kFirstHitSeconds)) << "nobody hit anybody";
-    for (const char* key : {"Up", "w", "k", "1"}) game.screen().releaseKey(key);
-
-    ASSERT_TRUE(game.waitForLog("First:  (", game.countInLog("First:  (") + 1)); // the clock starts with a fresh one
-    const auto ranked = std::chrono::steady_clock::now();
-    ASSERT_TRUE(game.waitForLog("First:  (", game.countInLog("First:  (") + 1));
-    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - ranked;
-    EXPECT_GT(seconds.count(), 2.5);
-    EXPECT_LT(seconds.count(), 8) << "a busy machine's long passes included";
+    const auto showsFrameRate = [&] {
+        const std::vector<unsigned char> pixels = screen.lookAt({100, 665, 300, 30}).pixels;
+        const auto dark = std::count_if(pixels.begin(), pixels.end(), [](int component) { return component < 40; });
+        return dark > 1000; // the outlines of letters
+    };
+    TenTaps seen;
+    bool shown = showsFrameRate();
+    Picture smoke;
+    auto lastLook = Clock::now(), lastPass = lastLook;
+    for (int i = 0; i < 12; ++i) {
+        if (i < 10) tap(screen, "F2");
+        for (const auto end = Clock::now() + pause; Clock::now() < end; std::this_thread::sleep_for(1ms)) {
+            const bool wasShown = std::exchange(shown, showsFrameRate());
+            seen.toggles += shown != wasShown;
+            seen.longestGap = std::max(seen.longestGap, Clock::now() - std::exchange(lastLook, Clock::now()));
+            Picture now = screen.lookAt({246, 100, 20, 220});
+            if (now.pixels == smoke.pixels) continue;
+            smoke = std::move(now);
+            seen.longestPass = std::max(seen.longestPass, Clock::now() - std::exchange(lastPass, Clock::now()));
+        }
+    }
+    return seen;
 }
 
-TEST_F(Match, FunctionKeysDoTheirWorkAndLeaveTheLogClean)
+// However long the machine takes for a pass of the main loop, taps come a little more than one apart: some come in
+// adjacent passes, and no two in one.
+TEST(Match, CountsEveryQuickTapOfAFunctionKey)
 {
-    ASSERT_TRUE(game.startMatch());
-    Picture before = game.screen().look();
-    game.screen().pressKey("F1");
-    EXPECT_TRUE(game.waitForChange(before, {10, 30, 700, 500}, 0.02)) << "no help";
-    game.screen().releaseKey("F1");
-
-    const ScreenArea fpsText{100, 665, 400, 30};
-    before = game.screen().lookAt(fpsText);
-    game.tap("F2");
-    EXPECT_TRUE(waitUntil(10, [&] {
-        return changedShare(before, game.screen().lookAt(fpsText), before.whole()) > 0.05;
-    })) << "no frame rate";
-    game.tap("F2");
-
-    before = game.screen().look();
-    game.tap("F3");
-    EXPECT_TRUE(game.waitForChange(before, kLeftHalf, 0.5)) << "no wire frame";
-    game.tap("F3");
-
-    ASSERT_TRUE(waitForSplitScreen()) << "the wire frame stays";
-    const int horizon = darkPixels(game.screen().look(), kLaunchPoint); // its outline may be there
-    game.screen().pressKey("F6");
-    EXPECT_TRUE(waitForDark(kLaunchPoint, horizon + 50, true)) << "no marker";
-    game.screen().releaseKey("F6");
-    EXPECT_TRUE(waitForDark(kLaunchPoint, horizon + 20, false)) << "the marker stays";
-
-    for (const char* key : {"F4", "F5", "F8", "F9", "F7"}) game.tap(key);
-    ASSERT_TRUE(game.waitForLog("Compile Shader ...", 60)) << "F7 did not load the shaders again";
-}
-
-TEST_F(Match, F12LeavesItForAFlightOverTheGroundAndF11ComesBack)
-{
-    ASSERT_TRUE(game.startMatch() && waitForSplitScreen());
-    game.tap("F12");
-    ASSERT_TRUE(game.waitForLog("DEBUG | Leave PlayGamestate\nDEBUG | Enter TestState1"));
-    EXPECT_TRUE(waitForDark(kLeftLabel, 0, false) && waitForDark(kRightLabel, 0, false)) << "still the split screen";
-
-    const ScreenArea ground{0, 0, 1024, 60};
-    const Picture view = game.screen().look();
-    std::this_thread::sleep_for(std::chrono::milliseconds(400));
-    EXPECT_LT(changedShare(view, game.screen().look(), ground), 0.02) << "flies by itself";
-    for (const char* key : {"Shift_L", "w"}) game.screen().pressKey(key);
-    EXPECT_TRUE(game.waitForChange(view, ground, 0.2)) << "W does not fly";
-    for (const char* key : {"w", "Shift_L"}) game.screen().releaseKey(key);
-
-    game.tap("F11");
-    ASSERT_TRUE(game.waitForLog("DEBUG | Leave TestState1\nDEBUG | Enter PlayGamestate"));
-    EXPECT_TRUE(waitForSplitScreen()) << "not split again";
+    GameSession game;
+    game.start();
+    game.startMatch();
+    game.screen().press({"l", "Up"});
+    Clock::duration pause = 100ms;
+    int fairRounds = 0;
+    bool isSteady = false;
+    for (int round = 0; fairRounds < 5 && round < 12; ++round) {
+        const TenTaps seen = tapTenTimes(game.screen(), pause);
+        // Else a pass may have seen two taps as one, or two passes may have gone unseen. The first round sets the pace.
+        const bool wasSteady = std::exchange(isSteady, seen.longestPass < pause && seen.longestGap < 20ms);
+        if (isSteady && wasSteady) {
+            ++fairRounds;
+            EXPECT_EQ(seen.toggles, 10);
+        }
+        pause = std::min<Clock::duration>(seen.longestPass * 5 / 4, 200ms);
+    }
+    EXPECT_EQ(game.quit(), 0);
+    EXPECT_EQ(game.complaints(), "");
+    if (!fairRounds) GTEST_SKIP() << "a busy machine: its passes are too uneven";
 }
 
 } // namespace

@@ -1,7 +1,8 @@
-#include "testing/Shell.h"
+#include "testing/ChildProcess.h"
 #include "testing/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -35,11 +36,11 @@ TEST(DataFolder, IsFoundFrom)
         for (const char* data : row.data)
             for (const char* part : {"Shader", "Textures"}) fs::create_directories(folder.path() / data / part);
 
-        const CommandResult run = runCommand("cd '" + work.string() + "' && '" + program.string() + "'");
-        EXPECT_EQ(run.status, row.expected ? 0 : 1);
+        ChildProcess run({{program}, folder.path() / "log.txt", {}, work});
+        EXPECT_EQ(run.waitForExit(), row.expected ? 0 : 1);
         const std::string expected =
             row.expected ? (folder.path() / row.expected).string() + "\n" : "ERROR | no data folder found";
-        EXPECT_TRUE(run.output.starts_with(expected)) << run.output;
+        EXPECT_TRUE(run.output().starts_with(expected)) << run.output();
     }
 }
 
