@@ -18,8 +18,8 @@ class Terrain;
 
 /// The rule book and the lists of participants, without window and GL. Owned by a MatchWorld.
 ///
-/// Participants join at any time; each frame of the match updateMatch(), then stepPhysics(), then an update of the scene
-/// graph.
+/// Participants join at any time; each frame of the match updateMatch(), then stepPhysics(), then an update of the
+/// scene graph.
 class Match final : public IMatch {
 public:
     /// All borrowed: the scene that cars and balls join, how the match is seen and heard, the ground that is played on,
