@@ -4,6 +4,7 @@
 
 #include <iostream>
 #include <string>
+#include <utility>
 
 /// Collects what the program writes to standard output, log lines and printf alike, from its construction to its first
 /// text(). One at a time.
@@ -13,8 +14,8 @@ public:
     ~CapturedLog()
     {
         text();
-        if (testing::Test::HasFailure())
-            std::cout << captured << std::flush; // an expectation that failed meanwhile has its message here
+        // An expectation that failed meanwhile has its message in what was captured.
+        if (testing::Test::HasFailure()) std::cout << captured << std::flush;
     }
 
     /// Return everything written so far, and end the capture: standard output goes its usual way again.

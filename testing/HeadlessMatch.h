@@ -28,11 +28,10 @@ public:
         return *rules.getActors().back();
     }
 
-    Player& addComputerPlayer()
+    void addComputerPlayer()
     {
         rules.addComputerPlayer();
         graph.update();
-        return *rules.getActors().back();
     }
 
     /// Put a car there, upright and at rest, turned that far from +z towards +x.

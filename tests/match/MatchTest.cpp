@@ -5,8 +5,8 @@
 #include <PxPhysicsAPI.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
+#include <cctype>
 #include <sstream>
 #include <tuple>
 
@@ -34,19 +34,16 @@ protected:
         return shot(letter);
     }
 
-    physx::PxRigidActor* body(int letter)
-    {
-        return std::isupper(letter) ? shot(std::tolower(letter)).actor : player(letter).getVehicle()->getActor();
-    }
-
     /// "b+3": points for b, "b-60": damage to it; "Ab": a touch begins, "Ab~": it goes on.
     void happen(const std::string& event)
     {
         if (event[1] == '+') return player(event[0]).addScore(std::stoi(event.substr(2)));
         if (event[1] == '-') return player(event[0]).takeDamage(std::stoi(event.substr(2)));
         physx::PxContactPairHeader header;
-        header.actors[0] = body(event[0]);
-        header.actors[1] = body(event[1]);
+        for (const std::size_t i : {0, 1}) {
+            const bool isShot = std::isupper(event[i]);
+            header.actors[i] = isShot ? shot(std::tolower(event[i])).actor : player(event[i]).getVehicle()->getActor();
+        }
         physx::PxContactPair touch;
         touch.events = event.size() > 2 ? PxPairFlag::eNOTIFY_TOUCH_PERSISTS : PxPairFlag::eNOTIFY_TOUCH_FOUND;
         match.world.getHits().onContact(header, &touch, 1);
@@ -124,15 +121,13 @@ TEST_F(MatchTest, EndsShotsAfterFiveSecondsAndShotsAndCarsThatLeaveTheField)
     const double fired = match.clock.now();
     for (int i = 0; i < 700 && outcome() == "--- A"; ++i) match.update();
     EXPECT_NEAR(match.clock.now() - fired, 5, 0.004);
-    const auto outcomeAt = [this](const glm::vec3& position) {
-        shot('a').setPosition(position.x, position.y, position.z);
-        match.place(player('e'), position * 2.0f - glm::vec3(0, position.y, 0)); // cars may go further
-        match.update();
-        return outcome();
-    };
     for (const glm::vec3& limit : {glm::vec3(276, 90, 0), {-276, 90, 0}, {0, 90, 276}, {0, 90, -276}, {0, -30, 0}}) {
-        EXPECT_EQ(outcomeAt(0.999f * limit), "--- A");
-        EXPECT_EQ(outcomeAt(1.001f * limit), limit.y < 0 ? "e dies ---" : "---") << limit.x << ' ' << limit.z;
+        for (const float reach : {0.999f, 1.001f}) {
+            shot('a').setPosition(reach * limit.x, reach * limit.y, reach * limit.z);
+            match.place(player('e'), {2 * limit.x, reach * limit.y, 2 * limit.z}); // cars may leave the field
+            match.update();
+            EXPECT_EQ(outcome(), reach < 1 ? "--- A" : limit.y < 0 ? "e dies ---" : "---") << limit.x << ' ' << limit.z;
+        }
     }
 }
 
@@ -144,10 +139,9 @@ TEST_F(MatchTest, KeepsItsBooksThroughAMinuteAndAHalf)
     int shots = 0, hits = 0, deaths = 0;
     for (int pass = 0; pass < kPasses && !HasFailure(); ++pass) {
         match.pass();
-        int points = 0, damage = 0, best = 0;
+        int points = 0, damage = 0;
         deaths = 0;
         for (Player* player : match.rules.getActors()) {
-            best = std::max(best, player->getScore());
             points += player->getScore();
             deaths += player->getDeaths();
             damage += 100 * player->getDeaths() + 100 - player->getHealth();
@@ -155,8 +149,6 @@ TEST_F(MatchTest, KeepsItsBooksThroughAMinuteAndAHalf)
         }
         hits = damage / Ball::kDamage;
         EXPECT_TRUE(points >= hits + 5 * deaths && points <= hits + 8 * deaths) << points << " for " << hits;
-        const Player* leader = match.rules.getRanking().getLeader(0);
-        EXPECT_EQ(leader ? leader->getScore() : 0, best);
         for (const auto& ball : match.rules.getBalls())
             shots += ball->getOwner() == &player('a') && ball->getAge() == 0;
     }

@@ -52,8 +52,10 @@ TEST(PlayerRegistrationTest, TakesWhoeverPressesAndStartsByTheKeyOfOneWhoHasJoin
         match.keys.tap(GLFW_KEY_SPACE); // shorter than a frame
         EXPECT_EQ(frame({}), std::min(count, 10));
     }
+    EXPECT_EQ(match.rules.getPlayers()[1]->getColor(), glm::vec4(0.2f, 0.9f, 0.1f, 1)) << "the second person's";
     EXPECT_EQ(match.rules.getActors().back()->getColor(), glm::vec4(0.1f, 0.1f, 0.1f, 0));
-    match.pass(100);
+    match.clock.sleep(1); // the first shots are due
+    match.update();
     for (const auto& ball : match.rules.getBalls())
         EXPECT_FALSE(ball->getOwner()->hasSound()) << "a press is left over";
 }

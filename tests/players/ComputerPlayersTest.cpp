@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 /// Three cars, put where a test wants them, of which a computer drives one.
@@ -51,15 +53,15 @@ TEST_F(ComputerPlayers, SteerTowardsTheTargetShootAtWhatIsAheadOrCloseAndHandBra
     };
     match.place(other, {600, 90, 0}); // off the field
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.degreesRight);
         put(prey, row.degreesRight, row.distance, row.higher);
         const glm::vec3 velocity = glm::vec3(hunter.getChassisTransform()[2]) * row.speed;
         hunter.getVehicle()->getActor()->setLinearVelocity({velocity.x, velocity.y, velocity.z});
         look();
         const float axes[] = {row.throttle, 0, row.steering, 0};
-        for (int axis = 0; axis < 4; ++axis) EXPECT_NEAR(driver.getAxis(axis), axes[axis], 1e-4f) << "axis " << axis;
+        for (int axis = 0; axis < 4; ++axis) EXPECT_NEAR(driver.getAxis(axis), axes[axis], 1e-4f) << row.degreesRight;
         const bool buttons[] = {false, false, false, false, row.shoots, row.handBrakes, false};
-        for (int button = 0; button < 7; ++button) EXPECT_EQ(driver.isPressed(button), buttons[button]) << button;
+        for (int button = 0; button < 7; ++button)
+            EXPECT_EQ(driver.isPressed(button), buttons[button]) << row.degreesRight;
     }
 }
 
@@ -93,10 +95,7 @@ TEST_F(ComputerPlayers, DropATargetThatDiedOrWasNotAheadTwoMillisecondsAgo)
 
 TEST_F(ComputerPlayers, PreferTargetsThatAreNearAndAheadAndOnTheField)
 {
-    const struct {
-        glm::vec3 one, two;
-        const char* found;
-    } rows[] = {
+    const std::tuple<glm::vec3, glm::vec3, const char*> rows[] = {
         {{10, 60, 80}, {5, 60, 40}, "two, the nearer in the same direction"},
         {{5, 60, 40}, {5, 60, -40}, "one, ahead rather than behind"},
         {{5, 60, 90}, {5, 60, -20}, "two, close behind rather than far ahead"},
@@ -108,10 +107,10 @@ TEST_F(ComputerPlayers, PreferTargetsThatAreNearAndAheadAndOnTheField)
         {{511, 60, 0}, {-513, 60, 0}, "one"},
     };
     match.place(hunter, {0, 60, 0});
-    for (const auto& row : rows) {
-        match.place(prey, row.one);
-        match.place(other, row.two);
-        EXPECT_EQ(chooseTarget(hunter, nullptr, match.rules), row.found[0] == 'o' ? &prey : &other) << row.found;
+    for (const auto& [one, two, found] : rows) {
+        match.place(prey, one);
+        match.place(other, two);
+        EXPECT_EQ(chooseTarget(hunter, nullptr, match.rules), found[0] == 'o' ? &prey : &other) << found;
     }
 }
 
