@@ -40,7 +40,7 @@ protected:
         if (event[1] == '+') return player(event[0]).addScore(std::stoi(event.substr(2)));
         if (event[1] == '-') return player(event[0]).takeDamage(std::stoi(event.substr(2)));
         physx::PxContactPairHeader header;
-        for (const std::size_t i : {0, 1}) {
+        for (const std::size_t i : {0u, 1u}) {
             const bool isShot = std::isupper(event[i]);
             header.actors[i] = isShot ? shot(std::tolower(event[i])).actor : player(event[i]).getVehicle()->getActor();
         }
@@ -62,7 +62,8 @@ protected:
             if (now.getDeaths() != deaths) text += name + std::string(" dies ");
             std::tie(score, health, deaths) = std::tuple(now.getScore(), now.getHealth(), now.getDeaths());
             for (int place = 0; place < Hats::kCount; ++place)
-                if (match.rules.getHats().getNode(place)->getParent() == now.getChassisNode()) leaders[place] = name;
+                if (match.rules.getHats().getNode(place)->getParent() == now.getChassisNode())
+                    leaders.data()[place] = name;
         }
         for (const auto& ball : match.rules.getBalls()) leaders += {' ', "ABCDE"[ball->getOwner()->getNumber()]};
         return text + leaders;
