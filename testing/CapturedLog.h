@@ -4,6 +4,7 @@
 
 #include <iostream>
 #include <string>
+#include <utility>
 
 /// Collects what the program writes to standard output, log lines and printf alike, from its construction to its first
 /// text(). One at a time.
@@ -13,28 +14,24 @@ public:
     ~CapturedLog()
     {
         text();
-        if (testing::Test::HasFailure())
-            std::cout << captured << std::flush; // an expectation that failed meanwhile has its message here
+        // An expectation that failed meanwhile has its message in what was captured.
+        if (testing::Test::HasFailure()) std::cout << captured << std::flush;
     }
-    CapturedLog(const CapturedLog&) = delete;
-    CapturedLog& operator=(const CapturedLog&) = delete;
 
-    /// Everything written so far. Ends the capture: standard output goes its usual way again.
+    /// Return everything written so far, and end the capture: standard output goes its usual way again.
     const std::string& text()
     {
-        if (capturing) captured = testing::internal::GetCapturedStdout();
-        capturing = false;
+        if (std::exchange(capturing, false)) captured = testing::internal::GetCapturedStdout();
         return captured;
     }
 
-    bool contains(const std::string& part) { return text().find(part) != std::string::npos; }
+    bool contains(const std::string& part) { return count(part) > 0; }
 
-    /// How many times the text holds that part.
+    /// Return how many times the text holds that part.
     int count(const std::string& part)
     {
         int found = 0;
-        for (std::size_t at = text().find(part); at != std::string::npos; at = text().find(part, at + part.size()))
-            ++found;
+        for (std::size_t at = 0; (at = text().find(part, at)) != std::string::npos; at += part.size()) ++found;
         return found;
     }
 

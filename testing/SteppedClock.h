@@ -11,8 +11,6 @@ public:
     /// passSeconds: what a pass of the frame timer lasts, where that is more than the 1/120 s that it asks for.
     explicit SteppedClock(double passSeconds = 0) : shortest(passSeconds) { FrameTimer::getInstance()->setClock(this); }
     ~SteppedClock() override { FrameTimer::getInstance()->setClock(nullptr); }
-    SteppedClock(const SteppedClock&) = delete;
-    SteppedClock& operator=(const SteppedClock&) = delete;
 
     double now() override { return seconds; }
     void sleep(double duration) override { seconds += std::max(duration, shortest); }

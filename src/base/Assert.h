@@ -1,8 +1,8 @@
 #pragma once
 
-/// Stops the program with one line on standard error when a programming error shows. Active in every build type, unlike
-/// <cassert>, which the physics SDK's release headers switch off. `text` says what was expected (and may say what
-/// came).
+/// Stop the program with one line on standard error when the condition does not hold, which only a programming error
+/// can bring about. `text` says what was expected. Active in every build type, unlike <cassert>, which the physics
+/// SDK's release headers switch off.
 #define QKD_ASSERT(condition, text) \
     do { \
         if (!(condition)) failAssertion(#condition, text, __FILE__, __LINE__); \

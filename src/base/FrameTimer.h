@@ -6,10 +6,10 @@ class IClock {
 public:
     virtual ~IClock() = default;
 
-    /// Seconds since some fixed moment.
+    /// Return the seconds since some fixed moment.
     virtual double now() = 0;
 
-    /// Sleeps about that long; zero and negative values return at once.
+    /// Sleep about that long; not at all for zero and negative values.
     virtual void sleep(double seconds) = 0;
 };
 
@@ -18,16 +18,16 @@ class FrameTimer {
 public:
     static FrameTimer* getInstance();
 
-    /// Replaces the clock (borrowed; it must outlive its use). Null goes back to the machine's steady clock.
+    /// Take the time from that clock from now on (borrowed); null stands for the machine's steady clock.
     void setClock(IClock* newClock);
 
-    /// Sleeps so that the pass lasts at least 1/120 s, then measures it, at millisecond resolution.
+    /// Sleep until the pass has lasted 1/120 s at least, then measure it, in whole milliseconds.
     void tick();
 
-    /// Seconds of the last pass, sleep included.
+    /// Return the seconds of the last pass, sleep included.
     float getDelta() const { return delta; }
 
-    /// Whole milliseconds of the clock at the end of the last tick.
+    /// Return the whole milliseconds of the clock at the end of the last tick.
     double getTimeMs() const { return lastTimeMs; }
 
 private:
@@ -41,8 +41,8 @@ private:
     IClock* clock = nullptr;
 };
 
-/// Game time runs this many times faster than the wall clock: whatever is integrated over time uses delta x this.
+/// Game time runs this many times faster than the clock: whatever moves by time uses delta x this.
 constexpr float kGameTimeScale = 3.0f;
 
-/// Seconds of game time of the last pass.
+/// Return the seconds of game time of the last pass.
 float gameDelta();

@@ -4,21 +4,19 @@
 #include <sstream>
 #include <string>
 
-/// The one channel through which the program reports progress, warnings and failures: one text line a message, on
-/// standard output.
+/// Reports progress, warnings and failures, one line of text each, on standard output. There is one, which lives until
+/// the process ends; main thread only.
 ///
-/// A message is one statement: take the instance, set the level, insert the parts, end with std::endl:
-///     Logger::getInstance()->setLogLevel(2); *Logger::getInstance() << "Enter " << name << std::endl;
-/// or, shorter, logLine(2) << "Enter " << name << std::endl. Main thread only. Lives until the process ends.
+/// A message is one statement: set the level, insert the parts, end with std::endl:
+///     logLine(2) << "Enter " << name << std::endl;
 class Logger {
 public:
     static Logger* getInstance();
 
-    /// Severity of the next emitted line: 0 "ERROR", 1 "WARNING", 2 "DEBUG"; kept until the next call. Anything else
-    /// counts as 2.
+    /// Set the severity of the lines from the next one on: 0 "ERROR", 1 "WARNING", 2 "DEBUG". Others count as 2.
     void setLogLevel(int newLevel);
 
-    /// Appends a value, in the default stream format, to the line being built.
+    /// Append a value, in the default format of streams, to the line that is being built.
     template <class T>
     Logger& operator<<(const T& value)
     {
@@ -26,8 +24,7 @@ public:
         return *this;
     }
 
-    /// Emits the line: level name, " | ", the text collected so far, then the manipulator (std::endl: a newline and a
-    /// flush).
+    /// Write the line: the level's name, " | ", the text so far, then the manipulator (std::endl: newline and flush).
     Logger& operator<<(std::ostream& (*manipulator)(std::ostream&));
 
 private:
@@ -39,5 +36,5 @@ private:
     static const char* const l2s[3];
 };
 
-/// The logger, with the severity of the next line set.
+/// Set the severity of the next line and return the logger.
 Logger& logLine(int level);

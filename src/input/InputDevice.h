@@ -31,13 +31,13 @@ public:
     virtual bool isPressed(int button) = 0; ///< false for a number that is no Button
     virtual float getAxis(int axis) = 0;    ///< 0 for a number that is no Axis, or an axis that the device lacks
 
-    /// Rumbles for that many milliseconds; motor speeds from 0 to 65535. A new request replaces the running one.
+    /// Rumble for that many milliseconds; motor speeds from 0 to 65535. A new request replaces the running one.
     virtual void vibrate(int milliseconds, std::uint16_t leftMotor, std::uint16_t rightMotor) = 0;
 
-    /// From now on somebody takes part with this device.
+    /// Note that from now on somebody takes part with this device.
     virtual void setJoined() {}
 
-    virtual void update() = 0; ///< reads the hardware for this frame
+    virtual void update() = 0; ///< read the hardware for this frame
     virtual bool isConnected() = 0;
     virtual std::string getName() const = 0; ///< as players see it
     virtual bool isStartPressed() = 0;

@@ -16,10 +16,10 @@ public:
     Node* getNode(int place) const { return hats.at(static_cast<std::size_t>(place)); }
     Node* getAnimationNode(int place) const { return animations.at(static_cast<std::size_t>(place)); }
 
-    /// Takes a hat from whoever wears it and puts it on the player's head.
+    /// Take a hat from whoever wears it and put it on the player's head.
     void give(int place, const Player& player);
 
-    /// Lets the hats bob; milliseconds of the frame timer.
+    /// Move the hats up and down on their heads; milliseconds of the frame timer.
     void bob(double milliseconds);
 
 private:

@@ -18,15 +18,15 @@ public:
     /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
     explicit PlayerRegistration(Match& match);
 
-    /// The registration screen is shown anew.
+    /// Note that the registration screen is shown anew: a space bar that is held counts as pressed once more.
     void restart() { spaceHeld = false; }
 
-    /// Reads the devices; the first press of a device's shoot button adds its player to the match, each press of the
-    /// space bar a computer player.
+    /// Read the devices and the space bar. The first press of a device's shoot button adds its player to the match,
+    /// each press of the space bar a computer player.
     void update();
 
-    /// True when everybody possible takes part, or at least two do and one of the registered devices holds its start
-    /// button.
+    /// Return whether the match begins: as many take part as can, or at least two do and one of the registered devices
+    /// holds its start button.
     bool shouldStart() const;
 
 private:

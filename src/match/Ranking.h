@@ -10,16 +10,14 @@ class Ranking {
 public:
     static constexpr int kPlaces = 3;
 
-    /// Takes in that the player now has that score. Returns the best place, 0 to 2, from which on the holders have
-    /// changed, or kPlaces when all leaders are where they were.
+    /// Note that the player has that score now. Return the best place, 0 to 2, from which on the holders have changed,
+    /// or kPlaces when all leaders are where they were.
     int update(Player* player, int score);
 
-    Player* getLeader(int place) const
-    {
-        return places.at(static_cast<std::size_t>(place)).player;
-    } ///< null while vacant
+    /// Return who holds a place, 0 to 2; null while it is vacant.
+    Player* getLeader(int place) const { return places.at(static_cast<std::size_t>(place)).player; }
 
-    /// The player's place, 0 to 2, or kPlaces for anyone else.
+    /// Return the player's place, 0 to 2, or kPlaces for anyone else.
     int getPlace(const Player* player) const;
 
 private:

@@ -3,7 +3,7 @@
 #include "input/AIController.h"
 #include "players/Player.h"
 
-/// Holds the controller of a computer player, which has to be there before the player that is driven by it.
+/// The controller of a computer player, in a base of its own to exist before the player that is driven by it.
 struct AIControllerHolder {
     explicit AIControllerHolder(int number) : controller(number) {}
 

@@ -19,25 +19,25 @@ class Player : public Actor, public IPilot {
 public:
     Player(IMatch& match, IPresentation& presentation, InputDevice& device);
 
-    /// Builds the car and its nodes and drops it into the field. To be called before the match counts this player in.
+    /// Build the car and its nodes and drop it into the field. To be called before the match counts this player in.
     virtual void setUp();
 
     virtual glm::vec4 getColor() const; ///< red, green, blue, alpha
 
-    /// True for those who hear themselves: engine sound, effects at full volume, a label on the screen.
+    /// Return whether somebody hears this player: with an engine, effects at full volume and a label on the screen.
     virtual bool hasSound() const { return true; }
 
     std::string getName() const override; ///< "(3) Player 1, XBOX 2": score, player number, device
-    void update() override;               ///< reads the device, writes the car's controls, may shoot, moves the smoke
+    void update() override;               ///< read the device, drive, shoot, move the smoke
     bool isPlayer() const override { return true; }
     glm::vec3 getPosition() const override; ///< of the chassis
 
-    void takeDamage(int amount); ///< lowers the health, not below 0; rumbles and quacks
-    void die();                  ///< counts a death, restores the health, respawns
-    void respawn();              ///< stops the car and drops it anywhere from height 50, upright
+    void takeDamage(int amount); ///< lower the health, not below 0; rumble and quack
+    void die();                  ///< count a death, restore the health, respawn
+    void respawn();              ///< stop the car and drop it anywhere from height 50, upright
     void addScore(int points) { score += points; }
 
-    /// Writes rank, score and device name into the upper-left corner of the player's viewport.
+    /// Write rank, score and device name at the left edge of the player's viewport.
     void drawLabel() const;
 
     int getHealth() const { return health; } ///< 0 to 100

@@ -1,4 +1,5 @@
 #include "match/PlayerRegistration.h"
+#include "players/Ball.h"
 #include "testing/CapturedLog.h"
 #include "testing/HeadlessMatch.h"
 
@@ -8,79 +9,55 @@
 
 namespace {
 
-class Registration : public testing::Test {
-protected:
-    /// One frame of the registration screen with these keys down.
-    void frame(std::initializer_list<int> keys)
-    {
+TEST(PlayerRegistrationTest, TakesWhoeverPressesAndStartsByTheKeyOfOneWhoHasJoinedAndIsNotAlone)
+{
+    const struct {
+        std::initializer_list<int> keys;
+        int people, computers;
+        bool starts;
+        const char* what;
+    } rows[] = {
+        {{GLFW_KEY_ENTER, GLFW_KEY_UP}, 0, 0, false, "nobody has joined"},
+        {{GLFW_KEY_1}, 1, 0, false, "the first press joins"},
+        {{GLFW_KEY_1, GLFW_KEY_TAB}, 1, 0, false, "held; but one is too few"},
+        {{}, 1, 0, false, "released"},
+        {{GLFW_KEY_1, GLFW_KEY_SPACE, GLFW_KEY_ENTER}, 1, 1, false, "a second press; the arrow keys have not joined"},
+        {{GLFW_KEY_SPACE}, 1, 1, false, "held"},
+        {{GLFW_KEY_TAB}, 1, 1, true, "a person and a computer player"},
+        {{GLFW_KEY_K}, 2, 1, true, "a key that was let go of reads as down once more"},
+        {{}, 2, 1, false, "the newcomer's start key of before is forgotten"},
+        {{GLFW_KEY_ENTER, GLFW_KEY_SPACE}, 2, 2, true, "and counts now"},
+    };
+    HeadlessMatch match;
+    PlayerRegistration registration(match.rules);
+    const auto frame = [&](std::initializer_list<int> keys) {
         match.keys.hold(keys);
         FrameTimer::getInstance()->tick();
         registration.update();
-    }
-
-    HeadlessMatch match;
-    PlayerRegistration registration{match.rules};
-};
-
-TEST_F(Registration, TheFirstPressOfTheShootKeyJoinsAndHoldingItDoesNoMore)
-{
+        return match.rules.computerPlayerCount();
+    };
     CapturedLog log;
-    frame({GLFW_KEY_ENTER, GLFW_KEY_UP});
-    EXPECT_EQ(match.rules.getActorCount(), 0);
-    for (int i = 0; i < 3; ++i) frame({GLFW_KEY_1});
-    frame({});
-    frame({GLFW_KEY_1});
-
-    ASSERT_EQ(match.rules.getActorCount(), 1);
-    EXPECT_EQ(match.rules.getPlayers()[0]->getDevice().getName(), "WASD");
-    EXPECT_EQ(log.count("DEBUG | Player registered\n"), 1);
-}
-
-TEST_F(Registration, TwoStartWithTheStartKeyOfADeviceThatHasJoined)
-{
-    frame({GLFW_KEY_K, GLFW_KEY_ENTER});
-    EXPECT_FALSE(registration.shouldStart()) << "one alone";
-    frame({});
-    frame({GLFW_KEY_SPACE, GLFW_KEY_TAB});
-    EXPECT_FALSE(registration.shouldStart()) << "W/A/S/D have not joined";
-    frame({GLFW_KEY_ENTER});
-    EXPECT_TRUE(registration.shouldStart()) << "a person and a computer player";
-    frame({});
-    frame({GLFW_KEY_1});
-    EXPECT_FALSE(registration.shouldStart());
-    frame({GLFW_KEY_TAB});
-    EXPECT_TRUE(registration.shouldStart());
-}
-
-TEST_F(Registration, NoPressIsLeftOverForTheMatch)
-{
-    frame({GLFW_KEY_K});
-    frame({GLFW_KEY_K, GLFW_KEY_1});
-    for (int i = 0; i < 100; ++i) frame({}); // long enough for a first shot
-    frame({GLFW_KEY_ENTER});
-    ASSERT_TRUE(registration.shouldStart());
-    match.passes(10);
-    EXPECT_TRUE(match.rules.getBalls().empty());
-}
-
-TEST_F(Registration, EachPressOfTheSpaceBarAddsOneComputerPlayerAndTenAreTheMost)
-{
-    for (int press = 1; press <= 12; ++press) {
-        for (int i = 0; i < 3; ++i) frame({GLFW_KEY_SPACE});
-        EXPECT_EQ(match.rules.computerPlayerCount(), std::min(press, 10)) << "press " << press;
-        if (press == 1) registration.restart(); // the screen is shown anew: the key that is still held counts anew
-        else frame({});
-        if (press == 3) { // a tap shorter than a pass counts as much, and so does one right after it
-            for (int tap = 0; tap < 2; ++tap) {
-                match.keys.tap(GLFW_KEY_SPACE);
-                frame({});
-            }
-            press += 2;
-        }
+    for (const auto& row : rows) {
+        EXPECT_EQ(frame(row.keys), row.computers) << row.what;
+        EXPECT_EQ(match.rules.getHumanPlayerCount(), row.people) << row.what;
+        EXPECT_EQ(registration.shouldStart(), row.starts) << row.what;
     }
-    EXPECT_EQ(match.rules.getHumanPlayerCount(), 0);
-    frame({GLFW_KEY_ENTER, GLFW_KEY_TAB});
-    EXPECT_FALSE(registration.shouldStart()) << "nobody has joined who could start";
+    EXPECT_EQ(log.count("DEBUG | Player registered\n"), 2);
+    for (const char* who : {"0, WASD", "1, AI-Controller -1", "2, Pfeil", "3, AI-Controller 0"})
+        EXPECT_EQ(log.count(std::string("DEBUG | Registering (0) Player ") + who + "\n"), 1) << who;
+    registration.restart(); // the screen is shown anew
+    EXPECT_EQ(frame({GLFW_KEY_SPACE}), 3) << "the key that is still held counts anew";
+    for (int count = 4; count < 13; ++count) {
+        frame({});
+        match.keys.tap(GLFW_KEY_SPACE); // shorter than a frame
+        EXPECT_EQ(frame({}), std::min(count, 10));
+    }
+    EXPECT_EQ(match.rules.getPlayers()[1]->getColor(), glm::vec4(0.2f, 0.9f, 0.1f, 1)) << "the second person's";
+    EXPECT_EQ(match.rules.getActors().back()->getColor(), glm::vec4(0.1f, 0.1f, 0.1f, 0));
+    match.clock.sleep(1); // the first shots are due
+    match.update();
+    for (const auto& ball : match.rules.getBalls())
+        EXPECT_FALSE(ball->getOwner()->hasSound()) << "a press is left over";
 }
 
 } // namespace
