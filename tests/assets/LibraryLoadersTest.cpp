@@ -104,14 +104,13 @@ TEST_F(LibraryLoadersTest, SpoiledStagesAreNamedAndTheProgramIsRegisteredUnusabl
 TEST_F(LibraryLoadersTest, AReloadKeepsTheObjectThroughABadFileAndBack)
 {
     const std::string name = freshName();
-    Shaderprogram* first = nullptr;
+    Shaderprogram* program = nullptr;
     std::vector<GLuint> oldStages;
     for (const std::string& text : {kProgram, std::string("VERTEX_SHADER absent.vert"), std::string(), kProgram}) {
         data.write("any.shader", text);
         library.loadShader(name, "any.shader");
-        Shaderprogram* program = library.getShaderprogram(name);
-        if (!first) first = program;
-        ASSERT_EQ(program, first);
+        if (!program) program = library.getShaderprogram(name);
+        ASSERT_EQ(library.getShaderprogram(name), program);
         EXPECT_EQ(program->isUsable(), text == kProgram) << text;
         for (const GLuint stage : oldStages) EXPECT_FALSE(glIsShader(stage));
         oldStages = stagesOf(*program);

@@ -70,6 +70,7 @@ TEST_F(ModelImportTest, AFileWithoutAMeshGivesOneLineThatNamesItAndRegistersNoth
         {"picture.tga", "no model at all"},
         {"garbage.dae", "\xff<COLLADA <<<" + std::string(5000, '\xc3')},
         {"noGeometry.dae", cameraWith("<instance_geometry url=\"#mesh-mesh\" name=\"mesh\"/>", "")},
+        {"noPosition.dae", cameraWith("count=\"432\">", "count=\"432\">abc ")}, // the importer quotes the whole array
         {"noIndex.dae", cameraWith("<p>0", "<p>77777")},
         {"noNumber.dae", cameraWith("<p>0", "<p>/")}, // this one and the next four would hang or crash the importer
         {"noCount.dae", cameraWith("count=\"432\"", "cOunt=\"432\"")},
@@ -85,6 +86,7 @@ TEST_F(ModelImportTest, AFileWithoutAMeshGivesOneLineThatNamesItAndRegistersNoth
         EXPECT_EQ(log.count("WARNING | ") + log.count("ERROR | mesh has more than 65536 vertices: "), 1) << log.text();
         EXPECT_EQ(log.count(path), 2) << "once announcing the load, once in the complaint: " << log.text();
         EXPECT_LT(log.text().size(), 400u);
+        EXPECT_FALSE(log.contains("bad_alloc")) << "reading stops before the memory is full";
         EXPECT_EQ(Library::getInstance()->getMesh("Spoiled", false), nullptr);
     }
 }
