@@ -1,5 +1,5 @@
 #version 430 core
-// Shaded by the headlight of the eye, without colour or texture: for looking at forms.
+// A solid lit from the eye, without colour or texture: for looking at forms.
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
 

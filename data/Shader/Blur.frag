@@ -1,6 +1,6 @@
 #version 430 core
 // Depth blur: what is far grows soft and hazy, the playfield stays sharp. The alpha of the result says how much of an
-// edge a pixel is, for the ink of the pass that follows.
+// edge a pixel is: the pass that follows inks the edges.
 uniform sampler2D fbo_texture;
 uniform sampler2D depth_texture;
 uniform sampler2D light_depth_texture;
@@ -8,10 +8,10 @@ uniform float offset;
 
 out vec4 fragment;
 
-const float kNear = 0.1;              // the projection's, world units
-const float kBlurStart = 120.0;       // world units from the eye
+const float kNear = 0.1;        // the projection's, world units
+const float kBlurStart = 120.0; // world units from the eye
 const float kBlurFull = 320.0;
-const float kEdgeFrom = 0.10;        // bend of the reciprocal depth, relative to itself
+const float kEdgeFrom = 0.10;   // bend of the reciprocal depth, relative to itself
 const float kEdgeFull = 0.28;
 const vec3 kHaze = vec3(0.72, 0.85, 0.95);
 

@@ -1,6 +1,6 @@
 #version 430 core
-// Cel-shaded solids, drawn twice: first the inside faces, pushed outwards as a dark hull (backface 1), then the solid
-// itself (backface 0).
+// Cel-shaded solids, drawn twice: first the faces that look away, pushed outwards as a dark hull (backface 1), then the
+// solid itself (backface 0).
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
 
@@ -16,7 +16,8 @@ out vec3 eyePosition;
 out vec3 viewLight;
 out vec3 shadowPosition;
 
-const float kOutlinePerDistance = 0.0032; // world units of outline a unit of distance: about two and a half pixels in a full window
+// World units of outline a unit of distance: about two and a half pixels in a full window.
+const float kOutlinePerDistance = 0.0032;
 const vec3 kToLight = vec3(0.2873479, 0.9578263, 0.0);
 
 void main()

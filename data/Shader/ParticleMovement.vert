@@ -12,9 +12,9 @@ out vec3 vPosition;
 out float vTtl;
 out vec3 vVelocity;
 
-const float kLifetime = 2.4;  // seconds of game time
-const float kBuoyancy = 1.2;  // world units a second squared
-const float kDrag = 1.1;      // part of the velocity lost a second
+const float kLifetime = 2.4; // seconds of game time
+const float kBuoyancy = 1.2; // world units a second squared
+const float kDrag = 1.1;     // part of the velocity lost a second
 
 float hash(float n)
 {

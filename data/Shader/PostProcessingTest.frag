@@ -8,5 +8,6 @@ out vec4 fragment;
 void main()
 {
     vec2 fromCentre = gl_FragCoord.xy / max(window.xy, vec2(1.0)) - 0.5;
-    fragment = vec4(texelFetch(fbo_texture, ivec2(gl_FragCoord.xy), 0).rgb * (1.0 - 0.8 * dot(fromCentre, fromCentre)), 1.0);
+    vec3 colour = texelFetch(fbo_texture, ivec2(gl_FragCoord.xy), 0).rgb;
+    fragment = vec4(colour * (1.0 - 0.8 * dot(fromCentre, fromCentre)), 1.0);
 }

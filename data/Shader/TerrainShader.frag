@@ -9,25 +9,27 @@ uniform sampler2D shadow_texture;
 
 out vec4 fragment;
 
-const float kTilesPerUnit = 0.05;  // texture repeats a world unit
-const float kShadowBias = 0.0015;  // of the light's depth range: 0.3 world units
-const float kStripe = 12.0;        // world units: half the period of the mown chequers
-const float kInnerRing = 36.0;     // world units: the worn rings, one around the middle of the arena, one on the way to its rim
-const float kOuterRing = 84.0;
-const float kRingHalfWidth = 2.6;
+const float kTilesPerUnit = 0.05; // texture repeats a world unit
+const float kShadowBias = 0.0015; // of the light's depth range: 0.3 world units
+const float kStripe = 12.0;       // world units: half the period of the mown chequers
+const float kInnerRing = 36.0;    // world units: radius of the worn ring around the middle of the arena
+const float kOuterRing = 84.0;    // world units: radius of the one on the way to the rim
+const float kRingHalfWidth = 2.6; // world units
 const vec3 kToLight = vec3(0.2873479, 0.9578263, 0.0);
 
-// How much light gets here, 0 to 1: the four nearest texels vote by their closeness, so that edges run softly from
-// texel to texel.
+// Return how much light gets here, 0 to 1. The four nearest texels count by their closeness, so that edges run softly
+// from texel to texel.
 float lit()
 {
     vec2 at = shadowPosition.xy * vec2(textureSize(shadow_texture, 0)) - 0.5;
     ivec2 texel = ivec2(floor(at));
     vec2 part = at - vec2(texel);
     float depth = shadowPosition.z - kShadowBias;
-    vec4 votes = step(depth, vec4(texelFetch(shadow_texture, texel, 0).r, texelFetch(shadow_texture, texel + ivec2(1, 0), 0).r,
-                                  texelFetch(shadow_texture, texel + ivec2(0, 1), 0).r, texelFetch(shadow_texture, texel + ivec2(1, 1), 0).r));
-    vec2 rows = mix(votes.xz, votes.yw, part.x);
+    vec4 isLit = step(depth, vec4(texelFetch(shadow_texture, texel, 0).r,
+                                  texelFetch(shadow_texture, texel + ivec2(1, 0), 0).r,
+                                  texelFetch(shadow_texture, texel + ivec2(0, 1), 0).r,
+                                  texelFetch(shadow_texture, texel + ivec2(1, 1), 0).r));
+    vec2 rows = mix(isLit.xz, isLit.yw, part.x);
     return mix(rows.x, rows.y, part.y);
 }
 
@@ -37,7 +39,7 @@ void main()
     vec3 grass = texture(tex_grass, uv).rgb;
     vec3 dirt = texture(tex_dirt, uv).rgb;
 
-    // Dirt where it is steep, on low ground, and where the rings are worn into the grass, whose tufts fray its edges.
+    // Dirt where it is steep, on low ground, and where the rings are worn into the grass, whose tufts fray their edges.
     float flatness = smoothstep(0.90, 0.965, worldNormal.y);
     float height = smoothstep(20.0, 30.0, worldPosition.y);
     float radius = length(worldPosition.xz);

@@ -14,6 +14,7 @@ out vec3 patchNormal[];
 
 const float kFineLevel = 3.0;
 
+// Return whether the triangle lies beyond one side of the view with all its corners.
 bool outside(vec4 a, vec4 b, vec4 c)
 {
     for (int axis = 0; axis < 3; ++axis) {
@@ -23,7 +24,8 @@ bool outside(vec4 a, vec4 b, vec4 c)
     return false;
 }
 
-// The same for both patches that share an edge: it depends on the edge's middle alone, so that no cracks open.
+// Return how finely an edge is split. It depends on the edge's middle alone: the two patches that share the edge agree,
+// and no cracks open.
 float edgeLevel(vec3 p, vec3 q, vec3 eye)
 {
     return distance(0.5 * (p + q), eye) < fineDistance ? kFineLevel : 1.0;

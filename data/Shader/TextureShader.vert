@@ -1,5 +1,5 @@
 #version 430 core
-// A textured solid, lit by the headlight of the eye.
+// A textured solid, lit from the eye.
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
 layout(location = 2) in vec2 texcoord;

@@ -1,15 +1,13 @@
 #include "assets/BallModel.h"
 
 #include "assets/Icosphere.h"
-#include "assets/MeshGeometry.h"
-#include "gpu/DrawCalls.h"
 #include "scene/Mesh.h"
 
 namespace {
 
 constexpr float kRadius = 1.0f; // world units, as the ball of the physics world
 
-/// Shared by every ball, until the process ends.
+/// Return the sphere of every ball, which stays until the process ends.
 MeshGeometry& sphere()
 {
     static MeshGeometry* geometry = [] {
@@ -22,14 +20,8 @@ MeshGeometry& sphere()
 
 } // namespace
 
-BallModel::BallModel(const glm::vec4& color)
+BallModel::BallModel(const glm::vec4& color) : CelModel(color)
 {
     setName("Ball");
     setGeometry(sphere());
-    bindUniforms({.normalMatrix = true, .color = color});
-}
-
-BallModel::~BallModel()
-{
-    deleteVertexArray(vao);
 }

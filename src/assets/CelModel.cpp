@@ -4,9 +4,10 @@
 #include "assets/Library.h"
 #include "gpu/Shaderprogram.h"
 
-CelModel::CelModel()
+CelModel::CelModel(const glm::vec4& color)
 {
     shader = Library::getInstance()->getShaderprogram("Cel");
+    bindUniforms({.normalMatrix = true, .color = color});
 }
 
 void CelModel::draw()

@@ -12,7 +12,7 @@ namespace {
 
 using Element = boost::property_tree::ptree;
 
-constexpr std::size_t kMostDigits = 9; // of a count that can be meant
+constexpr std::size_t kMostDigits = 9; // of a number in an attribute; none that makes sense has more
 
 std::string attribute(const Element& element, const std::string& name)
 {
@@ -28,7 +28,7 @@ unsigned long long number(const Element& element, const std::string& name, unsig
     return std::stoull(text);
 }
 
-/// Calls visit(name, element) for every element, parents first.
+/// Call visit(name, element) for every element, parents first.
 template <class Visit>
 void forEachElement(const Element& parent, const Visit& visit)
 {

@@ -1,17 +1,8 @@
 #include "assets/DriverModel.h"
 
 #include "assets/Library.h"
-#include "assets/MeshGeometry.h"
-#include "scene/Mesh.h"
 
-DriverModel::DriverModel(const glm::vec4& color)
+DriverModel::DriverModel(const glm::vec4& color) : CelModel(color)
 {
-    bindUniforms({.normalMatrix = true, .color = color});
-    const Mesh* mesh = Library::getInstance()->getMesh("Duck");
-    if (!mesh) return;
-    geometry = std::make_unique<MeshGeometry>(*mesh,
-        std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal});
-    setGeometry(*geometry);
+    makeGeometry(Library::getInstance()->getMesh("Duck"), {MeshAttribute::Position, MeshAttribute::Normal});
 }
-
-DriverModel::~DriverModel() = default;

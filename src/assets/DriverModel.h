@@ -2,19 +2,11 @@
 
 #include "assets/CelModel.h"
 
-#include <glm/glm.hpp>
-
-#include <memory>
-
 /// The duck at the wheel: the library's mesh "Duck" in the colour of its player. Nothing is drawn when the mesh is
 /// missing.
 class DriverModel final : public CelModel {
 public:
     explicit DriverModel(const glm::vec4& color);
-    ~DriverModel();
 
     std::string getName() const override { return "Driver"; }
-
-private:
-    std::unique_ptr<MeshGeometry> geometry;
 };

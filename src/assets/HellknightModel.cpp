@@ -1,23 +1,15 @@
 #include "assets/HellknightModel.h"
 
 #include "assets/Library.h"
-#include "assets/MeshGeometry.h"
-#include "assets/Uniform_AttachableTransformation.h"
 #include "gpu/Shaderprogram.h"
 #include "scene/Camera.h"
-#include "scene/Mesh.h"
 
 HellknightModel::HellknightModel()
 {
     shader = Library::getInstance()->getShaderprogram("TextureShader");
-    const Mesh* mesh = Library::getInstance()->getMesh("Hellknight");
-    if (!mesh) return;
-    geometry = std::make_unique<MeshGeometry>(*mesh,
-        std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal, MeshAttribute::Texcoord});
-    setGeometry(*geometry);
+    makeGeometry(Library::getInstance()->getMesh("Hellknight"),
+        {MeshAttribute::Position, MeshAttribute::Normal, MeshAttribute::Texcoord});
 }
-
-HellknightModel::~HellknightModel() = default;
 
 void HellknightModel::setUniforms(Camera* camera)
 {

@@ -2,8 +2,6 @@
 
 #include "assets/Model.h"
 
-#include <memory>
-
 class Camera;
 
 /// A textured model that sets its uniforms itself: the library's mesh "Hellknight" with the texture
@@ -11,17 +9,12 @@ class Camera;
 class HellknightModel final : public Model {
 public:
     HellknightModel();
-    ~HellknightModel();
 
     std::string getName() const override { return "Hellknight"; }
 
-    /// Sets "view", "projection", "normalMatrix", "tex" (on unit 0) and "model" for that camera; the program is
-    /// current.
+    /// Set "view", "projection", "normalMatrix", "tex" (on unit 0) and "model" for that camera; the program is current.
     virtual void setUniforms(Camera* camera);
 
-    /// Makes the program current and sets its uniforms.
+    /// Make the program current and set its uniforms.
     virtual void bind(Camera* camera);
-
-private:
-    std::unique_ptr<MeshGeometry> geometry;
 };

@@ -10,19 +10,19 @@ class Camera;
 /// constructed.
 class IRenderServices {
 public:
-    /// The registered renderer; null until there is one.
+    /// Return the registered renderer; null until there is one.
     static IRenderServices* current();
 
-    /// Borrowed; null withdraws it.
+    /// Register a renderer, which is borrowed; null withdraws it.
     static void setCurrent(IRenderServices* services);
 
-    /// "viewMatrix", "projectionMatrix" or "normalMatrix" of the camera being drawn.
+    /// Return the source of "viewMatrix", "projectionMatrix" or "normalMatrix" of the camera being drawn.
     virtual UniformVariant& getGlobalUniform(const std::string& name) = 0;
 
-    /// The camera of the viewport being drawn.
+    /// Return the camera of the viewport being drawn.
     virtual Camera* getCurrentCamera() const = 0;
 
-    virtual void cullFrontFaces() = 0; ///< the rule; what one sees is wound clockwise from outside
+    virtual void cullFrontFaces() = 0; ///< as usual: what is seen is wound clockwise from outside
     virtual void cullBackFaces() = 0;
 
 protected:

@@ -16,29 +16,29 @@ class Library {
 public:
     static Library* getInstance();
 
-    /// Reads a .shader file (pairs of a stage keyword and a GLSL file), builds the program and registers it. A name
+    /// Read a .shader file (pairs of a stage keyword and a GLSL file), build the program and register it. A name
     /// that is already registered keeps its object, which gets the new program. A file that cannot be opened or an
     /// unknown keyword gives one line at level 0 and ends the load: a new name is not registered, an old one is left
     /// with an unusable program.
     void loadShader(const std::string& name, const std::string& path);
 
-    /// Reads a TGA file and registers it. A name that is already registered keeps its object, which gets the new image.
+    /// Read a TGA file and register it. A name that is already registered keeps its object, which gets the new image.
     void loadTexture(const std::string& name, const std::string& path);
 
-    /// Imports the first mesh of a model file and registers it, unless the name is taken. A file without a mesh is
+    /// Import the first mesh of a model file and register it, unless the name is taken. A file without a mesh is
     /// reported and not registered.
     void loadModel(const std::string& name, const std::string& path);
 
-    /// Loads the game's three model files: "Duck", "Partyhat", "Camera".
+    /// Load the game's three model files: "Duck", "Partyhat", "Camera".
     void loadModels();
 
-    // Null when the name is not registered; then, if verbose, with a log line at level 1. The caller asks with the kind
-    // that the name was loaded as.
+    // Return null when the name is not registered; then, if verbose, with a log line at level 1. The caller asks for
+    // the kind that was loaded under the name.
     Shaderprogram* getShaderprogram(const std::string& name, bool verbose = true) const;
     Texture* getTexture(const std::string& name, bool verbose = true) const;
     Mesh* getMesh(const std::string& name, bool verbose = true) const;
 
-    /// Every entry of that kind, in name order.
+    /// Return every entry of that kind, in name order.
     template <class T>
     std::vector<T*> getAll() const
     {
@@ -48,7 +48,7 @@ public:
         return found;
     }
 
-    /// Registers an object, which then belongs to the library. False, and nothing changes, when the name is taken.
+    /// Register an object, which then belongs to the library. Return false and change nothing when the name is taken.
     bool insert(const std::string& name, ILibraryObject* object);
 
 private:

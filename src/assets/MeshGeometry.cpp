@@ -10,16 +10,25 @@ namespace {
 
 struct Source {
     VertexAttribute attribute;
-    const void* data; // tightly packed, one element a vertex
+    const void* (*data)(const Mesh&); // tightly packed, one element a vertex
 };
 
-Source sourceOf(MeshAttribute attribute, const Mesh& mesh)
+const Source& sourceOf(MeshAttribute attribute)
 {
-    switch (attribute) {
-    case MeshAttribute::Normal: return {{ATTRIBUTE_VEC3, "normal"}, mesh.normals.data()};
-    case MeshAttribute::Texcoord: return {{ATTRIBUTE_VEC2, "texcoord"}, mesh.texcoords.data()};
-    default: return {{ATTRIBUTE_VEC3, "position"}, mesh.positions.data()};
-    }
+    static const Source sources[] = {
+        // in the order of the enumeration
+        {{ATTRIBUTE_VEC3, "position"}, [](const Mesh& mesh) -> const void* { return mesh.positions.data(); }},
+        {{ATTRIBUTE_VEC3, "normal"}, [](const Mesh& mesh) -> const void* { return mesh.normals.data(); }},
+        {{ATTRIBUTE_VEC2, "texcoord"}, [](const Mesh& mesh) -> const void* { return mesh.texcoords.data(); }},
+    };
+    return sources[static_cast<int>(attribute)];
+}
+
+VertexAttributeList layoutOf(std::initializer_list<MeshAttribute> attributes)
+{
+    VertexAttributeList layout;
+    for (const MeshAttribute attribute : attributes) layout.addAttribute(sourceOf(attribute).attribute);
+    return layout;
 }
 
 float radiusOf(const Mesh& mesh)
@@ -35,18 +44,11 @@ MeshGeometry::MeshGeometry(const Mesh& mesh, std::initializer_list<MeshAttribute
     : layout(layoutOf(attributes)), vertices(&layout, mesh.getVertexCount()), boundingRadius(radiusOf(mesh))
 {
     for (const MeshAttribute attribute : attributes) {
-        const Source source = sourceOf(attribute, mesh);
-        vertices.setAttributeData(source.attribute.name, source.data);
+        const Source& source = sourceOf(attribute);
+        vertices.setAttributeData(source.attribute.name, source.data(mesh));
     }
     vertices.upload(GL_STATIC_DRAW);
 
     std::vector<unsigned short> triangles = mesh.indices; // setIndices() may write to what it is given
     indices.setIndices(static_cast<unsigned>(triangles.size()), triangles.data(), false);
-}
-
-VertexAttributeList MeshGeometry::layoutOf(std::initializer_list<MeshAttribute> attributes)
-{
-    VertexAttributeList result;
-    for (const MeshAttribute attribute : attributes) result.addAttribute(sourceOf(attribute, Mesh()).attribute);
-    return result;
 }

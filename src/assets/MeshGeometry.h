@@ -5,7 +5,6 @@
 #include "gpu/VertexBuffer.h"
 
 #include <initializer_list>
-#include <memory>
 
 class Mesh;
 
@@ -23,7 +22,4 @@ public:
     VertexBuffer vertices;
     IndexBuffer indices;
     const float boundingRadius; ///< around the mesh's origin, in its own units
-
-private:
-    static VertexAttributeList layoutOf(std::initializer_list<MeshAttribute> attributes);
 };

@@ -1,7 +1,6 @@
 #include "assets/Model.h"
 
 #include "assets/IRenderServices.h"
-#include "assets/MeshGeometry.h"
 #include "gpu/DrawCalls.h"
 #include "gpu/Shaderprogram.h"
 
@@ -36,7 +35,7 @@ void Model::applyUniforms() const
 void Model::createVAO(const VertexAttributeList* attributes)
 {
     layout = attributes;
-    vao = layout->createVAO(shader, vertexBuffer);
+    vao = GlObject(GlKind::VertexArray, layout->createVAO(shader, vertexBuffer));
 }
 
 void Model::completeVAO()
@@ -46,10 +45,15 @@ void Model::completeVAO()
 
 void Model::setGeometry(MeshGeometry& geometry)
 {
-    vertexBuffer = &geometry.vertices;
-    indexBuffer = &geometry.indices;
+    setVertexBuffer(&geometry.vertices);
+    setIndexBuffer(&geometry.indices);
     boundingRadius = geometry.boundingRadius;
     createVAO(&geometry.layout);
+}
+
+void Model::makeGeometry(const Mesh* mesh, std::initializer_list<MeshAttribute> attributes)
+{
+    if (mesh) setGeometry(ownGeometry.emplace(*mesh, attributes));
 }
 
 void Model::bindUniforms(const CommonUniforms& wanted)

@@ -1,28 +1,23 @@
 #pragma once
 
+#include "assets/MeshGeometry.h"
 #include "assets/Uniform_AttachableTransformation.h"
 #include "gpu/Uniform_Color.h"
 #include "scene/Attachable.h"
-
-#include <GL/glew.h>
 
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
 
-class IndexBuffer;
-class MeshGeometry;
 class Shaderprogram;
-class VertexAttributeList;
-class VertexBuffer;
 
 /// How near the eye a model tends to be. Nearer layers are drawn first, so that what they hide is never shaded.
 enum class ModelLayer { Things, Ground, Sky };
 
-/// The drawable attachment of a scene node: a program, buffers with a vertex array, and a table of uniform sources.
-/// Plain data for the passes, filled by the concrete kind or by whoever builds the model. It releases none of the GL
-/// objects that it points at.
+/// The drawable attachment of a scene node: a program, buffers with a vertex array, and a table of uniform sources. The
+/// concrete kind, or whoever builds the model, fills it; the passes read it. It owns its vertex array and the geometry
+/// that it makes, and borrows everything else.
 ///
 /// A pass draws it with bindShader(), applyUniforms(), draw(), and skips it unless isDrawable(): a model whose program
 /// or mesh failed to load stays in the scene undrawn.
@@ -32,26 +27,33 @@ public:
     void accept(INodeVisitor* visitor) override { visitor->visitModel(this); }
     void acceptRelease(INodeVisitor* visitor) override { visitor->releaseModel(this); }
 
-    /// Issues the draw call with the current program; leaves no vertex array bound. Nothing is drawn unless
-    /// isDrawable().
+    /// Issue the draw call with the current program; leave no vertex array bound. Draw nothing unless isDrawable().
     virtual void draw();
 
     virtual std::string getName() const { return name; }
 
-    /// Whether there is a linked program, a vertex array and at least one vertex. Cheap; may change at each reload of
-    /// the program.
+    /// Return whether there is a linked program, a vertex array and at least one vertex. Cheap; the answer may change
+    /// with each reload of the program.
     bool isDrawable() const;
 
-    /// Whether there is something to draw with a pass's own program, such as the light's depth pass.
+    /// Return whether there is something to draw with a pass's own program, such as the light's depth pass.
     bool hasGeometry() const;
 
-    void bindShader() const;    ///< makes the program current; none when it is missing or not usable
-    void applyUniforms() const; ///< every entry of the table, in name order, into the program, which is current
+    void bindShader() const;    ///< make the program current; none when it is missing or not usable
+    void applyUniforms() const; ///< set every entry of the table, in name order, in the program, which is current
 
-    void
-    createVAO(const VertexAttributeList* attributes); ///< for the program and the vertex buffer; the list is borrowed
-    void completeVAO(); ///< the same once more, for a model that was made while its program was broken
-    void setGeometry(MeshGeometry& geometry); ///< both buffers, and a vertex array for the program
+    /// Make the vertex array for the program and the vertex buffer. The list is borrowed.
+    void createVAO(const VertexAttributeList* attributes);
+
+    /// Make it now, if it could not be made before because the program was broken.
+    void completeVAO();
+
+    /// Borrow the buffers and make the vertex array for the program, which is set before.
+    void setGeometry(MeshGeometry& geometry);
+
+    /// Do the same with geometry of the model's own, made from those arrays of the mesh. Null, for a mesh that failed to
+    /// load, leaves the model without geometry.
+    void makeGeometry(const Mesh* mesh, std::initializer_list<MeshAttribute> attributes);
 
     /// The uniforms that models have in common, beside "view" and "projection".
     struct CommonUniforms {
@@ -73,9 +75,8 @@ public:
     Shaderprogram* shader = nullptr;
     VertexBuffer* vertexBuffer = nullptr;
     IndexBuffer* indexBuffer = nullptr; ///< null draws the vertices as they stand
-    GLuint vao = 0;                     ///< for `shader` and `vertexBuffer`
-    std::string name;
-    bool cullable = true; ///< may be skipped when its node's origin is out of view
+    GlObject vao;                       ///< for `shader` and `vertexBuffer`; empty while the program is broken
+    bool cullable = true;               ///< may be skipped when its node's origin is out of view
     bool blended = false;
     bool castsShadow = true;
     std::uint32_t renderOrder = 0;         ///< ascending
@@ -87,6 +88,8 @@ protected:
     ~Model() = default;
 
 private:
+    std::string name;
+    std::optional<MeshGeometry> ownGeometry;
     const VertexAttributeList* layout = nullptr;
     Uniform_AttachableTransformation transformation{this};
     std::optional<Uniform_Color> ownColor;

@@ -23,8 +23,8 @@ glm::vec3 toVec3(const aiVector3D& v)
     return {v.x, v.y, v.z};
 }
 
-/// The importer's reason, in one line that names the file. It may quote a whole array of the file, of which the start
-/// will do.
+/// Log why the import failed, in one line that names the file. The importer's reason may quote a whole array of the
+/// file: only the start of it is logged.
 void reportFailure(const std::string& path, const std::string& reason)
 {
     const bool namesFile = reason.find(path) != std::string::npos;
@@ -50,7 +50,7 @@ void copyVertices(const aiMesh& source, Mesh& mesh)
     }
 }
 
-/// Files of that kind have z up; turns the positions by 90 degrees about x.
+/// Turn the positions by 90 degrees about x: files of that kind have z up.
 void standUp(Mesh& mesh)
 {
     for (glm::vec3& position : mesh.positions) position = {position.x, -position.z, position.y};

@@ -1,12 +1,11 @@
 #include "assets/PartyhatModel.h"
 
 #include "assets/Library.h"
-#include "assets/MeshGeometry.h"
 #include "scene/Mesh.h"
 
 namespace {
 
-/// Smooth normals from the faces, then (x, y, z) to (x, -z, y): the file's hat lies on its side.
+/// Compute smooth normals from the faces; then turn (x, y, z) into (x, -z, y), since the file's hat lies on its side.
 void rebuildNormals(Mesh& mesh)
 {
     mesh.calculateNormals();
@@ -16,15 +15,9 @@ void rebuildNormals(Mesh& mesh)
 
 } // namespace
 
-PartyhatModel::PartyhatModel(const glm::vec4& color)
+PartyhatModel::PartyhatModel(const glm::vec4& color) : CelModel(color)
 {
-    bindUniforms({.normalMatrix = true, .color = color});
     Mesh* mesh = Library::getInstance()->getMesh("Partyhat");
-    if (!mesh) return;
-    rebuildNormals(*mesh);
-    geometry = std::make_unique<MeshGeometry>(*mesh,
-        std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Normal});
-    setGeometry(*geometry);
+    if (mesh) rebuildNormals(*mesh);
+    makeGeometry(mesh, {MeshAttribute::Position, MeshAttribute::Normal});
 }
-
-PartyhatModel::~PartyhatModel() = default;

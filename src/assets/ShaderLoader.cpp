@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -13,7 +14,7 @@ namespace {
 
 constexpr std::size_t kQuotedCharacters = 40; // of a word that may be anything, such as part of a picture
 
-/// The lines of a text file, each followed by lineEnd. Nothing, with a log line, when it cannot be opened.
+/// Return the lines of a text file, each followed by lineEnd. Nothing, with a log line, when it cannot be opened.
 std::optional<std::string> readLines(const std::string& path, char lineEnd)
 {
     std::ifstream file(path);
@@ -29,14 +30,18 @@ std::optional<std::string> readLines(const std::string& path, char lineEnd)
 
 std::optional<GLenum> stageOf(const std::string& keyword)
 {
-    if (keyword == "VERTEX_SHADER") return GL_VERTEX_SHADER;
-    if (keyword == "TESS_CONTROL_SHADER") return GL_TESS_CONTROL_SHADER;
-    if (keyword == "TESS_EVALUATION_SHADER") return GL_TESS_EVALUATION_SHADER;
-    if (keyword == "GEOMETRY_SHADER") return GL_GEOMETRY_SHADER;
-    if (keyword == "FRAGMENT_SHADER") return GL_FRAGMENT_SHADER;
-    return std::nullopt;
+    static const std::map<std::string, GLenum> stages{
+        {"VERTEX_SHADER", GL_VERTEX_SHADER},
+        {"TESS_CONTROL_SHADER", GL_TESS_CONTROL_SHADER},
+        {"TESS_EVALUATION_SHADER", GL_TESS_EVALUATION_SHADER},
+        {"GEOMETRY_SHADER", GL_GEOMETRY_SHADER},
+        {"FRAGMENT_SHADER", GL_FRAGMENT_SHADER},
+    };
+    const auto found = stages.find(keyword);
+    return found == stages.end() ? std::nullopt : std::optional(found->second);
 }
 
+/// Return the start of the word, with a question mark for every character that is not printable.
 std::string quotable(std::string word)
 {
     if (word.size() > kQuotedCharacters) word.resize(kQuotedCharacters);
@@ -45,7 +50,7 @@ std::string quotable(std::string word)
     return word;
 }
 
-/// Compiles one stage into the program. False, with a log line, when its file cannot be opened.
+/// Compile one stage into the program. Return false, with a log line, when its file cannot be opened.
 bool addStage(Shaderprogram& program, GLenum stage, const std::string& path)
 {
     const std::optional<std::string> source = readLines(path, '\n');
@@ -56,7 +61,8 @@ bool addStage(Shaderprogram& program, GLenum stage, const std::string& path)
     return true;
 }
 
-/// Compiles every stage that the file lists and links the program. False, with a log line, when it ends before that.
+/// Compile every stage that the file lists and link the program. Return false, with a log line, when a stage prevents
+/// that.
 bool buildProgram(Shaderprogram& program, const std::string& path)
 {
     const std::optional<std::string> text = readLines(path, ' ');
@@ -81,15 +87,10 @@ bool buildProgram(Shaderprogram& program, const std::string& path)
 
 void Library::loadShader(const std::string& name, const std::string& path)
 {
-    Shaderprogram* program = getShaderprogram(name, false);
     std::unique_ptr<Shaderprogram> fresh;
-    if (program) {
-        program->createProgram();
-    } else {
-        fresh = std::make_unique<Shaderprogram>();
-        program = fresh.get();
-    }
+    Shaderprogram* program = getShaderprogram(name, false);
+    if (program) program->createProgram();
+    else program = (fresh = std::make_unique<Shaderprogram>()).get();
     program->setSource(path);
-    if (buildProgram(*program, path) && insert(name, program))
-        static_cast<void>(fresh.release()); // the library owns it now
+    if (buildProgram(*program, path) && fresh) insert(name, fresh.release());
 }

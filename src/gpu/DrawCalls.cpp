@@ -1,6 +1,5 @@
 #include "gpu/DrawCalls.h"
 
-#include "gpu/GlObject.h"
 #include "gpu/IndexBuffer.h"
 #include "gpu/Shaderprogram.h"
 #include "gpu/VertexBuffer.h"
@@ -40,9 +39,4 @@ void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, 
     indices.bind();
     glMultiDrawElements(mode, counts.data(), GL_UNSIGNED_SHORT, offsets.data(), static_cast<GLsizei>(counts.size()));
     glBindVertexArray(0);
-}
-
-void deleteVertexArray(GLuint vao)
-{
-    const GlObject owner(GlKind::VertexArray, vao);
 }

@@ -22,6 +22,3 @@ void drawVertexArray(GLuint vao, GLenum mode, const VertexBuffer* vertices, cons
 /// the same.
 void drawVertexArrayRanges(GLuint vao, GLenum mode, const IndexBuffer& indices, const std::vector<GLsizei>& counts,
     const std::vector<unsigned>& firsts);
-
-/// Delete a vertex array object; do nothing for 0, or when its context has gone.
-void deleteVertexArray(GLuint vao);

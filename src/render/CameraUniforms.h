@@ -4,8 +4,7 @@
 
 #include <glm/glm.hpp>
 
-// The matrices of the camera that the renderer is drawing at the moment. One source of each serves every viewport.
-// Owned by the renderer.
+// The matrices of the camera that is being drawn. The renderer owns one source of each, which serves every viewport.
 
 class Uniform_ViewMatrix : public GlobalUniform<glm::mat4> {
 public:

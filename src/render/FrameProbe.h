@@ -1,6 +1,6 @@
 #pragma once
 
-/// Hears after each step of a frame that the step's calls were issued: a benchmark measures between two of them.
+/// Is told after each step of a frame that the calls of that step were issued, so that a benchmark can measure them.
 class IFrameProbe {
 public:
     virtual ~IFrameProbe() = default;

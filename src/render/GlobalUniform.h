@@ -14,5 +14,5 @@ public:
 protected:
     ~GlobalUniform() = default;
 
-    Renderer* renderer; // forward-declared: the renderer lies above this module
+    Renderer* renderer; // forward-declared only: the renderer holds such sources itself
 };

@@ -12,7 +12,6 @@
 #include <GLFW/glfw3.h>
 
 #include <algorithm>
-#include <functional>
 #include <string>
 #include <tuple>
 
@@ -44,16 +43,13 @@ void ModelRenderer::render(Camera* camera)
     Shaderprogram::unuse();
 }
 
-/// By render order; then near things before the ground and the ground before the sky, so that hidden pixels are never
-/// shaded; then by program, so that consecutive models share it.
+/// Return the models by render order; then near things before the ground and the ground before the sky, so that hidden
+/// pixels are never shaded; then by program, so that consecutive models share it.
 std::vector<Model*> ModelRenderer::sorted() const
 {
     std::vector<Model*> models(registry.begin(), registry.end());
-    std::sort(models.begin(), models.end(), [](const Model* a, const Model* b) {
-        if (a->renderOrder != b->renderOrder) return a->renderOrder < b->renderOrder;
-        if (a->layer != b->layer) return a->layer < b->layer;
-        return std::less<>()(a->shader, b->shader);
-    });
+    std::ranges::sort(models, {},
+        [](const Model* model) { return std::tuple(model->renderOrder, model->layer, model->shader); });
     return models;
 }
 

@@ -10,10 +10,19 @@
 namespace {
 
 constexpr unsigned kParticles = 100;
-constexpr std::size_t kBlockFloats = 800; // what is uploaded at first: 3200 bytes
-constexpr std::size_t kRecordFloats = 8;  // a record of that block
+constexpr std::size_t kBlockFloats = 800; // in the block that both buffers start with: 3200 bytes
+constexpr std::size_t kRecordFloats = 8;  // in a record of that block
 constexpr std::size_t kRecordOne = 7;     // the float of a record that starts at one; the others start at zero
 constexpr GLuint kBinding = 0;            // vertex buffer binding point
+
+VertexAttributeList particleLayout()
+{
+    VertexAttributeList layout;
+    layout.addAttribute({ATTRIBUTE_VEC3, "position"});
+    layout.addAttribute({ATTRIBUTE_FLOAT, "ttl"});
+    layout.addAttribute({ATTRIBUTE_VEC3, "velocity"});
+    return layout;
+}
 
 std::vector<float> startingBlock()
 {
@@ -28,13 +37,13 @@ ParticleSystem::ParticleSystem(Shaderprogram* movementProgram)
     : format(particleLayout()), movement(movementProgram), renderBuffer(&format, kParticles),
       feedbackBuffer(&format, kParticles)
 {
-    cullable = false;
+    setCullable(false);
     blended = true;
     castsShadow = false;
     renderOrder = 1;
     drawMode = GL_POINTS;
     shader = Library::getInstance()->getShaderprogram("ParticleRender");
-    vertexBuffer = &renderBuffer;
+    setVertexBuffer(&renderBuffer);
     bindUniforms({});
 
     const std::vector<float> block = startingBlock();
@@ -46,28 +55,13 @@ ParticleSystem::ParticleSystem(Shaderprogram* movementProgram)
         movement->link();
     }
     createVAO(&format);
-    movementVertexArray = format.createVAO(movement, &feedbackBuffer);
-}
-
-ParticleSystem::~ParticleSystem()
-{
-    deleteVertexArray(vao);
-    deleteVertexArray(movementVertexArray);
-}
-
-VertexAttributeList ParticleSystem::particleLayout()
-{
-    VertexAttributeList layout;
-    layout.addAttribute({ATTRIBUTE_VEC3, "position"});
-    layout.addAttribute({ATTRIBUTE_FLOAT, "ttl"});
-    layout.addAttribute({ATTRIBUTE_VEC3, "velocity"});
-    return layout;
 }
 
 void ParticleSystem::update()
 {
-    if (movementVertexArray == 0) movementVertexArray = format.createVAO(movement, &feedbackBuffer);
-    if (movementVertexArray == 0) return;
+    if (!movementVertexArray)
+        movementVertexArray = GlObject(GlKind::VertexArray, format.createVAO(movement, &feedbackBuffer));
+    if (!movementVertexArray) return;
     glBindVertexArray(movementVertexArray);
     movement->use();
     movement->setUniform("Time", gameDelta());

@@ -13,26 +13,20 @@ class ParticleSystem final : public Model {
 public:
     /// The movement program is borrowed; null, or one that did not link, leaves the particles where they are.
     explicit ParticleSystem(Shaderprogram* movementProgram);
-    ~ParticleSystem();
 
-    void setEmitterPosition(const glm::vec3& position)
-    {
-        emitterPosition = position;
-    } ///< world; the owner sets it each frame
+    /// Set the point in the world where particles begin. The owner does so each frame.
+    void setEmitterPosition(const glm::vec3& position) { emitterPosition = position; }
 
-    void update() override; ///< one step of game time
+    void update() override; ///< advance the particles by one step of game time
     void draw() override;
 
-    const VertexBuffer& getRenderBuffer() const { return renderBuffer; }
-
 private:
-    static VertexAttributeList particleLayout();
     void advance();
 
     VertexAttributeList format;
     Shaderprogram* movement;
     VertexBuffer renderBuffer;
     VertexBuffer feedbackBuffer;
-    GLuint movementVertexArray = 0;
+    GlObject movementVertexArray; // empty while the movement program is broken
     glm::vec3 emitterPosition{0.0f};
 };

@@ -7,7 +7,7 @@ namespace {
 
 constexpr const char* kBlur = "Blur";
 constexpr const char* kCelPostProc = "CelPostProc";
-constexpr double kOffsetPeriod = 500.0; // milliseconds in which the blur's offset grows by one
+constexpr double kOffsetPeriod = 500.0; // milliseconds in which the uniform "offset" grows by one
 
 void clearTarget()
 {
@@ -15,6 +15,7 @@ void clearTarget()
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
 
+/// Return the program of that name; null unless it is linked.
 Shaderprogram* programNamed(const char* name)
 {
     Shaderprogram* program = Library::getInstance()->getShaderprogram(name, false);

@@ -11,16 +11,17 @@ class PostProcessing {
 public:
     explicit PostProcessing(glm::ivec2 windowSize); ///< pixels
 
-    /// Whether the library has both programs, linked.
+    /// Return whether the library has both programs, linked.
     bool isUsable() const;
 
-    /// milliseconds: the current time, which moves what the pass animates.
+    /// Draw the first pass. milliseconds: the current time, which the program gets as its uniform "offset".
     void blur(const TargetTexture& sceneColour, const TargetTexture& sceneDepth, const TargetTexture& lightDepth,
         double milliseconds) const;
 
+    /// Draw the second pass.
     void celPostProc() const;
 
-    /// The scene into the window as it is.
+    /// Copy the scene into the window as it is.
     void showUnprocessed(const Framebuffer& scene) const;
 
 private:

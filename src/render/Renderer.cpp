@@ -29,7 +29,7 @@ void setArea(int x, int y, int width, int height)
     glScissor(x, y, width, height);
 }
 
-/// Clears the viewport's rectangle and confines drawing to it.
+/// Clear the viewport's rectangle and confine drawing to it.
 void apply(const Viewport& viewport)
 {
     const glm::vec4& colour = viewport.clearColour;
@@ -45,9 +45,6 @@ void apply(const Viewport& viewport)
 } // namespace
 
 Renderer::Renderer()
-    : modelRenderer(this), viewMatrix(this), projectionMatrix(this),
-      normalMatrix(this), globalUniforms{{"viewMatrix", &viewMatrix}, {"projectionMatrix", &projectionMatrix},
-                              {"normalMatrix", &normalMatrix}}
 {
     IRenderServices::setCurrent(this);
 }
@@ -111,48 +108,61 @@ void Renderer::setFixedState()
 
 void Renderer::render(IGameState* state)
 {
+    updateScene();
     renderLightDepth();
-    if (!wireframe) targets->scene.bind();
-    for (const Viewport* viewport : viewports) renderViewport(*viewport, state);
-    stepDone("model passes");
-
-    setArea(0, 0, width, height);
-    updateFpsText();
+    renderViewports(state);
     renderText();
     if (!wireframe) postProcess();
     window.swapBuffers();
     stepDone("swap");
 }
 
-void Renderer::renderLightDepth()
+void Renderer::updateScene()
 {
     if (sceneGraph) sceneGraph->update();
     stepDone("scene update");
+}
 
-    const glm::ivec2 size = targets->lightDepth.getSize();
+void Renderer::renderLightDepth()
+{
     if (sceneGraph) sceneGraph->accept(&shadowRenderer);
-    if (sceneGraph && !wireframe) {
-        targets->shadowCache.draw(shadowRenderer);
-    } else {
-        if (!wireframe) targets->light.bind();
-        setArea(0, 0, size.x, size.y);
-        glClear(GL_DEPTH_BUFFER_BIT);
-        if (sceneGraph) shadowRenderer.render();
-        if (!wireframe) targets->shadowCache.invalidate();
-    }
+    if (sceneGraph && !wireframe) targets->shadowCache.draw(shadowRenderer);
+    else renderLightDepthAnew();
     stepDone("shadow pass");
 }
 
-void Renderer::renderViewport(const Viewport& viewport, IGameState* state)
+/// Clear the depth and draw every caster, without the cache: in wireframe mode into the window, as everything else.
+void Renderer::renderLightDepthAnew()
 {
-    apply(viewport);
-    currentCamera = viewport.camera;
-    if (sceneGraph) {
-        sceneGraph->accept(&modelRenderer);
-        modelRenderer.render(currentCamera);
+    if (!wireframe) {
+        targets->light.bind();
+        targets->shadowCache.invalidate();
     }
-    if (state) state->renderCamera(currentCamera);
-    if (isKeyDown(GLFW_KEY_F6)) renderDebugOverlay();
+    const glm::ivec2 size = targets->lightDepth.getSize();
+    setArea(0, 0, size.x, size.y);
+    glClear(GL_DEPTH_BUFFER_BIT);
+    if (sceneGraph) shadowRenderer.render();
+}
+
+void Renderer::renderViewports(IGameState* state)
+{
+    if (!wireframe) targets->scene.bind();
+    for (const Viewport* viewport : viewports) {
+        apply(*viewport);
+        currentCamera = viewport->camera;
+        renderModels();
+        if (state) state->renderCamera(currentCamera);
+        if (isKeyDown(GLFW_KEY_F6)) renderDebugOverlay();
+    }
+    setArea(0, 0, width, height);
+    stepDone("model passes");
+}
+
+void Renderer::renderModels()
+{
+    if (!sceneGraph) return;
+    sceneGraph->accept(&modelRenderer);
+    modelRenderer.render(currentCamera);
 }
 
 void Renderer::renderDebugOverlay()
@@ -160,6 +170,14 @@ void Renderer::renderDebugOverlay()
     if (!debugRenderer || !sceneGraph) return;
     sceneGraph->accept(debugRenderer);
     debugRenderer->render(currentCamera);
+}
+
+void Renderer::renderText()
+{
+    updateFpsText();
+    if (showFps) textRenderer->addText(fpsText, kFpsX, kFpsY);
+    textRenderer->render();
+    stepDone("text");
 }
 
 void Renderer::updateFpsText()
@@ -170,13 +188,6 @@ void Renderer::updateFpsText()
     text << "FPS: " << 1 / FrameTimer::getInstance()->getDelta();
     fpsText = text.str();
     lastFpsTime = static_cast<int>(now);
-}
-
-void Renderer::renderText()
-{
-    if (showFps) textRenderer->addText(fpsText, kFpsX, kFpsY);
-    textRenderer->render();
-    stepDone("text");
 }
 
 void Renderer::postProcess()

@@ -30,11 +30,11 @@ public:
     Renderer();
     ~Renderer();
 
-    /// Opens the window and creates everything that frames need. False, with a log line at level 0, when there is no
-    /// display, no OpenGL 4.3 or no entry points; then nothing else may be called but terminate().
+    /// Open the window and create everything that frames need. Return false, with a log line at level 0, when there is
+    /// no display, no OpenGL 4.3 or no entry points; then nothing else may be called but terminate().
     [[nodiscard]] bool initialize();
 
-    /// Draws and presents one frame. The state (or null) gets its per-camera call after each viewport's models.
+    /// Draw and present one frame. The state (or null) gets its per-camera call after each viewport's models.
     void render(IGameState* state);
 
     bool shouldClose() const;
@@ -57,15 +57,15 @@ public:
     Camera* getCurrentCamera() const override { return currentCamera; }
     unsigned getLightDepthTexture() const; ///< GL name
 
-    /// "viewMatrix", "projectionMatrix" or "normalMatrix"; any other name yields an empty entry.
+    /// Return the source of "viewMatrix", "projectionMatrix" or "normalMatrix"; for any other name an empty entry.
     UniformVariant& getGlobalUniform(const std::string& name) override { return globalUniforms[name]; }
 
-    void setBlending(bool on); ///< stays off while blending is not allowed
+    void setBlending(bool on); ///< off whatever `on` says while blending is not allowed
     void cullFrontFaces() override;
     void cullBackFaces() override;
 
-    // Debug switches, each a flip.
-    void toggleWireframe(); ///< polygons as lines, straight into the window
+    // Debug switches.
+    void toggleWireframe(); ///< draw polygons as lines, straight into the window
     void toggleBlending() { blendingAllowed = !blendingAllowed; }
     void toggleFpsDisplay() { showFps = !showFps; }
     void toggleMagFilter() { filters.toggleMagnification(); }
@@ -76,8 +76,11 @@ private:
     bool loadEntryPoints();
     void setFixedState();
 
+    void updateScene();
     void renderLightDepth();
-    void renderViewport(const Viewport& viewport, IGameState* state);
+    void renderLightDepthAnew();
+    void renderViewports(IGameState* state);
+    void renderModels();
     void renderDebugOverlay();
     void renderText();
     void updateFpsText();
@@ -95,7 +98,7 @@ private:
 
     AppWindow window;
     Camera* currentCamera = nullptr;
-    ModelRenderer modelRenderer;
+    ModelRenderer modelRenderer{this};
     ShadowMappingRender shadowRenderer;
     DebugRenderer* debugRenderer = nullptr;
     std::unique_ptr<TextRenderer> textRenderer;
@@ -104,8 +107,12 @@ private:
     SceneGraph* sceneGraph = nullptr;
     IFrameProbe* probe = nullptr;
 
-    Uniform_ViewMatrix viewMatrix;
-    Uniform_ProjectionMatrix projectionMatrix;
-    Uniform_NormalMatrix normalMatrix;
-    std::map<std::string, UniformVariant> globalUniforms;
+    Uniform_ViewMatrix viewMatrix{this};
+    Uniform_ProjectionMatrix projectionMatrix{this};
+    Uniform_NormalMatrix normalMatrix{this};
+    std::map<std::string, UniformVariant> globalUniforms{
+        {"viewMatrix", &viewMatrix},
+        {"projectionMatrix", &projectionMatrix},
+        {"normalMatrix", &normalMatrix},
+    };
 };

@@ -1,7 +1,6 @@
 #include "render/Skybox.h"
 
 #include "assets/Library.h"
-#include "assets/MeshGeometry.h"
 #include "scene/Mesh.h"
 #include "scene/MeshGenerators.h"
 
@@ -16,17 +15,13 @@ Skybox::Skybox()
     shader = Library::getInstance()->getShaderprogram("SkyboxShader");
     Mesh box;
     createBox(box, glm::vec3(-kHalfEdge), glm::vec3(kHalfEdge));
-    geometry = std::make_unique<MeshGeometry>(box,
-        std::initializer_list<MeshAttribute>{MeshAttribute::Position, MeshAttribute::Texcoord});
-    setGeometry(*geometry);
+    makeGeometry(&box, {MeshAttribute::Position, MeshAttribute::Texcoord});
     bindUniforms({.model = false}); // the sky stays around the eye
     setName("Skybox");
     setCullable(false);
     isStatic = true;
     layer = ModelLayer::Sky;
 }
-
-Skybox::~Skybox() = default;
 
 void Skybox::draw()
 {

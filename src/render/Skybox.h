@@ -2,17 +2,11 @@
 
 #include "assets/Model.h"
 
-#include <memory>
-
 /// A large textured box around the play area, drawn without writing depth: everything else stays in front of it. Built
 /// by the game, which binds its uniform "tex".
 class Skybox final : public Model {
 public:
     Skybox();
-    ~Skybox();
 
     void draw() override;
-
-private:
-    std::unique_ptr<MeshGeometry> geometry;
 };

@@ -63,7 +63,7 @@ protected:
             std::tie(score, health, deaths) = std::tuple(now.getScore(), now.getHealth(), now.getDeaths());
             for (int place = 0; place < Hats::kCount; ++place)
                 if (match.rules.getHats().getNode(place)->getParent() == now.getChassisNode())
-                    leaders.data()[place] = name;
+                    leaders[static_cast<std::size_t>(place)] = name;
         }
         for (const auto& ball : match.rules.getBalls()) leaders += {' ', "ABCDE"[ball->getOwner()->getNumber()]};
         return text + leaders;
