@@ -20,8 +20,9 @@ files=("$@")
 wide=("${files[@]}")
 if ((${#files[@]} == 0)); then
     mapfile -t files < <(find src testing tests bench tools -name '*.h' -o -name '*.cpp' | LC_ALL=C sort)
-    mapfile -t wide < <(find src testing tests bench tools scripts cmake data/Shader ./*.sh -type f \( -name '*.h' \
-        -o -name '*.cpp' -o -name '*.sh' -o -name '*.py' -o -name '*.cmake' -o -name CMakeLists.txt -o -path 'data/*' \))
+    mapfile -t wide < <(find src testing tests bench tools scripts cmake data/Shader ./*.sh -type f \( \
+        -name '*.h' -o -name '*.cpp' -o -name '*.sh' -o -name '*.py' -o -name '*.cmake' \
+        -o -name CMakeLists.txt -o -path 'data/*' \))
 fi
 
 status=0

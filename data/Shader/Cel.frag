@@ -12,8 +12,8 @@ out vec4 fragment;
 
 // Of the light's depth range: 0.7 world units, so that small solids do not shade themselves.
 const float kShadowBias = 0.0035;
-// Cosine of the angle between normal and face beyond which the face's own normal is used: smoothing never bends a normal
-// so far, but a hat's normals lie that far off.
+// Cosine of the angle between normal and face beyond which the face's own normal is used: smoothing never bends a
+// normal so far, but a hat's normals lie that far off.
 const float kAstray = 0.4;
 const vec3 kInk = vec3(0.07, 0.06, 0.10);
 

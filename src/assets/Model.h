@@ -51,8 +51,8 @@ public:
     /// Borrow the buffers and make the vertex array for the program, which is set before.
     void setGeometry(MeshGeometry& geometry);
 
-    /// Do the same with geometry of the model's own, made from those arrays of the mesh. Null, for a mesh that failed to
-    /// load, leaves the model without geometry.
+    /// Do the same with geometry of the model's own, made from those arrays of the mesh. Null, for a mesh that failed
+    /// to load, leaves the model without geometry.
     void makeGeometry(const Mesh* mesh, std::initializer_list<MeshAttribute> attributes);
 
     /// The uniforms that models have in common, beside "view" and "projection".

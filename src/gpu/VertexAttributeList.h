@@ -37,10 +37,10 @@ public:
 
     unsigned getStride() const; ///< bytes of one vertex
 
-    /// Return a new vertex array object that feeds the buffer to the program's attributes, by the separate vertex format
-    /// (binding point 0). An attribute that the program lacks is reported at level 1 and left out. The caller puts it
-    /// into a GlObject. Return 0, which the draw wrappers skip, when the program or the buffer is null or the program is
-    /// not usable.
+    /// Return a new vertex array object that feeds the buffer to the program's attributes, by the separate vertex
+    /// format (binding point 0). An attribute that the program lacks is reported at level 1 and left out. The caller
+    /// puts it into a GlObject. Return 0, which the draw wrappers skip, when the program or the buffer is null or the
+    /// program is not usable.
     GLuint createVAO(const Shaderprogram* program, const VertexBuffer* buffer) const;
 
 private:

@@ -2,7 +2,8 @@
 
 #include <glm/glm.hpp>
 
-// The one light of the world: directional, looking from (0.3, 1, 0) towards the origin, over a square of 600 x 600 units.
+// The one light of the world: directional, looking from (0.3, 1, 0) towards the origin, over a square of 600 x 600
+// units.
 
 /// Return the transform from world coordinates to the clip space of the light depth texture.
 glm::mat4 lightViewProjection();

@@ -19,8 +19,8 @@ public:
     Node() = default;
     explicit Node(std::string nodeName);
 
-    /// Take memory that nodes have to themselves: thousands of them, scattered among what is freed again, would break the
-    /// heap to pieces.
+    /// Take memory that nodes have to themselves: thousands of them, scattered among what is freed again, would break
+    /// the heap to pieces.
     static void* operator new(std::size_t bytes);
     static void operator delete(void*) {}
 

@@ -19,13 +19,13 @@ struct IndexRange {
 /// needed afterwards.
 class RangeCuller {
 public:
-    /// Take the bounds of the mesh. indicesPerRun: a multiple of 3, at least 3. Runs do best when they are compact: some
-    /// cells of one row of a grid.
+    /// Take the bounds of the mesh. indicesPerRun: a multiple of 3, at least 3. Runs do best when they are compact:
+    /// some cells of one row of a grid.
     RangeCuller(const Mesh& mesh, unsigned indicesPerRun);
 
     /// Return the stretches whose bounds touch the view and whose nearest point to the eye is at least `from` and less
-    /// than `to` away, in order, neighbours joined. toClip: the mesh's coordinates to clip space; eye, from and to in the
-    /// mesh's coordinates and units.
+    /// than `to` away, in order, neighbours joined. toClip: the mesh's coordinates to clip space; eye, from and to in
+    /// the mesh's coordinates and units.
     std::vector<IndexRange> visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const;
 
 private:
