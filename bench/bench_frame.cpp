@@ -11,13 +11,13 @@
 //
 // On a busy machine the processor time is the steadier figure: a software driver's threads count in it.
 
+#include "BenchGame.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
 #include "base/FrameTimer.h"
 #include "players/Ball.h"
 #include "render/FrameProbe.h"
 #include "render/Renderer.h"
-#include "testing/TestGame.h"
 
 #include <GL/glew.h>
 #include <sys/wait.h>
@@ -91,7 +91,7 @@ private:
 int measure(int views, int frames, int cars)
 {
     muteLog();
-    TestGame game;
+    BenchGame game;
     if (!game.start()) return noDisplay();
     game.startMatch(views, std::max(cars, views));
     for (int i = 0; i < kWarmUpFrames; ++i) game.pass();
@@ -126,7 +126,6 @@ int measure(int views, int frames, int cars)
     std::printf("views %d frame_ms %.1f p95_ms %.1f rss_growth_kib %ld\n", views, percentile(whole, 0.5),
         percentile(whole, 0.95), growth);
     std::fflush(stdout);
-    game.getRenderer().terminate();
     return 0;
 }
 

@@ -8,12 +8,11 @@
 // when the heap has given back whatever is free. What grows by design is the scene nodes of spent balls, which are
 // detached and never freed: some 300 bytes a shot.
 
+#include "BenchGame.h"
 #include "MatchStatistics.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
 #include "base/FrameTimer.h"
-#include "render/Renderer.h"
-#include "testing/TestGame.h"
 
 #include <malloc.h>
 
@@ -35,7 +34,7 @@ int main(int argc, char** argv)
     const int minutes = argc > 1 ? std::max(1, std::atoi(argv[1])) : kDefaultMinutes;
     muteLog();
 
-    TestGame game(std::nullopt);
+    BenchGame game(std::nullopt);
     if (!game.start()) return noDisplay();
     game.startMatch(kHumans, kParticipants);
 
@@ -57,6 +56,5 @@ int main(int argc, char** argv)
         std::fflush(stdout);
     }
     std::printf("minutes %d shots %d rss_growth_kib %ld\n", minutes, statistics.getShots(), rss - firstMinute);
-    game.getRenderer().terminate();
     return EXIT_SUCCESS;
 }

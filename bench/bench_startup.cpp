@@ -24,7 +24,6 @@ namespace {
 constexpr int kDefaultRuns = 9;
 // One row of pixels across the landscape: looking at it costs the game next to nothing.
 constexpr ScreenArea kRow{0, 500, 1024, 1};
-constexpr ScreenArea kWholeRow{0, 0, 1024, 1};
 constexpr double kDetail = 0.05;    // share of the row that a blank window does not have
 constexpr double kOtherScene = 0.3; // share of the row that changes when the overview gives way to the match
 
@@ -47,7 +46,13 @@ public:
     double untilFirstPicture()
     {
         game.waitFor("a window", [this] { return display.findWindow("Quackdash"); });
-        game.waitFor("a picture", [this] { return detailShare(display.lookAt(kRow), kWholeRow) > kDetail; });
+        const auto hasDetail = [this] {
+            const Picture row = display.lookAt(kRow);
+            Picture plain = row;
+            for (std::size_t i = 3; i < plain.pixels.size(); ++i) plain.pixels[i] = plain.pixels[i % 3];
+            return changedShare(plain, row) > kDetail;
+        };
+        game.waitFor("a picture", hasDetail);
         return millisecondsSince(start);
     }
 
@@ -58,7 +63,7 @@ public:
         holdUntil("1", "Player 1, WASD");
         holdUntil("Return", "Enter PlayGamestate");
         game.waitFor("a picture of the match",
-            [&] { return changedShare(overview, display.lookAt(kRow), kWholeRow) > kOtherScene; });
+            [&] { return changedShare(overview, display.lookAt(kRow)) > kOtherScene; });
         return millisecondsSince(start);
     }
 

@@ -2,51 +2,47 @@
 
 #include "app/Presentation.h"
 
+#include <deque>
 #include <sstream>
 #include <string>
 #include <vector>
 
 /// The game's own presentation, and a record of what it was asked for.
-class RecordingPresentation : public IPresentation {
+class RecordingPresentation : public Presentation {
 public:
-    explicit RecordingPresentation(Renderer& renderer) : real(renderer) {}
+    using Presentation::Presentation;
 
-    ICarModels& addCar(const CarNodes& nodes, const glm::vec4& colour) override { return real.addCar(nodes, colour); }
-    std::shared_ptr<void> addBall(Node& node, const glm::vec4& colour) override { return real.addBall(node, colour); }
     void playSound(const std::string& name, bool loop, float volume) override
     {
         write(name, loop, volume);
-        real.playSound(name, loop, volume);
+        Presentation::playSound(name, loop, volume);
     }
     std::unique_ptr<ISound> createSound(const std::string& name, const std::string& file) override
     {
-        return std::make_unique<RecordedSound>(*this, name, real.createSound(name, file), enginePitches.size());
+        return std::make_unique<RecordedSound>(*this, name, Presentation::createSound(name, file));
     }
     void update() override
     {
         ++updates;
-        real.update();
+        Presentation::update();
     }
     void addText(const std::string& text, double x, double y) override
     {
         texts.push_back(text);
-        real.addText(text, x, y);
+        Presentation::addText(text, x, y);
     }
-    glm::ivec2 getWindowSize() const override { return real.getWindowSize(); }
 
     int updates = 0;
-    std::vector<std::string> sounds;  ///< as in "musik, looped, 1", in the order of playing
-    std::vector<std::string> texts;   ///< since the test last emptied it
-    std::vector<float> enginePitches; ///< that each owned sound was last asked for, in the order of their making
+    std::vector<std::string> sounds; ///< as in "musik, looped, 1", in the order of playing
+    std::vector<std::string> texts;  ///< since the test last emptied it
+    std::deque<float> enginePitches; ///< that each owned sound was last asked for, in the order of their making
 
 private:
-    class RecordedSound final : public ISound {
-    public:
-        RecordedSound(RecordingPresentation& ownRecord, std::string ownName, std::unique_ptr<ISound> realSound,
-            std::size_t ownNumber)
-            : record(ownRecord), name(std::move(ownName)), real(std::move(realSound)), number(ownNumber)
+    struct RecordedSound final : ISound {
+        RecordedSound(RecordingPresentation& ownRecord, std::string ownName, std::unique_ptr<ISound> realSound)
+            : record(ownRecord), name(std::move(ownName)), real(std::move(realSound)),
+              pitch(record.enginePitches.emplace_back())
         {
-            record.enginePitches.push_back(0);
         }
         void play(bool loop, float volume) override
         {
@@ -55,15 +51,14 @@ private:
         }
         void setPitch(float target) override
         {
-            record.enginePitches[number] = target;
+            pitch = target;
             real->setPitch(target);
         }
 
-    private:
         RecordingPresentation& record;
         std::string name;
         std::unique_ptr<ISound> real;
-        std::size_t number;
+        float& pitch;
     };
 
     void write(const std::string& name, bool loop, float volume)
@@ -72,6 +67,4 @@ private:
         line << name << (loop ? ", looped, " : ", once, ") << volume;
         sounds.push_back(line.str());
     }
-
-    Presentation real;
 };

@@ -2,23 +2,25 @@
 
 #include "app/Core.h"
 #include "app/GameStateManager.h"
+#include "base/Logger.h"
 #include "input/AIController.h"
 #include "physics/PhysicNode.h"
 #include "physics/Terrain.h"
 #include "physics/VehicleHandle.h"
 #include "players/Player.h"
-#include "render/Renderer.h"
-#include "render/TextRenderer.h"
-#include "testing/FrameRecorder.h"
-#include "testing/ScriptedKeyboard.h"
+#include "testing/PngFile.h"
 #include "testing/TestGame.h"
 
 #include <GL/glew.h>
 #include <PxPhysicsAPI.h>
 #include <glm/gtc/matrix_transform.hpp>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <deque>
+#include <fstream>
 #include <numbers>
 
 namespace {
@@ -61,15 +63,33 @@ private:
 };
 
 /// The game and the people who play it.
-class Scene {
+class Scene : public TestGame {
 public:
-    Scene() : game(kPassSeconds) {}
+    Scene() : TestGame(kPassSeconds) {}
 
-    bool start(const Snapshot& snapshot)
+    /// Draw the snapshot into its file. Return the exit status.
+    int take(const Snapshot& snapshot, const std::string& folder)
+    try {
+        if (!start()) return EXIT_FAILURE;
+        invite(snapshot);
+        play(snapshot.passes);
+        turnTo(snapshot.view);
+        updatePass();
+        writePng(folder + "/" + snapshot.name + ".png", draw());
+        const auto text = [](GLenum name) { return reinterpret_cast<const char*>(glGetString(name)); };
+        std::ofstream(folder + "/driver.txt") << text(GL_VERSION) << ", " << text(GL_RENDERER) << "\n";
+        return EXIT_SUCCESS;
+    } catch (const std::exception& error) {
+        logLine(0) << error.what() << std::endl;
+        return EXIT_FAILURE;
+    }
+
+private:
+    void changeState(const char* name) { getCore()->getStateManager()->changeState(name); }
+
+    void invite(const Snapshot& snapshot)
     {
-        if (!game.start()) return false;
-        keys.emplace();
-        Match& match = game.getMatch();
+        Match& match = getMatch();
         for (int i = 0; i < snapshot.people; ++i) {
             match.addPlayer(devices.emplace_back(i));
             devices.back().setPlayer(*match.getPlayers().back(), match);
@@ -80,42 +100,7 @@ public:
             place(*match.getActors().back(), kOuterRadius, i, kComputers);
         }
         if (snapshot.view != View::kRegistration) changeState("PlayGamestate");
-        return true;
     }
-
-    void play(int passes)
-    {
-        for (int i = 0; i < passes; ++i) {
-            game.updatePass();
-            game.getScene().update();
-        }
-    }
-
-    Picture look(View view)
-    {
-        if (view == View::kRegistration || view == View::kHelp) keys->hold({GLFW_KEY_F1});
-        if (view == View::kDebug) keys->hold({GLFW_KEY_F6});
-        if (view == View::kLeader) flyTo(leaderPose());
-        if (view == View::kHorizon) flyTo(horizonPose());
-        game.updatePass();
-        FrameRecorder recorder;
-        game.getRenderer().setFrameProbe(&recorder);
-        game.drawPass();
-        game.getRenderer().setFrameProbe(nullptr);
-        return recorder.getPicture();
-    }
-
-    /// Return what draws: the names and versions of GL and of the driver's renderer.
-    static std::string driver()
-    {
-        const auto text = [](GLenum name) { return std::string(reinterpret_cast<const char*>(glGetString(name))); };
-        return text(GL_VERSION) + ", " + text(GL_RENDERER);
-    }
-
-    ~Scene() { game.getRenderer().terminate(); }
-
-private:
-    void changeState(const char* name) { game.getCore()->getStateManager()->changeState(name); }
 
     /// Put a car on the ground, number `seat` of so many in a ring, its front towards the middle.
     void place(const Player& player, float radius, int seat, int seats)
@@ -124,7 +109,7 @@ private:
         const float around = 2 * std::numbers::pi_v<float> * static_cast<float>(seat) / static_cast<float>(seats);
         const auto sampleAt = [](float along) { return static_cast<int>(std::lround(along / kSpacing)) + kSide / 2; };
         const int row = sampleAt(radius * std::sin(around)), column = sampleAt(-radius * std::cos(around));
-        const std::vector<glm::vec3> ground = game.getGround().getVertices();
+        const std::vector<glm::vec3> ground = getGround().getVertices();
         const float height = ground[static_cast<std::size_t>(row * kSide + column)].y + kRestingHeight;
         const physx::PxVec3 position(static_cast<float>((row - kSide / 2) * kSpacing), height,
             static_cast<float>((column - kSide / 2) * kSpacing));
@@ -132,17 +117,25 @@ private:
         player.getVehicle()->getActor()->setGlobalPose(physx::PxTransform(position, heading));
     }
 
+    void turnTo(View view)
+    {
+        if (view == View::kRegistration || view == View::kHelp) getKeys().hold({GLFW_KEY_F1});
+        if (view == View::kDebug) getKeys().hold({GLFW_KEY_F6});
+        if (view == View::kLeader) flyTo(leaderPose());
+        if (view == View::kHorizon) flyTo(horizonPose());
+    }
+
     void flyTo(const glm::mat4& pose)
     {
         changeState("DebugGamestate");
-        game.getScene().getRoot()->find("CameraNode")->setTransform(pose);
+        getScene().getRoot()->find("CameraNode")->setTransform(pose);
     }
 
     /// Beside the leader's car, a little ahead of it, looking at the driver.
     glm::mat4 leaderPose()
     {
-        const Player* leader = game.getMatch().getRanking().getLeader(0);
-        const glm::mat4 car = (leader ? *leader : *game.getMatch().getActors().front()).getChassisTransform();
+        const Player* leader = getMatch().getRanking().getLeader(0);
+        const glm::mat4 car = (leader ? *leader : *getMatch().getActors().front()).getChassisTransform();
         return car * glm::inverse(glm::lookAt(glm::vec3(3.2f, 2.6f, 5.2f), glm::vec3(0, 1.5f, 0), glm::vec3(0, 1, 0)));
     }
 
@@ -151,8 +144,6 @@ private:
         return glm::inverse(glm::lookAt(glm::vec3(150, 62, -170), glm::vec3(40, 30, 60), glm::vec3(0, 1, 0)));
     }
 
-    TestGame game;
-    std::optional<ScriptedKeyboard> keys; // once the window no longer puts its own in place
     std::deque<GuidedDevice> devices;
 };
 
@@ -163,11 +154,14 @@ std::span<const Snapshot> snapshots()
     return kSnapshots;
 }
 
-std::optional<TakenPicture> take(const Snapshot& snapshot)
+bool take(const Snapshot& snapshot, const std::string& folder)
 {
-    Scene scene;
-    if (!scene.start(snapshot)) return std::nullopt;
-    scene.play(snapshot.passes);
-    const Picture picture = scene.look(snapshot.view);
-    return TakenPicture{picture, Scene::driver()};
+    const pid_t child = fork();
+    int status = 0;
+    if (child == 0) {
+        status = Scene().take(snapshot, folder);
+        std::_Exit(status);
+    }
+    waitpid(child, &status, 0);
+    return status == 0;
 }

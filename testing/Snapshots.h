@@ -1,8 +1,5 @@
 #pragma once
 
-#include "testing/Picture.h"
-
-#include <optional>
 #include <span>
 #include <string>
 
@@ -28,11 +25,7 @@ struct Snapshot {
 /// All of them, as the documents show them and the tests compare them.
 std::span<const Snapshot> snapshots();
 
-struct TakenPicture {
-    Picture picture;
-    std::string driver; ///< what drew it: pictures of different drivers differ a little
-};
-
-/// Play the game, with a window, up to the snapshot. Nothing when there is no display. Once per process: participants
-/// cannot leave a match.
-std::optional<TakenPicture> take(const Snapshot& snapshot);
+/// Play the game, with a window, up to the snapshot, and draw it into NAME.png in the folder; driver.txt beside it says
+/// what drew it: pictures of different drivers differ a little. Return false when it could not be taken, with a line in
+/// the log. In a process of its own: participants cannot leave a match.
+bool take(const Snapshot& snapshot, const std::string& folder);

@@ -3,22 +3,67 @@
 #include "app/Core.h"
 #include "app/GameStateManager.h"
 #include "platform/DataFolder.h"
+#include "render/FrameProbe.h"
+#include "render/Renderer.h"
+
+#include <GL/glew.h>
+
+namespace {
+
+/// Reads the frame just before it is swapped into the window.
+class FrameReader : public IFrameProbe {
+public:
+    FrameReader(int width, int height) : picture{width, height, {}} {}
+
+    void stepDone(const char* step) override
+    {
+        // In wire frame the frame has no step after its text.
+        GLint target = 0;
+        glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &target);
+        if (target != 0 || step == std::string("swap")) return;
+
+        const std::size_t row = 3 * static_cast<std::size_t>(picture.width);
+        picture.pixels.resize(row * static_cast<std::size_t>(picture.height));
+        glPixelStorei(GL_PACK_ALIGNMENT, 1);
+        for (int y = 0; y < picture.height; ++y) { // the window's rows count from below
+            glReadPixels(0, picture.height - 1 - y, picture.width, 1, GL_RGB, GL_UNSIGNED_BYTE,
+                &picture.pixels[row * static_cast<std::size_t>(y)]);
+        }
+    }
+
+    Picture picture;
+};
+
+} // namespace
+
+TestGame::~TestGame()
+{
+    getRenderer().terminate();
+}
 
 bool TestGame::start()
 {
     if (!enterDataFolder() || !QKD_Game::start()) return false;
+    keys.emplace();
     if (passSeconds) clock.emplace(*passSeconds);
     return true;
 }
 
-void TestGame::startMatch(int humans, int participants)
+void TestGame::play(int passes)
 {
-    for (int i = 0; i < humans; ++i) {
-        devices.push_back(std::make_unique<WanderingDevice>(static_cast<unsigned>(i)));
-        getMatch().addPlayer(*devices.back());
+    for (int i = 0; i < passes; ++i) {
+        updatePass();
+        getScene().update();
     }
-    while (getMatch().getActorCount() < participants) getMatch().addComputerPlayer();
-    getCore()->getStateManager()->changeState("PlayGamestate");
+}
+
+Picture TestGame::draw()
+{
+    FrameReader reader(getRenderer().getWidth(), getRenderer().getHeight());
+    getRenderer().setFrameProbe(&reader);
+    drawPass();
+    getRenderer().setFrameProbe(nullptr);
+    return reader.picture;
 }
 
 Renderer& TestGame::getRenderer()

@@ -10,7 +10,7 @@ class Renderer;
 
 /// The presentation with real models, drawn by the renderer, and real sounds, played by the audio system. Owned by the
 /// game; needs the window and the loaded assets from the first car on.
-class Presentation final : public IPresentation {
+class Presentation : public IPresentation {
 public:
     explicit Presentation(Renderer& renderer); ///< borrowed
     ~Presentation() override;

@@ -15,6 +15,7 @@
 #include "render/TextRenderer.h"
 #include "testing/CapturedLog.h"
 #include "testing/GlErrors.h"
+#include "testing/ScriptedDevice.h"
 
 #include <GL/glew.h>
 
@@ -74,10 +75,6 @@ protected:
     static Library& library() { return *Library::getInstance(); }
     static void unlink(const std::string& name) { library().getShaderprogram(name)->createProgram(); }
     static void reload(const std::string& name) { library().loadShader(name, "Shader/" + name + ".shader"); }
-    static double change(const Picture& before, const Picture& after)
-    {
-        return changedShare(before, after, before.whole());
-    }
 
     /// The last text in the queue, letter by letter.
     static std::string lastText()
@@ -101,7 +98,7 @@ protected:
         return depths;
     }
 
-    static inline WanderingDevice device{1};
+    static inline ScriptedDevice device;
 };
 
 TEST_F(Drawing, CountsWhatItLeavesOutAndShowsTheFrameRateOnceASecond)
@@ -109,11 +106,11 @@ TEST_F(Drawing, CountsWhatItLeavesOutAndShowsTheFrameRateOnceASecond)
     game->pass();
     EXPECT_TRUE(lastText().starts_with("culled: "));
     EXPECT_NE(lastText(), "culled: 0");
-    keys->hold({GLFW_KEY_F8});
+    keys().hold({GLFW_KEY_F8});
     game->pass();
     EXPECT_EQ(lastText(), "culled: 0");
 
-    keys->reset();
+    keys().reset();
     const auto fpsAfter = [](double seconds) {
         game->getClock().sleep(seconds);
         game->pass();
@@ -121,13 +118,13 @@ TEST_F(Drawing, CountsWhatItLeavesOutAndShowsTheFrameRateOnceASecond)
     };
     for (int i = 0; i < 3; ++i) EXPECT_EQ(fpsAfter(0.2), 0) << "not shown";
     for (int i = 0; i < 2; ++i) fpsAfter(0.25);
-    keys->tap(GLFW_KEY_F2);
+    keys().tap(GLFW_KEY_F2);
     const float shown = fpsAfter(0.1);
     EXPECT_GT(shown, 0);
     for (const double seconds : {0.2, 0.2, 0.2, 0.2, 0.2}) fpsAfter(seconds);
     EXPECT_NEAR(fpsAfter(0), 1 / 0.233, 0.1) << "computed in one of the passes before";
     EXPECT_NEAR(fpsAfter(0), 1 / 0.233, 0.1) << "not yet again";
-    keys->tap(GLFW_KEY_F2);
+    keys().tap(GLFW_KEY_F2);
     EXPECT_EQ(fpsAfter(0), 0);
 }
 
@@ -136,25 +133,25 @@ TEST_F(Drawing, KeepsTheShadowsOfWhatMovesUpToDate)
     for (int i = 0; i < 10; ++i) game->pass();
     const std::vector<float> kept = lightDepth();
     reload("ShadowDepth"); // has everything drawn anew
-    draw();
+    game->draw();
     EXPECT_TRUE(kept == lightDepth());
 }
 
 TEST_F(Drawing, GoesOnWithoutAnyOneOfItsProgramsAndHasItBackWhenItIsMended)
 {
-    const Picture whole = draw();
+    const Picture whole = game->draw();
     for (const std::string name : {"Blur", "CelPostProc", "ShadowDepth", "TextShader", "Cel", "WireframeShader",
              "ParticleMovement", "ParticleRender", "TerrainShader", "TerrainFar", "SkyboxShader"}) {
         SCOPED_TRACE(name);
         unlink(name);
         CapturedLog log;
-        const Picture lacking = draw();
+        const Picture lacking = game->draw();
         EXPECT_LT(log.count("ERROR"), 2) << log.text();
         const bool isReplaced = name == "TerrainFar"; // by the patches
-        if (isReplaced) EXPECT_LT(change(whole, lacking), kSmoke);
+        if (isReplaced) EXPECT_LT(changedShare(whole, lacking), kSmoke);
         else EXPECT_TRUE(lacking.pixels != whole.pixels);
         reload(name);
-        EXPECT_LT(change(whole, draw()), kSmoke);
+        EXPECT_LT(changedShare(whole, game->draw()), kSmoke);
     }
 }
 
@@ -164,23 +161,23 @@ TEST_F(Drawing, ShowsNodesAndCamerasWhileF6IsHeldAlsoWhenTheirProgramWasBrokenAt
     DebugRenderer overlay;
     game->getRenderer().setDebugRenderer(&overlay);
     reload("WireframeShader");
-    const Picture usual = draw();
-    keys->hold({GLFW_KEY_F6});
-    const double shown = change(usual, draw());
-    keys->reset();
+    const Picture usual = game->draw();
+    keys().hold({GLFW_KEY_F6});
+    const double shown = changedShare(usual, game->draw());
+    keys().reset();
     EXPECT_GT(shown, 0.001);
-    draw(); // the key sticks
-    EXPECT_LT(change(usual, draw()), shown / 2);
+    game->draw(); // the key sticks
+    EXPECT_LT(changedShare(usual, game->draw()), shown / 2);
     game->getRenderer().setDebugRenderer(nullptr);
 }
 
 TEST_F(Drawing, ComesBackFromTheWireFrameAsItWas)
 {
-    const Picture solid = draw();
+    const Picture solid = game->draw();
     game->getRenderer().toggleWireframe();
-    EXPECT_GT(change(solid, draw()), 0.5);
+    EXPECT_GT(changedShare(solid, game->draw()), 0.5);
     game->getRenderer().toggleWireframe();
-    EXPECT_LT(change(solid, draw()), kSmoke);
+    EXPECT_LT(changedShare(solid, game->draw()), kSmoke);
 }
 
 TEST_F(Drawing, DeletesGlObjectsWithTheirOwnersAndLeavesThemAloneOnceTheirContextHasGone)
@@ -209,27 +206,6 @@ TEST_F(Drawing, LogsWhatTheDriverHasToSay)
     failTestsOnGlErrors();
     EXPECT_EQ(log.text(),
         "ERROR | OpenGL Error: quack [Source = Application, Type = Error, Severity = High, ID = 7]\n");
-}
-
-TEST_F(Drawing, TakesEveryCharacterAsAGlyph)
-{
-    const struct {
-        char character;
-        float u, v;
-    } rows[] = {
-        {'!', 0, 0},
-        {'1', 0, 0.0625f},
-        {'~', 0.8125f, 0.3125f},
-        {' ', 0, 0.375f},
-        {'\t', -0.5f, -0.0625f},
-        {'\xE4', -0.8125f, -0.1875f},
-    };
-    for (const auto& row : rows) {
-        TextRenderer text;
-        text.addText(std::string(1, row.character), 0, 0);
-        EXPECT_FLOAT_EQ(text.getQueue()[0].u, row.u) << static_cast<int>(row.character);
-        EXPECT_FLOAT_EQ(text.getQueue()[0].v, row.v) << static_cast<int>(row.character);
-    }
 }
 
 } // namespace

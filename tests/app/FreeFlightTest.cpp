@@ -19,15 +19,20 @@ struct Row {
 TEST(FreeFlight, FliesInTheDirectionOfItsViewByKeysAndMouse)
 {
     const float sine = std::sin(glm::radians(25.0f)), cosine = std::cos(glm::radians(25.0f));
-    const Row rows[] = {{{}, 400, {0, 0, 0}}, {{GLFW_KEY_W}, 400, {0, 0, -0.5f}}, {{GLFW_KEY_S}, 400, {0, 0, 0.5f}},
-        {{GLFW_KEY_A}, 400, {-0.5f, 0, 0}}, {{GLFW_KEY_D}, 400, {0.5f, 0, 0}},
-        {{GLFW_KEY_W, GLFW_KEY_D}, 400, {0.5f, 0, -0.5f}}, {{GLFW_KEY_W, GLFW_KEY_S}, 400, {0, 0, 0}},
-        {{GLFW_KEY_W, GLFW_KEY_LEFT_SHIFT}, 400, {0, 0, -5.0f}}, {{GLFW_KEY_LEFT_SHIFT}, 400, {0, 0, 0}},
+    const Row rows[] = {
+        {{}, 400, {0, 0, 0}},
+        {{GLFW_KEY_W}, 400, {0, 0, -0.5f}},
+        {{GLFW_KEY_A}, 400, {-0.5f, 0, 0}},
+        {{GLFW_KEY_D, GLFW_KEY_S}, 400, {0.5f, 0, 0.5f}},
+        {{GLFW_KEY_W, GLFW_KEY_S}, 400, {0, 0, 0}},
+        {{GLFW_KEY_W, GLFW_KEY_LEFT_SHIFT}, 400, {0, 0, -5.0f}},
         {{GLFW_KEY_RIGHT, GLFW_KEY_W}, 400, {0.5f * sine, 0, -0.5f * cosine}, 25},
-        {{GLFW_KEY_LEFT, GLFW_KEY_LEFT_SHIFT}, 400, {0, 0, 0}}, {{GLFW_KEY_UP}, 400, {0, 0, 0}, 0, -25},
+        {{GLFW_KEY_LEFT, GLFW_KEY_LEFT_SHIFT}, 400, {0, 0, 0}},
+        {{GLFW_KEY_UP}, 400, {0, 0, 0}, 0, -25},
         {{GLFW_KEY_DOWN, GLFW_KEY_W}, 400, {0, 0, -0.5f}},
         {{GLFW_KEY_LEFT}, 401, {0, 0, 0}, 25}, // a mouse that moves goes before the keys
-        {{}, 401, {0, 0, 0}, 25}};
+        {{}, 401, {0, 0, 0}, 25},
+    };
     ScriptedKeyboard keys;
     SceneGraph graph;
     Node* node = graph.getRoot()->createChild("flown");

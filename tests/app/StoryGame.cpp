@@ -1,11 +1,6 @@
 #include "StoryGame.h"
 
-#include "testing/FrameRecorder.h"
 #include "testing/GlErrors.h"
-
-std::unique_ptr<TestGame> StoryGame::game;
-std::unique_ptr<ScriptedKeyboard> StoryGame::keys;
-RecordingPresentation* StoryGame::record = nullptr;
 
 namespace {
 
@@ -26,36 +21,21 @@ void StoryGame::SetUpTestSuite()
     game = std::make_unique<TestGame>(kPassSeconds, std::move(presentation));
     ASSERT_TRUE(game->start()) << "no OpenGL 4.3 core context; is there a display?";
     failTestsOnGlErrors();
-    keys = std::make_unique<ScriptedKeyboard>();
 }
 
 void StoryGame::end()
 {
-    if (game) game->getRenderer().terminate();
-    keys.reset();
     game.reset();
 }
 
 void StoryGame::pass(std::initializer_list<int> down, int passes)
 {
-    keys->hold(down);
-    for (int i = 0; i < passes; ++i) {
-        game->updatePass();
-        game->getScene().update();
-    }
+    keys().hold(down);
+    game->play(passes);
 }
 
 void StoryGame::tap(int key)
 {
-    keys->tap(key);
-    pass();
-}
-
-Picture StoryGame::draw()
-{
-    FrameRecorder recorder;
-    game->getRenderer().setFrameProbe(&recorder);
-    game->drawPass();
-    game->getRenderer().setFrameProbe(nullptr);
-    return recorder.getPicture();
+    keys().tap(key);
+    game->play();
 }

@@ -3,9 +3,7 @@
 #include "app/Core.h"
 #include "players/Player.h"
 #include "render/Renderer.h"
-#include "testing/Picture.h"
 #include "testing/RecordingPresentation.h"
-#include "testing/ScriptedKeyboard.h"
 #include "testing/TestGame.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +21,7 @@ public:
 protected:
     static constexpr double kPassSeconds = 1.0 / 30.0;
 
-    StoryGame() { keys->reset(); }
+    StoryGame() { keys().reset(); }
 
     /// Make passes with these keys down, without a picture.
     static void pass(std::initializer_list<int> down = {}, int passes = 1);
@@ -31,13 +29,10 @@ protected:
     /// Press and release a key in the shortest time; then make a pass.
     static void tap(int key);
 
-    /// Draw the last pass once more.
-    static Picture draw();
-
+    static ScriptedKeyboard& keys() { return game->getKeys(); }
     static GameStateManager& states() { return *game->getCore()->getStateManager(); }
     static Player& player(int i) { return *game->getMatch().getPlayers().at(static_cast<std::size_t>(i)); }
 
-    static std::unique_ptr<TestGame> game;
-    static std::unique_ptr<ScriptedKeyboard> keys;
-    static RecordingPresentation* record; // the game's
+    static inline std::unique_ptr<TestGame> game;
+    static inline RecordingPresentation* record = nullptr; // the game's
 };

@@ -2,11 +2,8 @@
 #include "testing/Snapshots.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -24,31 +21,14 @@ constexpr Tolerance kOtherDriver{4, 255};
 
 const fs::path kFolder = fs::current_path() / "golden"; // of what was drawn, and how it differs
 
-class GoldenPictures : public testing::TestWithParam<Snapshot> {
-protected:
-    /// Draw the snapshot into a file, in a process of its own.
-    static bool draw(const Snapshot& snapshot, const fs::path& file)
-    {
-        const pid_t child = fork();
-        if (child == 0) {
-            const std::optional<TakenPicture> taken = take(snapshot);
-            if (!taken) std::_Exit(EXIT_FAILURE);
-            writePng(file, taken->picture);
-            std::ofstream(kFolder / "driver.txt") << taken->driver << "\n";
-            std::_Exit(EXIT_SUCCESS);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        return status == 0;
-    }
+std::string driverIn(const fs::path& folder)
+{
+    std::string name;
+    std::getline(std::ifstream(folder / "driver.txt"), name);
+    return name;
+}
 
-    static std::string driverIn(const fs::path& folder)
-    {
-        std::string name;
-        std::getline(std::ifstream(folder / "driver.txt"), name);
-        return name;
-    }
-};
+class GoldenPictures : public testing::TestWithParam<Snapshot> {};
 
 TEST_P(GoldenPictures, LookAsTheDocumentsShowThem)
 {
@@ -56,7 +36,7 @@ TEST_P(GoldenPictures, LookAsTheDocumentsShowThem)
     fs::create_directories(kFolder);
     const fs::path actualFile = kFolder / (name + ".png"), differenceFile = kFolder / (name + ".difference.png");
     fs::remove(differenceFile);
-    ASSERT_TRUE(draw(GetParam(), actualFile)) << "no OpenGL 4.3 core context; is there a display?";
+    ASSERT_TRUE(take(GetParam(), kFolder)) << "no OpenGL 4.3 core context; is there a display?";
     const Picture actual = readPng(actualFile), expected = readPng(REFERENCES + name + ".png");
     ASSERT_EQ(actual.pixels.size(), expected.pixels.size());
 

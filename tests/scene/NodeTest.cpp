@@ -72,17 +72,4 @@ TEST(NodeTest, MovesToAnotherParentAndLeavesTheTreeWithItsWholeSubtree)
     EXPECT_TRUE(witness.seenAt.empty()) << "an update no longer reaches it";
 }
 
-TEST(NodeTest, ThousandsLieCloseTogetherWhateverElseIsAllocatedMeanwhile)
-{
-    std::vector<Node*> nodes;
-    std::vector<std::string> between;
-    int apart = 0;
-    for (int i = 0; i < 2000; ++i) {
-        nodes.push_back(new Node);
-        between.emplace_back(4096, ' ');
-        apart += i > 0 && nodes.back() != *(nodes.end() - 2) + 1;
-    }
-    EXPECT_LT(apart, 20) << "blocks that were begun";
-}
-
 } // namespace

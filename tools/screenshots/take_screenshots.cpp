@@ -2,34 +2,10 @@
 //     take_screenshots FOLDER [NAME]
 // NAME: that picture only. A file beside them, driver.txt, says what drew them.
 
-#include "testing/PngFile.h"
 #include "testing/Snapshots.h"
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
-#include <fstream>
-#include <string>
-
-namespace {
-
-/// Return the exit status.
-int write(const Snapshot& snapshot, const std::string& folder)
-try {
-    const std::optional<TakenPicture> taken = take(snapshot);
-    if (!taken) return EXIT_FAILURE;
-    writePng(folder + "/" + snapshot.name + ".png", taken->picture);
-    std::ofstream(folder + "/driver.txt") << taken->driver << "\n";
-    return EXIT_SUCCESS;
-} catch (const std::exception& error) {
-    std::fprintf(stderr, "%s\n", error.what());
-    return EXIT_FAILURE;
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -39,11 +15,7 @@ int main(int argc, char** argv)
     }
     for (const Snapshot& snapshot : snapshots()) {
         if (argc > 2 && std::string(argv[2]) != snapshot.name) continue;
-        const pid_t child = fork();
-        if (child == 0) std::_Exit(write(snapshot, argv[1]));
-        int status = 0;
-        waitpid(child, &status, 0);
-        if (status != 0) {
+        if (!take(snapshot, argv[1])) {
             std::fprintf(stderr, "%s was not taken\n", snapshot.name);
             return EXIT_FAILURE;
         }
