@@ -4,8 +4,6 @@
 #include <glm/glm.hpp>
 #include <gtest/gtest.h>
 
-#include <vector>
-
 /// A test with a real OpenGL 4.3 core debug context; any GL error fails it. All tests of a program share one window,
 /// which the first opens. Each starts with no program in use, drawing into an off-screen picture of kSide x kSide
 /// pixels, cleared to zeros, with face culling off.
@@ -19,16 +17,4 @@ protected:
     static glm::ivec4 pixelAt(int x, int y);
 
     static GLint integer(GLenum what); ///< what glGetIntegerv says
-
-    /// Return the whole of a buffer object.
-    template <class T>
-    static std::vector<T> contentOf(GLuint buffer)
-    {
-        glBindBuffer(GL_COPY_READ_BUFFER, buffer);
-        GLint bytes = 0;
-        glGetBufferParameteriv(GL_COPY_READ_BUFFER, GL_BUFFER_SIZE, &bytes);
-        std::vector<T> content(static_cast<std::size_t>(bytes) / sizeof(T));
-        glGetBufferSubData(GL_COPY_READ_BUFFER, 0, bytes, content.data());
-        return content;
-    }
 };

@@ -37,7 +37,6 @@ void apply(const Viewport& viewport)
     glClearColor(colour.r, colour.g, colour.b, colour.a);
     glEnable(GL_DEPTH_TEST);
     glDepthMask(GL_TRUE);
-    glEnable(GL_SCISSOR_TEST);
     setArea(rect.x, rect.y, rect.width, rect.height);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }

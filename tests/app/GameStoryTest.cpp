@@ -87,9 +87,11 @@ TEST_F(GameStory, SaysWhoLeadsEveryThreeSeconds)
     shooter.getVehicle()->placeAt({0, 150, 0}); // far above the ground
     game->getScene().update();
     pass({GLFW_KEY_K});
+    game->draw();
     victim.getVehicle()->placeAt({0, 152, 15});
     pass({}, 8);
     ASSERT_EQ(shooter.getScore(), 1);
+    game->draw(); // without the ball
     pass({}, 6 * 30);
     EXPECT_EQ(log.count("DEBUG | First:  (1) Player 0, Pfeil\nDEBUG | \n"), 2) << log.text();
     EXPECT_EQ(log.count("Second: "), 0);
@@ -176,8 +178,10 @@ TEST_F(GameStory, HasAFunctionForEachOfItsKeys)
     tap(GLFW_KEY_F9);
 
     CapturedLog log;
+    Library::getInstance()->getTexture("Grass")->load("absent.tga");
     pass({GLFW_KEY_F7}, 2);
     EXPECT_EQ(log.count("Linking program\n"), 2 * 16) << "every program, in every pass";
+    EXPECT_EQ(minification(), GL_LINEAR_MIPMAP_LINEAR) << "every picture";
     keys().reset();
 }
 
@@ -198,6 +202,7 @@ TEST_F(GameStory, DrawsAFrameForTheStateThatBeganItAndEndsByEscape)
     game->pass();
     EXPECT_EQ(hasty.cameras, 2);
 
+    tap(GLFW_KEY_F12);
     EXPECT_FALSE(game->isQuitting());
     tap(GLFW_KEY_ESCAPE);
     EXPECT_TRUE(game->isQuitting());

@@ -2,50 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdlib>
 
-// What the game takes for granted about its pictures, and what no picture of the game shows.
+// What the game takes for granted about its pictures.
 namespace {
 
 Image read(const std::string& file)
 {
     std::string error;
     return readTga(DATA_FOLDER + file, error).value(); // throws when it can't be read
-}
-
-TEST(PictureFiles, OfTheGroundRepeatWithoutASeam)
-{
-    constexpr int kSmooth = 1; // of 255, the mean of all components; lines within these pictures differ by up to 2
-    for (const char* file : {"Textures/Dirt.tga", "Textures/Grass.tga"}) {
-        const Image image = read(file);
-        const int last = image.width - 1;
-        int rows = 0, columns = 0; // how the first one differs from the last
-        for (int i = 0; i <= last; ++i)
-            for (int c = 0; c < image.channels; ++c) {
-                rows += std::abs(image.at(i, 0)[c] - image.at(i, last)[c]);
-                columns += std::abs(image.at(0, i)[c] - image.at(last, i)[c]);
-            }
-        EXPECT_LT(std::max(rows, columns), kSmooth * image.width * image.channels) << file;
-    }
-}
-
-TEST(PictureFiles, OfTheFontHaveEveryPrintableCharacterAndNothingElseEachOffItsNeighbours)
-{
-    constexpr int kDrawnFrom = 128; // alpha; less is not drawn
-    const Image font = read("Textures/font.tga");
-    const int side = font.width / 16;
-    std::array<int, 256> drawnTexels{}; // by cell
-    for (int y = 0; y < font.height; ++y)
-        for (int x = 0; x < font.width; ++x) {
-            if (font.at(x, y)[3] < kDrawnFrom) continue;
-            for (const int at : {x % side, y % side}) ASSERT_TRUE(at > 0 && at < side - 1) << x << ", " << y;
-            ++drawnTexels.at(static_cast<std::size_t>(y / side * 16 + x / side));
-        }
-    for (std::size_t cell = 0; cell < drawnTexels.size(); ++cell)
-        EXPECT_EQ(drawnTexels[cell] > 10, cell <= '~' - '!') << "cell " << cell << ": " << drawnTexels[cell];
 }
 
 TEST(PictureFiles, OfTheHeightsLieHighAndGentleWhereCarsEnter)

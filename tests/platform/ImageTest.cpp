@@ -10,8 +10,6 @@
 
 namespace {
 
-using Bytes = std::vector<unsigned char>;
-
 constexpr int kMapped = 1, kTrueColour = 2, kGrey = 3, kRunLength = 8; // kinds of picture, and the bit beside them
 constexpr int kTopDown = 0x20; // the descriptor's bit for files that begin with the upper row
 
@@ -119,15 +117,6 @@ TEST(Resampling, RaisesSidesToPowersOfTwoBilinearlyAndTransparentPixelsToo)
     EXPECT_EQ((std::array{raised.width, raised.height, raised.channels}), (std::array{4, 8, 4}));
     EXPECT_EQ(raised.pixels, picture(raisedAcross, raisedDown).pixels);
     EXPECT_EQ(resampledToPowersOfTwo(raised).pixels, raised.pixels) << "powers of two stay as they are";
-}
-
-TEST(Resampling, HalvesBySidesThatAreLeftAndRoundsTheMean)
-{
-    const Image half = halved({4, 2, 1, {1, 3, 10, 20, 5, 8, 30, 41}});
-    EXPECT_EQ((std::array{half.width, half.height}), (std::array{2, 1}));
-    EXPECT_EQ(half.pixels, (Bytes{4, 25}));
-    EXPECT_EQ(halved(half).pixels, Bytes{15}) << "one row is left: only the width shrinks";
-    EXPECT_EQ(halved({2, 1, 3, {10, 20, 30, 20, 40, 60}}).pixels, (Bytes{15, 30, 45}));
 }
 
 } // namespace
