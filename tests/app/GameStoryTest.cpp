@@ -3,6 +3,7 @@
 #include "app/GameStateManager.h"
 #include "app/TestState2.h"
 #include "assets/Library.h"
+#include "gpu/Shaderprogram.h"
 #include "gpu/Texture.h"
 #include "physics/PhysicNode.h"
 #include "physics/VehicleHandle.h"
@@ -137,6 +138,13 @@ TEST_F(GameStory, LeavesTheMatchForAFlightInWhichNobodyDrivesAndComesBack)
     EXPECT_EQ(record->updates - updates, 10) << "the music plays on";
 
     keys().reset();
+    Shaderprogram& wires = *Library::getInstance()->getShaderprogram("WireframeShader");
+    wires.createProgram(); // and broken
+    CapturedLog keyLog;
+    for (const int key : {GLFW_KEY_F3, GLFW_KEY_F5}) tap(key);
+    EXPECT_EQ(keyLog.count("DEBUG | FPS: "), 1) << keyLog.text();
+    EXPECT_TRUE(wires.isUsable());
+
     CapturedLog comeback;
     tap(GLFW_KEY_F11);
     EXPECT_EQ(comeback.text(), "DEBUG | Leave TestState1\nDEBUG | Enter PlayGamestate\n");
@@ -147,10 +155,10 @@ TEST_F(GameStory, LeavesTheMatchForAFlightInWhichNobodyDrivesAndComesBack)
 
 TEST_F(GameStory, HasAFunctionForEachOfItsKeys)
 {
-    const auto minification = [] {
+    const auto filter = [](GLenum which) {
         GLint value = 0;
         glBindTexture(GL_TEXTURE_2D, Library::getInstance()->getTexture("Grass")->getHandle());
-        glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, &value);
+        glGetTexParameteriv(GL_TEXTURE_2D, which, &value);
         return value;
     };
     const auto isWireframe = [] {
@@ -166,11 +174,12 @@ TEST_F(GameStory, HasAFunctionForEachOfItsKeys)
 
     pass({GLFW_KEY_F4}, 2); // held
     keys().reset();
-    EXPECT_EQ(minification(), GL_NEAREST_MIPMAP_LINEAR);
+    EXPECT_EQ(filter(GL_TEXTURE_MIN_FILTER), GL_NEAREST_MIPMAP_LINEAR);
+    EXPECT_EQ(filter(GL_TEXTURE_MAG_FILTER), GL_NEAREST);
     tap(GLFW_KEY_F5);
-    EXPECT_EQ(minification(), GL_NEAREST);
+    EXPECT_EQ(filter(GL_TEXTURE_MIN_FILTER), GL_NEAREST);
     for (const int key : {GLFW_KEY_F4, GLFW_KEY_F5, GLFW_KEY_F5}) tap(key);
-    EXPECT_EQ(minification(), GL_LINEAR_MIPMAP_LINEAR);
+    EXPECT_EQ(filter(GL_TEXTURE_MIN_FILTER), GL_LINEAR_MIPMAP_LINEAR);
 
     tap(GLFW_KEY_F9);
     game->getRenderer().setBlending(true);
@@ -181,7 +190,7 @@ TEST_F(GameStory, HasAFunctionForEachOfItsKeys)
     Library::getInstance()->getTexture("Grass")->load("absent.tga");
     pass({GLFW_KEY_F7}, 2);
     EXPECT_EQ(log.count("Linking program\n"), 2 * 16) << "every program, in every pass";
-    EXPECT_EQ(minification(), GL_LINEAR_MIPMAP_LINEAR) << "every picture";
+    EXPECT_EQ(filter(GL_TEXTURE_MIN_FILTER), GL_LINEAR_MIPMAP_LINEAR) << "every picture";
     keys().reset();
 }
 
