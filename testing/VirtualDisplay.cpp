@@ -56,7 +56,7 @@ bool VirtualDisplay::findWindow(const std::string& title)
     return isFound;
 }
 
-void VirtualDisplay::send(std::initializer_list<std::string> keys, bool down)
+void VirtualDisplay::sendKeys(std::initializer_list<std::string> keys, bool down)
 {
     for (const std::string& key : keys) {
         const KeyCode code = XKeysymToKeycode(connection, XStringToKeysym(key.c_str()));

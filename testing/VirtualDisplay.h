@@ -27,8 +27,8 @@ public:
     [[nodiscard]] bool findWindow(const std::string& title);
 
     /// Key names are those of the X headers: "k", "1", "Up", "Return", "Escape", "F1", "space".
-    void press(std::initializer_list<std::string> keys) { send(keys, true); }
-    void release(std::initializer_list<std::string> keys) { send(keys, false); }
+    void press(std::initializer_list<std::string> keys) { sendKeys(keys, true); }
+    void release(std::initializer_list<std::string> keys) { sendKeys(keys, false); }
 
     /// Ask the window to close, as the button in its title bar would.
     void closeWindow();
@@ -37,7 +37,7 @@ public:
     Picture lookAt(const ScreenArea& region) const; ///< region of the window
 
 private:
-    void send(std::initializer_list<std::string> keys, bool down);
+    void sendKeys(std::initializer_list<std::string> keys, bool down);
 
     TemporaryFolder folder;
     ChildProcess server;
