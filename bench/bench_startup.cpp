@@ -47,7 +47,7 @@ public:
     {
         game.waitFor("a window", [this] { return display.findWindow("Quackdash"); });
         const auto hasDetail = [this] {
-            const Picture row = display.lookAt(kRow);
+            const Picture row = display.look(kRow);
             Picture plain = row;
             for (std::size_t i = 3; i < plain.pixels.size(); ++i) plain.pixels[i] = plain.pixels[i % 3];
             return changedShare(plain, row) > kDetail;
@@ -58,12 +58,12 @@ public:
 
     double untilMatch()
     {
-        const Picture overview = display.lookAt(kRow);
+        const Picture overview = display.look(kRow);
         holdUntil("k", "Player 0, Pfeil");
         holdUntil("1", "Player 1, WASD");
         holdUntil("Return", "Enter PlayGamestate");
         game.waitFor("a picture of the match",
-            [&] { return changedShare(overview, display.lookAt(kRow)) > kOtherScene; });
+            [&] { return changedShare(overview, display.look(kRow)) > kOtherScene; });
         return millisecondsSince(start);
     }
 

