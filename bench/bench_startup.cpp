@@ -39,7 +39,7 @@ class Run {
 public:
     Run(VirtualDisplay& virtualDisplay, const fs::path& folder)
         : display(virtualDisplay), start(Clock::now()),
-          game({{QUACKDASH_PROGRAM}, folder / "game.txt", {{"DISPLAY", display.name()}}, folder})
+          game({{QUACKDASH_PROGRAM}, folder / "game.txt", {{"DISPLAY", display.getName()}}, folder})
     {
     }
 

@@ -12,8 +12,9 @@ struct _XDisplay;
 /// An X server of one's own that draws into memory (Xvfb), with the hands and eyes of a player: keys, and pictures of
 /// one window.
 ///
-/// Construct, start the game on name(), wait until findWindow(), then the rest. There is no window manager: keys go to
-/// the window under the pointer, which rests in the middle of the screen. Failures to start throw std::runtime_error.
+/// Construct, start the game on getName(), wait until findWindow(), then the rest. There is no window manager: keys go
+/// to the window under the pointer, which rests in the middle of the screen. Failures to start throw
+/// std::runtime_error.
 class VirtualDisplay {
 public:
     VirtualDisplay();
@@ -21,7 +22,7 @@ public:
     VirtualDisplay(const VirtualDisplay&) = delete;
     VirtualDisplay& operator=(const VirtualDisplay&) = delete;
 
-    const std::string& name() const { return displayName; } ///< for the variable DISPLAY
+    const std::string& getName() const { return displayName; } ///< for the variable DISPLAY
 
     /// Return true once a window of that title lies under the pointer; the other operations then mean that one.
     [[nodiscard]] bool findWindow(const std::string& title);

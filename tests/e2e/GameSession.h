@@ -28,7 +28,7 @@ public:
     void start(Environment environment = {})
     {
         // Sound goes nowhere: the same run, and the same log, on machines with and without a sound device.
-        environment.insert({{"DISPLAY", display.name()}, {"ALSOFT_DRIVERS", "null"}});
+        environment.insert({{"DISPLAY", display.getName()}, {"ALSOFT_DRIVERS", "null"}});
         launch(environment);
         process->waitForOutput("Enter RegisterPlayersGamestate");
         process->waitFor("a window", [this] { return display.findWindow("Quackdash"); });

@@ -20,7 +20,7 @@ TEST(Start, WithoutADisplayOrOpenGl43SaysSoAndEndsWithStatusOne)
     EXPECT_EQ(game.program().waitForExit(), 1);
     EXPECT_EQ(game.complaints(), "ERROR | Glfw initialization failed\n");
 
-    game.launch({{"DISPLAY", game.screen().name()}, {"MESA_GL_VERSION_OVERRIDE", "3.0"}});
+    game.launch({{"DISPLAY", game.screen().getName()}, {"MESA_GL_VERSION_OVERRIDE", "3.0"}});
     EXPECT_EQ(game.program().waitForExit(), 1);
     EXPECT_EQ(game.complaints(), "ERROR | Opengl 4.3 not available\n");
 }

@@ -22,7 +22,7 @@ TEST(InstalledGame, StartsFromTheRootFolderWithAndWithoutAHome)
         ChildProcess installer({{"sh", "-ec", command}, log, {{"here", QUACKDASH_PACKAGES}}, folder.path()});
         ASSERT_EQ(installer.waitForExit(), 0) << installer.output();
 
-        const std::string display = "DISPLAY=" + screen.name(), home = "HOME=" + folder.path().string();
+        const std::string display = "DISPLAY=" + screen.getName(), home = "HOME=" + folder.path().string();
         for (const char* homeOrNone : {home.c_str(), "HOME=/nonexistent", "NO_HOME=1"}) {
             ChildProcess game({
                 .command = {"env", "-i", homeOrNone, display, "ALSOFT_DRIVERS=null", folder.path() / program},
