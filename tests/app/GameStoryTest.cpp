@@ -78,6 +78,12 @@ TEST_F(GameStory, GoesOnInTheMatchWithLabelsEnginesAndShots)
     ASSERT_EQ(balls.size(), 1u);
     EXPECT_EQ(balls[0]->getOwner(), &player(1));
     EXPECT_TRUE(isNear(player(0).getViewport()->clearColour, glm::vec4(0.3f, 0.6f, 1, 1)));
+
+    keys().reset();
+    for (const float pitch : {0.0f, 1.0f}) { // brakes at rest, then reverses
+        pass({GLFW_KEY_DOWN});
+        EXPECT_EQ(record->enginePitches[0], pitch);
+    }
 }
 
 TEST_F(GameStory, SaysWhoLeadsEveryThreeSeconds)
