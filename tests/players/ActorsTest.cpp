@@ -50,6 +50,7 @@ TEST_F(Actors, KeepTheirControlsAndSmokeWithoutTheirDeviceShootWithItAndComeBack
 
     device.axes[Device::kBrakeAxis] = -1; // reverses, as it does not roll
     match.pass(10);                       // while the car falls
+    EXPECT_NEAR(ball.getWorldPosition().x, 3 + 10 * 2.5f, 0.01f) << "150 units a second";
     device.rumbles.clear();
     std::srand(7);
     const int z = std::rand() % 200 - 100, x = std::rand() % 200 - 100;
