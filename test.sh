@@ -4,7 +4,7 @@
 #
 # usage: ./test.sh [--sanitize] [CTEST-ARGUMENT...]
 #   --sanitize  builds and tests with AddressSanitizer and UndefinedBehaviorSanitizer
-#   ./test.sh -L unit runs the tests of one label: unit, gl or e2e
+#   ./test.sh -L unit runs the tests of one label: unit, gl, e2e or package
 set -euo pipefail
 # shellcheck source=scripts/setup.sh
 source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <iostream>
 
-/// Keeps the game's log from drowning a benchmark's figures. To be called before the first line of the log: it takes
+/// Keep the game's log from drowning a benchmark's figures. To be called before the first line of the log: it takes
 /// its buffer from std::cout once. Figures are printed by std::printf.
 inline void muteLog()
 {

@@ -12,16 +12,14 @@
 // On a busy machine the processor time is the steadier figure: a software driver's threads count in it.
 
 #include "BenchGame.h"
+#include "Percentile.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
-#include "base/FrameTimer.h"
-#include "players/Ball.h"
 #include "render/FrameProbe.h"
 #include "render/Renderer.h"
+#include "testing/OwnProcess.h"
 
 #include <GL/glew.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -48,12 +46,6 @@ struct Moment {
 constexpr int kWarmUpFrames = 150; // long enough for the cars to have landed and the first shots to have hit
 constexpr int kDefaultFrames = 100;
 constexpr int kDefaultCars = 16;
-
-double percentile(std::vector<double> samples, double part)
-{
-    std::sort(samples.begin(), samples.end());
-    return samples[std::min(samples.size() - 1, static_cast<std::size_t>(part * static_cast<double>(samples.size())))];
-}
 
 /// Finishes the GL's work after each step and keeps the time that each took.
 class StepTimes : public IFrameProbe {
@@ -87,7 +79,7 @@ private:
     std::map<std::string, std::vector<double>> wall, processor;
 };
 
-/// Runs in a process of its own: participants cannot leave a match. Returns the exit status.
+/// Measure, in a process of its own: participants cannot leave a match. Return the exit status.
 int measure(int views, int frames, int cars)
 {
     muteLog();
@@ -138,11 +130,7 @@ int main(int argc, char** argv)
     std::vector<int> viewCounts{1, 2, 4, 6};
     if (argc > 3) viewCounts = {std::clamp(std::atoi(argv[3]), 1, 6)};
     for (const int views : viewCounts) {
-        const pid_t child = fork();
-        if (child == 0) std::_Exit(measure(views, frames, cars));
-        int status = 0;
-        waitpid(child, &status, 0);
-        if (status != 0) return 1;
+        if (inOwnProcess([&] { return measure(views, frames, cars); }) != 0) return EXIT_FAILURE;
     }
     return 0;
 }

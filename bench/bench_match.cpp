@@ -11,16 +11,16 @@
 // balls, which are detached and never freed: some 300 bytes a shot, 7.5 MiB in half an hour of sixteen.
 
 #include "MatchStatistics.h"
+#include "Percentile.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
 #include "physics/DrivingControls.h"
 #include "physics/PhysicNode.h"
 #include "physics/VehicleHandle.h"
 #include "testing/HeadlessMatch.h"
+#include "testing/OwnProcess.h"
 
 #include <PxPhysicsAPI.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -33,13 +33,6 @@ constexpr int kDefaultPasses = 7200;
 constexpr int kMeasuredFrom = 1200; // passes: memory is looked at after the first ten seconds
 const physx::PxVec3 kVehicleGravity(0, -9.81f, 0);
 
-double percentile(std::vector<double>& samples, double part)
-{
-    const auto at = samples.begin() + static_cast<std::ptrdiff_t>(part * static_cast<double>(samples.size() - 1));
-    std::nth_element(samples.begin(), at, samples.end());
-    return *at;
-}
-
 template <class Work>
 double microseconds(Work work)
 {
@@ -49,8 +42,8 @@ double microseconds(Work work)
 }
 
 /// The physics library with nothing of the game around it. balls: in flight all the time, thrown again every five
-/// seconds.
-void runReference(int participants, int passes, int balls)
+/// seconds. Return the exit status.
+int runReference(int participants, int passes, int balls)
 {
     HeadlessMatch match;
     PhysxManager& world = *PhysxManager::instance();
@@ -81,9 +74,10 @@ void runReference(int participants, int passes, int balls)
     std::printf("reference participants %d balls %d pass_us_median %.0f\n", participants, balls,
         percentile(times, 0.5));
     std::fflush(stdout);
+    return EXIT_SUCCESS;
 }
 
-/// Returns the balls in flight on average.
+/// Return the balls in flight on average.
 int runMatch(int participants, int passes)
 {
     HeadlessMatch match;
@@ -110,33 +104,18 @@ int runMatch(int participants, int passes)
     return static_cast<int>(ballPasses / passes);
 }
 
-/// Runs the work in a process of its own, since there is one physics world in each, and returns its exit status.
-template <class Work>
-int inOwnProcess(Work work)
-{
-    const pid_t child = fork();
-    if (child == 0) {
-        muteLog();
-        std::_Exit(work());
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 0;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
+    muteLog();
     const int passes = argc > 1 ? std::max(2, std::atoi(argv[1])) : kDefaultPasses;
     std::vector<int> counts{2, 4, 8, 16};
     if (argc > 2) counts = {std::clamp(std::atoi(argv[2]), 1, 16)};
     for (const int participants : counts) {
-        const int balls = inOwnProcess([&] { return runMatch(participants, passes); });
-        inOwnProcess([&] {
-            runReference(participants, passes, balls);
-            return 0;
-        });
+        const std::optional<int> balls = inOwnProcess([&] { return runMatch(participants, passes); });
+        if (!balls || inOwnProcess([&] { return runReference(participants, passes, *balls); }) != EXIT_SUCCESS)
+            return EXIT_FAILURE;
     }
-    return 0;
+    return EXIT_SUCCESS;
 }

@@ -12,7 +12,6 @@
 #include "MatchStatistics.h"
 #include "QuietLog.h"
 #include "ResidentMemory.h"
-#include "base/FrameTimer.h"
 
 #include <malloc.h>
 

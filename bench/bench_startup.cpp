@@ -3,12 +3,11 @@
 // the files are in the page cache.
 //
 // usage: bench_startup [RUNS]      default 9; prints every run and the medians, in milliseconds
+#include "Percentile.h"
 #include "testing/ChildProcess.h"
+#include "testing/TemporaryFolder.h"
 #include "testing/VirtualDisplay.h"
 
-#include <unistd.h>
-
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -88,12 +87,6 @@ private:
     ChildProcess game;
 };
 
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 void measure(int runs, const fs::path& folder)
 {
     VirtualDisplay display;
@@ -107,7 +100,8 @@ void measure(int runs, const fs::path& folder)
         firstPictures.push_back(firstPicture);
         matches.push_back(match);
     }
-    std::printf("median of %d: first picture %.0f ms, match %.0f ms\n", runs, median(firstPictures), median(matches));
+    std::printf("median of %d: first picture %.0f ms, match %.0f ms\n", runs, percentile(firstPictures, 0.5),
+        percentile(matches, 0.5));
 }
 
 } // namespace
@@ -115,15 +109,12 @@ void measure(int runs, const fs::path& folder)
 int main(int argc, char** argv)
 {
     const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : kDefaultRuns;
-    const fs::path folder = fs::temp_directory_path() / ("quackdash-bench-" + std::to_string(getpid()));
-    fs::create_directories(folder);
-    int status = EXIT_SUCCESS;
+    const TemporaryFolder folder;
     try {
-        measure(runs, folder);
-    } catch (const std::runtime_error& error) {
+        measure(runs, folder.path());
+        return EXIT_SUCCESS;
+    } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
-        status = EXIT_FAILURE;
+        return EXIT_FAILURE;
     }
-    fs::remove_all(folder);
-    return status;
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks the form of the sources: C++ by clang-format, no line over 120 columns anywhere; and the habits of the C++
-# sources by clang-tidy. The tests hold every source to its form.
+# Checks the form of the sources: C++ by clang-format, no line of code, script or shader over 120 columns; and the
+# habits of the C++ sources by clang-tidy. The tests hold every source to its form.
 #
 # usage: scripts/check.sh [--format | --fix] [FILE...]
 #   FILE...   default: every C++ file of the repository

@@ -8,7 +8,7 @@ project_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck disable=SC2034  # used by the scripts that source this one
 play_packages=(g++ cmake ninja-build pkg-config ca-certificates
     libglfw3-dev libglew-dev libgl-dev libgl1-mesa-dri libglm-dev libboost-dev libassimp-dev libstb-dev
-    libsdl2-dev libopenal-dev libsndfile1-dev dpkg-dev)
+    libsdl2-dev libopenal-dev libsndfile1-dev dpkg-dev file)
 # What the tests need besides:
 # shellcheck disable=SC2034
 test_packages=(libgtest-dev libpng-dev libx11-dev libxtst-dev xvfb xauth lintian desktop-file-utils appstream
@@ -33,7 +33,7 @@ missing_packages() {
             sed -n 's/^.i[^ ]* *//p' | LC_ALL=C sort -u)
 }
 
-# Installs those of the named packages that are missing, and a cargo that is recent enough where there is none.
+# Install those of the named packages that are missing, and a cargo that is recent enough where there is none.
 require_packages() {
     local wanted=("$@") missing
     if ! has_recent_cargo; then
@@ -63,7 +63,7 @@ configure() {
     (cd "$project_root" && cmake --preset "$@")
 }
 
-# build PRESET [CMAKE-ARGUMENT...]: compiles what is not up to date.
+# build PRESET [CMAKE-ARGUMENT...]: compile what is not up to date.
 build() {
     (cd "$project_root" && cmake --build --preset "$@")
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "testing/Occurrences.h"
+
 #include <gtest/gtest.h>
 
 #include <iostream>
@@ -28,12 +30,7 @@ public:
     bool contains(const std::string& part) { return count(part) > 0; }
 
     /// Return how many times the text holds that part.
-    int count(const std::string& part)
-    {
-        int found = 0;
-        for (std::size_t at = 0; (at = text().find(part, at)) != std::string::npos; at += part.size()) ++found;
-        return found;
-    }
+    int count(const std::string& part) { return occurrences(text(), part); }
 
 private:
     bool capturing = true;

@@ -1,5 +1,7 @@
 #include "testing/ChildProcess.h"
 
+#include "testing/Occurrences.h"
+
 #include <boost/process.hpp>
 #include <boost/process/extend.hpp>
 #include <sys/prctl.h>
@@ -72,8 +74,5 @@ std::string ChildProcess::output() const
 
 int ChildProcess::count(const std::string& text) const
 {
-    const std::string all = output();
-    int found = 0;
-    for (std::size_t at = all.find(text); at != std::string::npos; at = all.find(text, at + text.size())) ++found;
-    return found;
+    return occurrences(output(), text);
 }

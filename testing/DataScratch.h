@@ -15,12 +15,12 @@ public:
         std::filesystem::current_path(before, ignored);
     }
 
-    /// Writes an uncompressed TGA picture of 1 (grey), 3 or 4 components a pixel. component(x, y, i) is 0 to 255, red
+    /// Write an uncompressed TGA picture of 1 (grey), 3 or 4 components a pixel. component(x, y, i) is 0 to 255, red
     /// first; y counts from the bottom.
     void writeTga(const std::string& path, int width, int height, int channels,
         const std::function<int(int, int, int)>& component) const;
 
-    /// Copies Shader/, Textures/, Models/ and Audio/ of the source tree.
+    /// Copy Shader/, Textures/, Models/ and Audio/ of the source tree.
     void copyGameData() const;
 
 private:

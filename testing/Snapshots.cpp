@@ -8,14 +8,13 @@
 #include "physics/Terrain.h"
 #include "physics/VehicleHandle.h"
 #include "players/Player.h"
+#include "testing/OwnProcess.h"
 #include "testing/PngFile.h"
 #include "testing/TestGame.h"
 
 #include <GL/glew.h>
 #include <PxPhysicsAPI.h>
 #include <glm/gtc/matrix_transform.hpp>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cmath>
 #include <cstdlib>
@@ -156,12 +155,5 @@ std::span<const Snapshot> snapshots()
 
 bool take(const Snapshot& snapshot, const std::string& folder)
 {
-    const pid_t child = fork();
-    int status = 0;
-    if (child == 0) {
-        status = Scene().take(snapshot, folder);
-        std::_Exit(status);
-    }
-    waitpid(child, &status, 0);
-    return status == 0;
+    return inOwnProcess([&] { return Scene().take(snapshot, folder); }) == EXIT_SUCCESS;
 }

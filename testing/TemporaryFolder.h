@@ -27,7 +27,7 @@ public:
 
     const std::filesystem::path& path() const { return folder; }
 
-    /// Writes a file of these bytes, with the folders above it, and returns its path.
+    /// Write a file of these bytes, with the folders above it, and return its path.
     std::string write(const std::string& name, const std::string& bytes) const
     {
         const std::filesystem::path file = folder / name;

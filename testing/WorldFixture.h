@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/FrameTimer.h"
 #include "physics/DrivingControls.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
@@ -55,8 +56,8 @@ public:
         constexpr float kPassSeconds = 1.0f / 120.0f;
         for (long passes = std::lround(seconds / kPassSeconds); passes > 0; --passes) {
             each();
-            manager.updateVehicles(3 * kPassSeconds, physx::PxVec3(0, -9.81f, 0));
-            manager.step(3 * kPassSeconds);
+            manager.updateVehicles(kGameTimeScale * kPassSeconds, physx::PxVec3(0, -9.81f, 0));
+            manager.step(kGameTimeScale * kPassSeconds);
         }
     }
 

@@ -7,8 +7,8 @@
 class AppWindow;
 class QKD_Game;
 
-/// A free flight through the running world by keyboard and mouse: the cars roll on, but nobody drives and no hit
-/// counts. Entered from the match and left back to it. Owned by the game.
+/// A free flight through the running world by keyboard and mouse: the cars roll on, but nobody drives, and hits count
+/// only when the match goes on. Entered from the match and left back to it. Owned by the game.
 class DebugGamestate final : public IGameState {
 public:
     /// Add the node "CameraNode" to the game's scene.

@@ -13,10 +13,10 @@ class GlObject {
 public:
     GlObject() = default;
 
-    /// Creates an object of any kind but Shader, which needs a stage to be created for (glGen*, glCreateProgram).
+    /// Create an object of any kind but Shader, which needs a stage to be created for (glGen*, glCreateProgram).
     explicit GlObject(GlKind objectKind);
 
-    /// Takes over an object that is there already.
+    /// Take over an object that is there already.
     GlObject(GlKind objectKind, GLuint objectName) : kind(objectKind), name(objectName) {}
 
     ~GlObject();

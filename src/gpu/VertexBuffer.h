@@ -21,7 +21,7 @@ public:
     /// stay zero.
     void setAttributeData(const std::string& name, const void* data);
 
-    /// Send the staged vertices to the GPU and empties the staging array.
+    /// Send the staged vertices to the GPU and empty the staging array.
     void upload(GLenum usage);
 
 private:

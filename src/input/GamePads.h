@@ -43,15 +43,15 @@ public:
     GamePads(const GamePads&) = delete;
     GamePads& operator=(const GamePads&) = delete;
 
-    /// Return the state of the pad in a slot (0 to 3) in this pass of the main loop. Asks the hardware once a pass,
-    /// however often it is called.
+    /// Return the state of the pad in a slot (0 to 3) in this pass of the main loop. Ask the hardware once a pass,
+    /// however often this is called.
     const GamePadState& read(int slot);
 
     /// Set the motor speeds, 0 to 65535, until the next call (at most 65 seconds). Nothing happens while the slot has
     /// no pad.
     void rumble(int slot, std::uint16_t leftMotor, std::uint16_t rightMotor);
 
-    /// From now on a player drives with this slot (0 to 3): should he lose his pad, the next one that comes is his.
+    /// Note that from now on a player drives with this slot (0 to 3): should the pad be lost, the next one takes it.
     void setJoined(int slot) { slots.setJoined(slot); }
 
 private:

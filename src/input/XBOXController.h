@@ -14,7 +14,7 @@ public:
     float getAxis(int axis) override;
     void vibrate(int milliseconds, std::uint16_t leftMotor, std::uint16_t rightMotor) override;
     void setJoined() override; ///< the next pad that comes is this player's, should the pad be lost
-    void update() override;    ///< also ends a rumble whose time is over
+    void update() override;    ///< also end a rumble whose time is over
     bool isConnected() override;
     std::string getName() const override;
     bool isStartPressed() override;

@@ -26,13 +26,13 @@ public:
 
     /// Hand all bytes to the operating system. Return false when that failed, or there is no connection.
     bool write(const std::uint8_t* bytes, std::uint32_t length) override;
-    void flush() override {} ///< does nothing: write() keeps nothing back
+    void flush() override {} ///< do nothing: write() keeps nothing back
 
     physx::PxPvdTransport& lock() override;
     void unlock() override;
 
     std::uint64_t getWrittenDataSize() override; ///< bytes
-    void release() override {}                   ///< does nothing: the owner destroys it
+    void release() override {}                   ///< do nothing: the owner destroys it
 
     /// Return whether the connection was lost since the last call.
     bool takeLoss() { return lost.exchange(false); }

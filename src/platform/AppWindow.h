@@ -23,7 +23,7 @@ public:
     void place(int x, int y);
 
     bool isOpen() const;
-    void swapBuffers(); ///< shows the picture drawn, and takes in the events that came meanwhile
+    void swapBuffers(); ///< show the picture drawn, and take in the events that came meanwhile
 
     /// Close the window and the window library, and with it the context; harmless when nothing is open.
     void terminate();
@@ -40,7 +40,7 @@ public:
     Position mousePosition() const; ///< pixels from the window's upper-left corner, truncated
 
     double now() override;               ///< seconds since initialize()
-    void sleep(double seconds) override; ///< returns at once for zero and negative values
+    void sleep(double seconds) override; ///< return at once for zero and negative values
     bool isDown(int key) override;
     void poll() override;
 

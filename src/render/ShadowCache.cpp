@@ -8,7 +8,6 @@
 #include "scene/Node.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 

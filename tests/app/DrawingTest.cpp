@@ -19,7 +19,6 @@
 
 #include <GL/glew.h>
 
-#include <algorithm>
 #include <cmath>
 #include <vector>
 

@@ -45,10 +45,14 @@ TEST_F(GlTest, ATextureShowsEachPictureReadIntoItOrAfterOneErrorNone)
         EXPECT_EQ(level(0, GL_TEXTURE_INTERNAL_FORMAT), row.format);
         EXPECT_EQ(level(row.levels - 1, GL_TEXTURE_WIDTH), 1) << "the mipmaps go down to one texel";
         EXPECT_EQ(level(row.levels, GL_TEXTURE_WIDTH), 0);
-        for (const auto& [parameter, expected] : {std::pair{GL_TEXTURE_WRAP_S, GL_REPEAT},
-                 {GL_TEXTURE_WRAP_T, GL_REPEAT}, {GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR}}) {
+        const std::pair<GLenum, GLint> parameters[] = {
+            {GL_TEXTURE_WRAP_S, GL_REPEAT},
+            {GL_TEXTURE_WRAP_T, GL_REPEAT},
+            {GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR},
+        };
+        for (const auto& [parameter, expected] : parameters) {
             GLint value = 0;
-            glGetTexParameteriv(GL_TEXTURE_2D, static_cast<GLenum>(parameter), &value);
+            glGetTexParameteriv(GL_TEXTURE_2D, parameter, &value);
             EXPECT_EQ(value, expected);
         }
         std::vector<glm::u8vec4> texels(static_cast<std::size_t>(row.textureWidth * row.textureHeight));

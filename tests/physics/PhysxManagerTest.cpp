@@ -4,7 +4,6 @@
 #include "testing/WorldFixture.h"
 
 #include <PxPhysicsAPI.h>
-#include <glm/gtc/matrix_transform.hpp>
 #include <gtest/gtest.h>
 
 #include <iterator>

@@ -73,10 +73,12 @@ TEST_F(Actors, WhoOnlyLookOnFlyTurnAndTiltAndComplainInTheNextLineWithoutTheirDe
     const struct {
         std::initializer_list<int> buttons;
         glm::vec3 moved;
-        float degrees = 0; // of turning
+        float degrees; // of turning
     } rows[] = {
-        {{Device::kAccelerate}, {0, 0, -1}}, {{Device::kBrake, Device::kSteerLeft}, {-0.7071f, 0, 0.7071f}},
-        {{Device::kSteerRight}, {1, 0, 0}}, {{Device::kAccelerate, Device::kBrake, Device::kShoot}, {0, 0, 0}},
+        {{Device::kAccelerate}, {0, 0, -1}, 0},
+        {{Device::kBrake, Device::kSteerLeft}, {-0.7071f, 0, 0.7071f}, 0},
+        {{Device::kSteerRight}, {1, 0, 0}, 0},
+        {{Device::kAccelerate, Device::kBrake, Device::kShoot}, {0, 0, 0}, 0},
         {{Device::kAccelerate}, {1, 0, 0}, 90}, // turns before it moves
     };
     match.pass();

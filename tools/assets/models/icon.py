@@ -86,7 +86,7 @@ def outline():
 
 
 def add(build, colour, swell, place=lambda v: v, smooth=2):
-    """Adds a piece in one colour, its marks in ink, and its outline `swell` units wide."""
+    """Add a piece in one colour, its marks in ink, and its outline `swell` units wide."""
     piece = Builder()
     build(piece)
     mesh = bpy.data.meshes.new("piece")

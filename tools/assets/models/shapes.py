@@ -150,7 +150,7 @@ def settled(text):
 
 
 def export(path, builder, axes, smoothAngle):
-    """Writes the shells as one Collada mesh. `axes` (3 x 3, a rotation times a scale) leads from the building axes to
+    """Write the shells as one Collada mesh. `axes` (3 x 3, a rotation times a scale) leads from the building axes to
     the file's.
     Edges sharper than `smoothAngle` degrees stay hard."""
     faces, ink = zip(*triangles(builder))

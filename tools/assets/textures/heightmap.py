@@ -69,7 +69,7 @@ def heights():
 
 
 def report(height):
-    """Stops on a field that does not keep to the rules above; the samples are what the game drives on."""
+    """Stop on a field that does not keep to the rules above; the samples are what the game drives on."""
     samples = height[::8, ::8]
     entry = samples[(256 - ENTRY) // 8:(256 + ENTRY) // 8 + 2, (256 - ENTRY) // 8:(256 + ENTRY) // 8 + 2]
     slopes = numpy.hypot(*numpy.gradient(samples, 8.0))

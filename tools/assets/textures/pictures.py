@@ -23,7 +23,7 @@ def smoothstep(low, high, value):
 
 
 def mix(a, b, amount):
-    """Blends colours or colour fields; `amount` is a field of 0 to 1 without a colour axis."""
+    """Blend colours or colour fields; `amount` is a field of 0 to 1 without a colour axis."""
     amount = numpy.asarray(amount)[..., None]
     return numpy.asarray(a) * (1.0 - amount) + numpy.asarray(b) * amount
 
@@ -34,6 +34,6 @@ def colour(text):
 
 
 def saveTga(path, field, runLength=True):
-    """Writes one, three or four components a pixel, bottom row first."""
+    """Write one, three or four components a pixel, bottom row first."""
     bytes_ = numpy.clip(numpy.rint(numpy.asarray(field) * 255.0), 0, 255).astype(numpy.uint8)
     Image.fromarray(bytes_).save(path, compression="tga_rle" if runLength else None, orientation=-1)
