@@ -75,11 +75,13 @@ TEST_F(Actors, WhoOnlyLookOnFlyTurnAndTiltAndComplainInTheNextLineWithoutTheirDe
         glm::vec3 moved;
         float degrees; // of turning
     } rows[] = {
+        // clang-format off
         {{Device::kAccelerate}, {0, 0, -1}, 0},
         {{Device::kBrake, Device::kSteerLeft}, {-0.7071f, 0, 0.7071f}, 0},
         {{Device::kSteerRight}, {1, 0, 0}, 0},
         {{Device::kAccelerate, Device::kBrake, Device::kShoot}, {0, 0, 0}, 0},
         {{Device::kAccelerate}, {1, 0, 0}, 90}, // turns before it moves
+        // clang-format on
     };
     match.pass();
     CapturedLog log;
