@@ -18,14 +18,15 @@ namespace bp = boost::process;
 
 ChildProcess::ChildProcess(const Settings& settings) : outputFile(settings.output)
 {
-    bp::environment environment = boost::this_process::environment();
-    for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY"}) environment.erase(display);
-    for (const auto& [name, value] : settings.environment) environment[name] = value;
+    // Variables go by way of env: the library's own table of them reads past the end of short ones.
+    std::vector<std::string> arguments{"-u", "DISPLAY", "-u", "WAYLAND_DISPLAY"};
+    for (const auto& [name, value] : settings.environment) arguments.push_back(name + '=' + value);
+    arguments.insert(arguments.end(), settings.command.begin(), settings.command.end());
 
     std::ofstream(outputFile, std::ios::trunc).close(); // the library opens it as it is
     process = std::make_unique<bp::child>(
-        bp::exe = "/usr/bin/env", bp::args = settings.command, bp::start_dir = settings.workingFolder.string(),
-        environment, (bp::std_out & bp::std_err) > outputFile.string(),
+        bp::exe = "/usr/bin/env", bp::args = arguments, bp::start_dir = settings.workingFolder.string(),
+        (bp::std_out & bp::std_err) > outputFile.string(),
         bp::extend::on_exec_setup = [](auto&) { prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
 
