@@ -109,8 +109,8 @@ void measure(int runs, const fs::path& folder)
 int main(int argc, char** argv)
 {
     const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : kDefaultRuns;
-    const TemporaryFolder folder;
     try {
+        const TemporaryFolder folder;
         measure(runs, folder.path());
         return EXIT_SUCCESS;
     } catch (const std::exception& error) {

@@ -20,7 +20,7 @@ ChildProcess::ChildProcess(const Settings& settings) : outputFile(settings.outpu
 {
     // Variables go by way of env: the library's own table of them reads past the end of short ones.
     std::vector<std::string> arguments{"-u", "DISPLAY", "-u", "WAYLAND_DISPLAY"};
-    for (const auto& [name, value] : settings.environment) arguments.push_back(name + '=' + value);
+    for (const auto& [name, value] : settings.environment) arguments.emplace_back(name).append("=").append(value);
     arguments.insert(arguments.end(), settings.command.begin(), settings.command.end());
 
     std::ofstream(outputFile, std::ios::trunc).close(); // the library opens it as it is

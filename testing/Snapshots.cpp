@@ -104,14 +104,14 @@ private:
     /// Put a car on the ground, number `seat` of so many in a ring, its front towards the middle.
     void place(const Player& player, float radius, int seat, int seats)
     {
-        constexpr int kSide = 64, kSpacing = 8; // samples of the ground, world units between them
+        constexpr int kSide = 64, kHalf = kSide / 2, kSpacing = 8; // samples of the ground, world units between them
         const float around = 2 * std::numbers::pi_v<float> * static_cast<float>(seat) / static_cast<float>(seats);
-        const auto sampleAt = [](float along) { return static_cast<int>(std::lround(along / kSpacing)) + kSide / 2; };
+        const auto sampleAt = [](float along) { return static_cast<int>(std::lround(along / kSpacing)) + kHalf; };
         const int row = sampleAt(radius * std::sin(around)), column = sampleAt(-radius * std::cos(around));
         const std::vector<glm::vec3> ground = getGround().getVertices();
-        const float height = ground[static_cast<std::size_t>(row * kSide + column)].y + kRestingHeight;
-        const physx::PxVec3 position(static_cast<float>((row - kSide / 2) * kSpacing), height,
-            static_cast<float>((column - kSide / 2) * kSpacing));
+        const auto sample = static_cast<std::size_t>(row) * kSide + static_cast<std::size_t>(column);
+        const auto unitsAt = [](int index) { return static_cast<float>((index - kHalf) * kSpacing); };
+        const physx::PxVec3 position(unitsAt(row), ground[sample].y + kRestingHeight, unitsAt(column));
         const physx::PxQuat heading(std::atan2(-position.x, -position.z), physx::PxVec3(0, 1, 0));
         player.getVehicle()->getActor()->setGlobalPose(physx::PxTransform(position, heading));
     }

@@ -24,7 +24,7 @@ public:
     {
     }
 
-    ~TestGame();
+    virtual ~TestGame();
 
     /// Open the window, load everything and build the world. Return false when there is no display.
     [[nodiscard]] bool start();

@@ -3,7 +3,7 @@
 #include "gpu/IUniform.h"
 
 /// A constant colour: red, green, blue, alpha, each 0 to 1.
-class Uniform_Color : public IUniform<glm::vec4> {
+class Uniform_Color final : public IUniform<glm::vec4> {
 public:
     explicit Uniform_Color(glm::vec4 value) : color(value) {}
 

@@ -4,7 +4,6 @@
 #include <PxPhysicsAPI.h>
 #include <gtest/gtest.h>
 
-#include <memory>
 
 namespace {
 
@@ -75,12 +74,12 @@ TEST(Cars, ComeToRestOnTheirWheelsWhenDropped)
     EXPECT_GT(world.car.getActor()->getGlobalPose().q.getBasisVector1().y, 0.999f);
 
     for (PxU32 i = 0; i < 4; ++i) {
-        const std::unique_ptr<PhysicNode> wheel(world.car.createWheelNode(i));
+        PhysicNode* const wheel = world.car.createWheelNode(i);
         const glm::vec3 centre(i % 2 ? 0.919f : -0.919f, -0.64f, i < 2 ? 1.511f : -1.511f);
         EXPECT_TRUE(isNear(toGlm(wheel->shape->getLocalPose().p), centre, 0.05f)) << "wheel " << i;
         EXPECT_NEAR(world.car.getVehicle().mWheelsSimData.getWheelData(i).mWidth, 0.35f, 1e-4f);
     }
-    const std::unique_ptr<PhysicNode> chassis(world.car.createWheelNode(4));
+    PhysicNode* const chassis = world.car.createWheelNode(4);
     const physx::PxBounds3 box = chassis->shape->getGeometry().convexMesh().convexMesh->getLocalBounds();
     EXPECT_TRUE(isNear(toGlm(box.minimum), glm::vec3(-1, -0.8f, -1), 0.02f));
     EXPECT_TRUE(isNear(toGlm(box.maximum), glm::vec3(1, 1.2f, 1), 0.02f));

@@ -23,21 +23,22 @@ TEST(Terrain, TakesEveryEighthPixelOfItsPictureRaisedToPowersOfTwo)
         {512, 256, 0, kTooSmall},
         {256, 512, 0, kTooSmall},
     };
-    for (const auto& [width, height, tolerance, complaint] : rows) {
-        SCOPED_TRACE(width);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.width);
         WorldFixture world;
         CapturedLog log;
         // The same plane, whatever the picture's size: 200 up along a row, which lies along z, and 50 from row to row.
         const auto plane = [](int x, int w, int y, int h) { return x * 200 / w + y * 50 / h; };
         const std::vector<glm::vec3> points =
-            world.ground([&](int x, int y) { return plane(x, width, y, height); }, width, height).getVertices();
-        EXPECT_EQ(log.text(), complaint);
-        for (int row = 0; row < 64; ++row)
-            for (int column = 0; column < 64; ++column) {
-                const bool flat = *complaint; // and not above 50, where cars enter
-                const float y = flat ? 40 : static_cast<float>(plane(column, 64, row, 64)) * kByte;
-                ASSERT_TRUE(isNear(points[row * 64 + column], glm::vec3(row * 8, y, column * 8), tolerance + 0.001f));
-            }
+            world.ground([&](int x, int y) { return plane(x, row.width, y, row.height); }, row.width, row.height)
+                .getVertices();
+        EXPECT_EQ(log.text(), row.complaint);
+        for (int i = 0; i < 64 * 64; ++i) {
+            const bool flat = *row.complaint; // and not above 50, where cars enter
+            const float y = flat ? 40 : static_cast<float>(plane(i % 64, 64, i / 64, 64)) * kByte;
+            const glm::vec3 expected(i / 64 * 8, y, i % 64 * 8);
+            ASSERT_TRUE(isNear(points[static_cast<std::size_t>(i)], expected, row.tolerance + 0.001f));
+        }
     }
 }
 
