@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr sf_count_t kMostFrames = 10 * 60 * 48000; // ten minutes at 48 kHz, 230 MB decoded
+constexpr sf_count_t kMostFrames = sf_count_t{10} * 60 * 48000; // ten minutes at 48 kHz, 230 MB decoded
 
 struct Closer {
     void operator()(SNDFILE* file) const { sf_close(file); }

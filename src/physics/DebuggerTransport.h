@@ -15,7 +15,7 @@ class DebuggerTransport final : public physx::PxPvdTransport {
 public:
     /// port: where the debugger listens on 127.0.0.1.
     explicit DebuggerTransport(std::uint16_t debuggerPort) : port(debuggerPort) {}
-    ~DebuggerTransport() { disconnect(); }
+    ~DebuggerTransport() override { disconnect(); }
     DebuggerTransport(const DebuggerTransport&) = delete;
     DebuggerTransport& operator=(const DebuggerTransport&) = delete;
 

@@ -113,7 +113,7 @@ std::vector<unsigned short> Terrain::getIndices() const
 
 std::size_t Terrain::indexOf(int row, int column) const
 {
-    return static_cast<std::size_t>(row * columns + column);
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) + static_cast<std::size_t>(column);
 }
 
 int Terrain::getSize() const

@@ -4,7 +4,6 @@
 #include <PxPhysicsAPI.h>
 #include <gtest/gtest.h>
 
-
 namespace {
 
 using physx::PxU32;
