@@ -21,15 +21,13 @@ const vec3 kToLight = vec3(0.2873479, 0.9578263, 0.0);
 // from texel to texel.
 float lit()
 {
-    vec2 at = shadowPosition.xy * vec2(textureSize(shadow_texture, 0)) - 0.5;
-    ivec2 texel = ivec2(floor(at));
-    vec2 part = at - vec2(texel);
-    float depth = shadowPosition.z - kShadowBias;
-    vec4 isLit = step(depth, vec4(texelFetch(shadow_texture, texel, 0).r,
-                                  texelFetch(shadow_texture, texel + ivec2(1, 0), 0).r,
-                                  texelFetch(shadow_texture, texel + ivec2(0, 1), 0).r,
-                                  texelFetch(shadow_texture, texel + ivec2(1, 1), 0).r));
-    vec2 rows = mix(isLit.xz, isLit.yw, part.x);
+    vec2 size = vec2(textureSize(shadow_texture, 0));
+    vec2 at = shadowPosition.xy * size - 0.5;
+    vec2 texel = floor(at);
+    vec2 part = at - texel;
+    // Counter-clockwise from the upper left; asked for at their common corner, where rounding picks no others.
+    vec4 isLit = step(shadowPosition.z - kShadowBias, textureGather(shadow_texture, (texel + 1.0) / size));
+    vec2 rows = mix(isLit.wx, isLit.zy, part.x);
     return mix(rows.x, rows.y, part.y);
 }
 
