@@ -18,8 +18,6 @@ public:
     /// and the throttle control brakes. Return the throttle written, 0 to 1.
     float apply(const DriverInput& input, VehicleHandle& car);
 
-    bool isReversing() const { return reversing; }
-
 private:
     float writeRawInputs(const DriverInput& input, VehicleHandle& car) const;
     void handleGears(const DriverInput& input, VehicleHandle& car);

@@ -66,7 +66,6 @@ public:
     void removeActor(physx::PxActor* actor);
 
     physx::PxScene& getScene() const { return *scene; }
-    VehicleManager& getVehicleManager() const { return *vehicleManager; }
     float getAccumulator() const { return accumulator; } ///< seconds of game time owed
 
 private:

@@ -52,12 +52,6 @@ public:
     physx::PxVehicleWheels* getVehicle(physx::PxU32 i) const { return mVehicles.at(i); }
     VehicleHandle* getHandle(physx::PxU32 i) const { return handles.at(i).get(); }
 
-    /// Return what wheel `wheel` of car i stood on in the last update.
-    const physx::PxWheelQueryResult& getWheelQuery(physx::PxU32 i, physx::PxU32 wheel) const
-    {
-        return wheelQueries.at(i).at(wheel);
-    }
-
 private:
     void smoothInputs(float dt);
     void castSuspensionRays(physx::PxScene& scene);
