@@ -1,10 +1,20 @@
 #version 430 core
 // Depth blur: what is far grows soft and hazy, the playfield stays sharp. The alpha of the result says how much of an
 // edge a pixel is: the pass that follows inks the edges.
+//
+// Pixels are shaded in squares of two by two. Of its four neighbours a pixel reads the two outside its square; the two
+// inside have read their own texels, and derivatives tell them for nothing.
+#extension GL_ARB_derivative_control : enable
+#ifndef GL_ARB_derivative_control
+#define dFdxFine dFdx
+#define dFdyFine dFdy
+#endif
+
+flat in float thickness; // of the haze
+
 uniform sampler2D fbo_texture;
 uniform sampler2D depth_texture;
-uniform sampler2D light_depth_texture;
-uniform float offset;
+uniform float offset; // half seconds
 
 out vec4 fragment;
 
@@ -15,26 +25,37 @@ const float kEdgeFrom = 0.10;   // bend of the reciprocal depth, relative to its
 const float kEdgeFull = 0.28;
 const vec3 kHaze = vec3(0.72, 0.85, 0.95);
 
+// Return the haze's share at that distance. It drifts in banks, a tenth thicker and thinner.
+float hazeAt(float distance, float far)
+{
+    float bank = abs(fract(0.002 * (gl_FragCoord.x + distance) + 0.01 * offset) - 0.5);
+    return distance > 990.0 ? 0.0 : thickness * far * (0.9 + 0.4 * bank); // the sky brings its own
+}
+
 void main()
 {
+    vec2 outside = 4.0 * fract(0.5 * floor(gl_FragCoord.xy)) - 1.0; // direction out of the square, -1 or 1 an axis
     ivec2 p = ivec2(gl_FragCoord.xy);
-    ivec2 last = textureSize(fbo_texture, 0) - 1;
-    ivec2 l = ivec2(max(p.x - 1, 0), p.y), r = ivec2(min(p.x + 1, last.x), p.y);
-    ivec2 d = ivec2(p.x, max(p.y - 1, 0)), u = ivec2(p.x, min(p.y + 1, last.y));
+    ivec2 o = clamp(p + ivec2(outside), ivec2(0), textureSize(fbo_texture, 0) - 1);
+
+    // The four depths around the pixel's outer corner, counter-clockwise from the upper left; mirrored so that the
+    // pixel's own comes second, with its neighbours along x and y to either side.
+    vec4 around = textureGather(depth_texture, (gl_FragCoord.xy + 0.5 * outside) / vec2(textureSize(depth_texture, 0)));
+    around = outside.y < 0.0 ? around : around.wzyx;
+    around = outside.x < 0.0 ? around : around.yxwz;
+    float depth = around.y;
 
     // One minus the stored depth is proportional to the reciprocal distance, which is linear across any plane: only
     // real edges bend it.
-    float c = 1.0 - texelFetch(depth_texture, p, 0).r;
-    float bend = abs(2.0 - texelFetch(depth_texture, l, 0).r - texelFetch(depth_texture, r, 0).r - 2.0 * c)
-               + abs(2.0 - texelFetch(depth_texture, d, 0).r - texelFetch(depth_texture, u, 0).r - 2.0 * c);
-    float reciprocal = max(c, 1.0e-7);
+    float bend = abs(around.x - depth - outside.x * dFdxFine(depth))
+               + abs(around.z - depth - outside.y * dFdyFine(depth));
+    float reciprocal = max(1.0 - depth, 1.0e-7);
     float edge = smoothstep(kEdgeFrom, kEdgeFull, bend / reciprocal);
 
     float distance = kNear / reciprocal;
     float far = smoothstep(kBlurStart, kBlurFull, distance);
     vec3 sharp = texelFetch(fbo_texture, p, 0).rgb;
-    vec3 soft = 0.25 * (texelFetch(fbo_texture, l, 0).rgb + texelFetch(fbo_texture, r, 0).rgb
-                      + texelFetch(fbo_texture, d, 0).rgb + texelFetch(fbo_texture, u, 0).rgb);
-    float haze = distance > 990.0 ? 0.0 : 0.35 * far; // the sky brings its own
-    fragment = vec4(mix(mix(sharp, soft, 0.8 * far), kHaze, haze), edge * (1.0 - 0.8 * far));
+    vec3 soft = 0.5 * sharp + 0.25 * (texelFetch(fbo_texture, ivec2(o.x, p.y), 0).rgb - outside.x * dFdxFine(sharp)
+                                    + texelFetch(fbo_texture, ivec2(p.x, o.y), 0).rgb - outside.y * dFdyFine(sharp));
+    fragment = vec4(mix(mix(sharp, soft, 0.8 * far), kHaze, hazeAt(distance, far)), edge * (1.0 - 0.8 * far));
 }

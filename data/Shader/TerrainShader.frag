@@ -17,6 +17,12 @@ const float kOuterRing = 84.0;    // world units: radius of the one on the way t
 const float kRingHalfWidth = 2.6; // world units
 const vec3 kToLight = vec3(0.2873479, 0.9578263, 0.0);
 
+// Return the texture's colour from the nearer mip level alone: with two levels a software driver samples twice.
+vec3 nearerLevel(sampler2D picture, vec2 uv)
+{
+    return textureLod(picture, uv, round(textureQueryLod(picture, uv).y)).rgb;
+}
+
 // Return how much light gets here, 0 to 1. The four nearest texels count by their closeness, so that edges run softly
 // from texel to texel.
 float lit()
@@ -34,8 +40,8 @@ float lit()
 void main()
 {
     vec2 uv = worldPosition.xz * kTilesPerUnit;
-    vec3 grass = texture(tex_grass, uv).rgb;
-    vec3 dirt = texture(tex_dirt, uv).rgb;
+    vec3 grass = nearerLevel(tex_grass, uv);
+    vec3 dirt = nearerLevel(tex_dirt, uv);
 
     // Dirt where it is steep, on low ground, and where the rings are worn into the grass, whose tufts fray their edges.
     float flatness = smoothstep(0.90, 0.965, worldNormal.y);

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr unsigned kIndicesPerRun = 9 * 6; // nine cells of a row, of two triangles each
-constexpr float kFineDistance = 28;        // world units from the eye within which an edge is split
+constexpr float kFineDistance = 12;        // world units from the eye within which an edge is split
 constexpr float kEverywhere = std::numeric_limits<float>::infinity();
 
 Mesh meshOf(const Terrain& terrain)

@@ -20,7 +20,9 @@ void FullScreenQuad::draw(Shaderprogram& program) const
     glEnableVertexAttribArray(attribute);
     buffer.bind();
     glVertexAttribPointer(attribute, 2, GL_FLOAT, GL_FALSE, 0, nullptr);
+    glDisable(GL_DEPTH_TEST); // every pixel is meant: testing and writing depth would be for nothing
     glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
+    glEnable(GL_DEPTH_TEST);
     glDisableVertexAttribArray(attribute);
     glBindVertexArray(0);
 }

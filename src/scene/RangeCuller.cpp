@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -43,13 +44,15 @@ RangeCuller::RangeCuller(const Mesh& mesh, unsigned indicesPerRun)
 
 std::vector<IndexRange> RangeCuller::visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const
 {
-    std::vector<IndexRange> ranges;
+    std::vector<std::pair<float, const Run*>> found;
     for (const Run& run : runs) {
         const float distance = glm::distance(glm::clamp(eye, run.min, run.max), eye);
         if (distance < from || distance >= to || isOutside(run.min, run.max, toClip)) continue;
-        const bool continues = !ranges.empty() && ranges.back().first + ranges.back().count == run.range.first;
-        if (continues) ranges.back().count += run.range.count;
-        else ranges.push_back(run.range);
+        found.emplace_back(distance, &run);
     }
+    std::ranges::stable_sort(found, {}, [](const auto& entry) { return entry.first; });
+    std::vector<IndexRange> ranges;
+    ranges.reserve(found.size());
+    for (const auto& [distance, run] : found) ranges.push_back(run->range);
     return ranges;
 }

@@ -24,8 +24,8 @@ public:
     RangeCuller(const Mesh& mesh, unsigned indicesPerRun);
 
     /// Return the stretches whose bounds touch the view and whose nearest point to the eye is at least `from` and less
-    /// than `to` away, in order, neighbours joined. toClip: the mesh's coordinates to clip space; eye, from and to in
-    /// the mesh's coordinates and units.
+    /// than `to` away, nearest first, so that what they hide behind them is never shaded. toClip: the mesh's
+    /// coordinates to clip space; eye, from and to in the mesh's coordinates and units.
     std::vector<IndexRange> visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const;
 
 private:
