@@ -1,2 +1,3 @@
 VERTEX_SHADER Shader/TerrainFar.vert
 FRAGMENT_SHADER Shader/TerrainShader.frag
+FRAGMENT_SHADER Shader/TerrainShadow.frag

@@ -1,16 +1,13 @@
 #version 430 core
 in vec3 worldPosition;
 in vec3 worldNormal;
-in vec3 shadowPosition;
 
 uniform sampler2D tex_grass;
 uniform sampler2D tex_dirt;
-uniform sampler2D shadow_texture;
 
 out vec4 fragment;
 
 const float kTilesPerUnit = 0.05; // texture repeats a world unit
-const float kShadowBias = 0.0015; // of the light's depth range: 0.3 world units
 const float kStripe = 12.0;       // world units: half the period of the mown chequers
 const float kInnerRing = 36.0;    // world units: radius of the worn ring around the middle of the arena
 const float kOuterRing = 84.0;    // world units: radius of the one on the way to the rim
@@ -23,19 +20,8 @@ vec3 nearerLevel(sampler2D picture, vec2 uv)
     return textureLod(picture, uv, round(textureQueryLod(picture, uv).y)).rgb;
 }
 
-// Return how much light gets here, 0 to 1. The four nearest texels count by their closeness, so that edges run softly
-// from texel to texel.
-float lit()
-{
-    vec2 size = vec2(textureSize(shadow_texture, 0));
-    vec2 at = shadowPosition.xy * size - 0.5;
-    vec2 texel = floor(at);
-    vec2 part = at - texel;
-    // Counter-clockwise from the upper left; asked for at their common corner, where rounding picks no others.
-    vec4 isLit = step(shadowPosition.z - kShadowBias, textureGather(shadow_texture, (texel + 1.0) / size));
-    vec2 rows = mix(isLit.wx, isLit.zy, part.x);
-    return mix(rows.x, rows.y, part.y);
-}
+// Return how much light gets here, 0 to 1.
+float lit();
 
 void main()
 {

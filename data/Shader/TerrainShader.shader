@@ -2,3 +2,4 @@ VERTEX_SHADER Shader/TerrainShader.vert
 TESS_CONTROL_SHADER Shader/TerrainShader.tesc
 TESS_EVALUATION_SHADER Shader/TerrainShader.tese
 FRAGMENT_SHADER Shader/TerrainShader.frag
+FRAGMENT_SHADER Shader/TerrainShadow.frag

@@ -12,6 +12,7 @@ constexpr Asset kShaders[] = {
     {"Shader/ParticleMovement.shader", "ParticleMovement"},
     {"Shader/TerrainShader.shader", "TerrainShader"},
     {"Shader/TerrainFar.shader", "TerrainFar"},
+    {"Shader/TerrainSunny.shader", "TerrainSunny"},
     {"Shader/PlayerShader.shader", "PlayerShader"},
     {"Shader/SkyboxShader.shader", "SkyboxShader"},
     {"Shader/ColorShader.shader", "ColorShader"},

@@ -2,6 +2,8 @@
 
 #include "gpu/IUniform.h"
 
+#include <glm/glm.hpp>
+
 #include <string>
 
 class Camera;
@@ -21,6 +23,13 @@ public:
 
     /// Return the camera of the viewport being drawn.
     virtual Camera* getCurrentCamera() const = 0;
+
+    /// Return how many pixels high a world unit is seen at that place in the viewport being drawn.
+    virtual float getPixelsPerUnit(const glm::vec3& position) const = 0;
+
+    /// Return whether the shadow of anything but the ground may fall into a box in this frame. The corners in
+    /// coordinates that the transform leads from to the world's.
+    virtual bool mayBeShaded(const glm::mat4& toWorld, const glm::vec3& min, const glm::vec3& max) const = 0;
 
     virtual void cullFrontFaces() = 0; ///< as usual: what is seen is wound clockwise from outside
     virtual void cullBackFaces() = 0;

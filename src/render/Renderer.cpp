@@ -8,12 +8,14 @@
 #include "render/GlDebug.h"
 #include "render/RenderTargets.h"
 #include "render/TextRenderer.h"
+#include "scene/Camera.h"
 #include "scene/SceneGraph.h"
 #include "scene/Viewport.h"
 
 #include <GL/glew.h>
 #include <GLFW/glfw3.h>
 
+#include <algorithm>
 #include <sstream>
 
 namespace {
@@ -21,6 +23,7 @@ namespace {
 constexpr const char* kTitle = "Quackdash";
 constexpr int kWindowX = 300, kWindowY = 30; // pixels from the screen's upper-left corner
 constexpr int kFpsInterval = 1000;           // milliseconds between two texts
+constexpr float kNearest = 0.1f;             // world units from the eye: what is nearer is not drawn
 constexpr double kFpsX = -0.8, kFpsY = -0.8; // normalised device coordinates
 
 void setArea(int x, int y, int width, int height)
@@ -149,6 +152,7 @@ void Renderer::renderViewports(IGameState* state)
     for (const Viewport* viewport : viewports) {
         apply(*viewport);
         currentCamera = viewport->camera;
+        currentHeight = viewport->getRect().height;
         renderModels();
         if (state) state->renderCamera(currentCamera);
         if (isKeyDown(GLFW_KEY_F6)) renderDebugOverlay();
@@ -220,6 +224,18 @@ void Renderer::terminate()
 unsigned Renderer::getLightDepthTexture() const
 {
     return targets->lightDepth.getHandle();
+}
+
+float Renderer::getPixelsPerUnit(const glm::vec3& position) const
+{
+    const glm::vec4 clip = currentCamera->getProjection() * currentCamera->getView() * glm::vec4(position, 1);
+    const float unit = currentCamera->getProjection()[1][1] / std::max(clip.w, kNearest);
+    return unit * static_cast<float>(currentHeight) / 2;
+}
+
+bool Renderer::mayBeShaded(const glm::mat4& toWorld, const glm::vec3& min, const glm::vec3& max) const
+{
+    return targets->shadowCache.mayReach(toWorld, min, max);
 }
 
 void Renderer::setBlending(bool on)

@@ -60,6 +60,9 @@ public:
     /// Return the source of "viewMatrix", "projectionMatrix" or "normalMatrix"; for any other name an empty entry.
     UniformVariant& getGlobalUniform(const std::string& name) override { return globalUniforms[name]; }
 
+    float getPixelsPerUnit(const glm::vec3& position) const override;
+    bool mayBeShaded(const glm::mat4& toWorld, const glm::vec3& min, const glm::vec3& max) const override;
+
     void setBlending(bool on); ///< off whatever `on` says while blending is not allowed
     void cullFrontFaces() override;
     void cullBackFaces() override;
@@ -98,6 +101,7 @@ private:
 
     AppWindow window;
     Camera* currentCamera = nullptr;
+    int currentHeight = 0; // of the viewport being drawn, pixels
     ModelRenderer modelRenderer{this};
     ShadowMappingRender shadowRenderer;
     DebugRenderer* debugRenderer = nullptr;

@@ -8,6 +8,8 @@
 #include "scene/Node.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 
 namespace {
 
@@ -47,7 +49,30 @@ void ShadowCache::draw(const ShadowMappingRender& shadows)
     ShadowMappingRender::draw(moving);
 }
 
-/// Return one rectangle a model, or the whole texture when the bounds of any are unknown.
+bool ShadowCache::Rect::contains(const Rect& other) const
+{
+    return x <= other.x && y <= other.y && x + width >= other.x + other.width && y + height >= other.y + other.height;
+}
+
+bool ShadowCache::Rect::touches(const Rect& other) const
+{
+    return x < other.x + other.width && other.x < x + width && y < other.y + other.height && other.y < y + height;
+}
+
+bool ShadowCache::mayReach(const glm::mat4& toWorld, const glm::vec3& min, const glm::vec3& max) const
+{
+    if (!valid) return true;
+    const glm::mat4 toTexture = biasedLightViewProjection() * toWorld;
+    const glm::vec4 centre = toTexture * glm::vec4((min + max) / 2.0f, 1);
+    const glm::vec3 half = (max - min) / 2.0f;
+    const glm::vec3 reach =
+        glm::abs(toTexture[0] * half.x) + glm::abs(toTexture[1] * half.y) + glm::abs(toTexture[2] * half.z);
+    const Rect rect = rectAround(centre, reach);
+    const auto isTouched = [&](const Rect& shadow) { return shadow.touches(rect); };
+    return std::ranges::any_of(touched, isTouched) || std::ranges::any_of(stillThings, isTouched);
+}
+
+/// Return rectangles that hold what the models cover; the whole texture when the bounds of any are unknown.
 std::vector<ShadowCache::Rect> ShadowCache::coveredBy(const std::vector<Model*>& models) const
 {
     std::vector<Rect> rects;
@@ -55,7 +80,14 @@ std::vector<ShadowCache::Rect> ShadowCache::coveredBy(const std::vector<Model*>&
         if (model->boundingRadius <= 0) return {wholeTexture()};
         rects.push_back(coveredBy(*model));
     }
-    return rects;
+    // A car's wheels mostly lie within what its driver covers.
+    std::ranges::stable_sort(rects, std::greater(), [](const Rect& rect) { return rect.width * rect.height; });
+    std::vector<Rect> result;
+    for (const Rect& rect : rects) {
+        if (std::ranges::none_of(result, [&](const Rect& larger) { return larger.contains(rect); }))
+            result.push_back(rect);
+    }
+    return result;
 }
 
 void ShadowCache::drawStatic(const std::vector<Model*>& casters)
@@ -70,6 +102,10 @@ void ShadowCache::drawStatic(const std::vector<Model*>& casters)
     glClear(GL_DEPTH_BUFFER_BIT);
     ShadowMappingRender::draw(casters);
     drawnStatic = std::move(now);
+    std::vector<Model*> things;
+    std::ranges::copy_if(casters, std::back_inserter(things),
+        [](const Model* model) { return model->layer == ModelLayer::Things; });
+    stillThings = coveredBy(things);
     drawnWith = program;
     valid = false;
 }
@@ -92,12 +128,15 @@ ShadowCache::Rect ShadowCache::coveredBy(const Model& model) const
     // axis as the row of that axis is long, however the node's transform scales and shears.
     const glm::mat4 toTexture = biasedLightViewProjection() * model.getNode()->getWorldTransform();
     const glm::mat4 rows = glm::transpose(toTexture);
+    return rectAround(toTexture[3],
+        model.boundingRadius * glm::vec2(glm::length(glm::vec3(rows[0])), glm::length(glm::vec3(rows[1]))));
+}
+
+ShadowCache::Rect ShadowCache::rectAround(const glm::vec2& centre, const glm::vec2& reach) const
+{
     const glm::vec2 size(lightTexture.getSize());
-    const glm::vec2 centre = glm::vec2(toTexture[3]) * size;
-    const glm::vec2 reach =
-        model.boundingRadius * glm::vec2(glm::length(glm::vec3(rows[0])), glm::length(glm::vec3(rows[1]))) * size;
-    const glm::vec2 low = glm::clamp(glm::floor(centre - reach) - kMarginTexels, glm::vec2(0), size);
-    const glm::vec2 high = glm::clamp(glm::ceil(centre + reach) + kMarginTexels, glm::vec2(0), size);
+    const glm::vec2 low = glm::clamp(glm::floor((centre - reach) * size) - kMarginTexels, glm::vec2(0), size);
+    const glm::vec2 high = glm::clamp(glm::ceil((centre + reach) * size) + kMarginTexels, glm::vec2(0), size);
     return {static_cast<int>(low.x), static_cast<int>(low.y), static_cast<int>(high.x - low.x),
         static_cast<int>(high.y - low.y)};
 }

@@ -26,9 +26,16 @@ public:
     /// Have the next draw() start anew: something else drew into the light depth texture.
     void invalidate() { valid = false; }
 
+    /// Return whether anything but ground and sky may have cast its shadow into a box. The corners in coordinates that
+    /// the transform leads from to the world's.
+    bool mayReach(const glm::mat4& toWorld, const glm::vec3& min, const glm::vec3& max) const;
+
 private:
     struct Rect {
         int x = 0, y = 0, width = 0, height = 0; ///< texels
+
+        bool contains(const Rect& other) const;
+        bool touches(const Rect& other) const;
     };
 
     /// What a static caster looked like when it was drawn.
@@ -43,7 +50,8 @@ private:
     void restore(const Rect& rect) const;
     Rect wholeTexture() const;
     std::vector<Rect> coveredBy(const std::vector<Model*>& models) const;
-    Rect coveredBy(const Model& model) const; ///< of known bounds
+    Rect coveredBy(const Model& model) const;                               ///< of known bounds
+    Rect rectAround(const glm::vec2& centre, const glm::vec2& reach) const; ///< both 0 to 1 across the texture
     void target(const Framebuffer& framebuffer) const;
 
     const TargetTexture& lightTexture;
@@ -51,7 +59,8 @@ private:
     TargetTexture staticTexture;
     Framebuffer staticFramebuffer;
     std::vector<Snapshot> drawnStatic;
-    unsigned drawnWith = 0; // version of the depth program
-    std::vector<Rect> touched;
+    unsigned drawnWith = 0;        // version of the depth program
+    std::vector<Rect> stillThings; // where they are drawn
+    std::vector<Rect> touched;     // by what moves
     bool valid = false;
 };

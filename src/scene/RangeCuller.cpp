@@ -4,25 +4,29 @@
 #include "scene/Mesh.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <utility>
 
 namespace {
 
-/// Return whether all corners of the box lie outside the same plane of the view.
-bool isOutside(const glm::vec3& min, const glm::vec3& max, const glm::mat4& toClip)
+/// The planes that bound a view: the dot product with (x, y, z, 1) is negative outside.
+using Planes = std::array<glm::vec4, 6>;
+
+Planes planesOf(const glm::mat4& toClip)
 {
-    int below[3] = {}, above[3] = {};
-    for (int corner = 0; corner < 8; ++corner) {
-        const glm::vec3 point(corner & 1 ? max.x : min.x, corner & 2 ? max.y : min.y, corner & 4 ? max.z : min.z);
-        const glm::vec4 clip = toClip * glm::vec4(point, 1.0f);
-        for (int axis = 0; axis < 3; ++axis) {
-            below[axis] += clip[axis] < -clip.w;
-            above[axis] += clip[axis] > clip.w;
-        }
-    }
-    return std::any_of(below, below + 3, [](int n) { return n == 8; }) ||
-        std::any_of(above, above + 3, [](int n) { return n == 8; });
+    const glm::mat4 rows = glm::transpose(toClip);
+    return {rows[3] + rows[0], rows[3] - rows[0], rows[3] + rows[1], rows[3] - rows[1], rows[3] + rows[2],
+        rows[3] - rows[2]};
+}
+
+/// Return whether all of the box lies outside the same plane.
+bool isOutside(const glm::vec3& min, const glm::vec3& max, const Planes& planes)
+{
+    return std::ranges::any_of(planes, [&](const glm::vec4& plane) {
+        const glm::vec3 innermost = glm::mix(min, max, glm::greaterThan(glm::vec3(plane), glm::vec3(0)));
+        return glm::dot(plane, glm::vec4(innermost, 1)) < 0;
+    });
 }
 
 } // namespace
@@ -42,17 +46,19 @@ RangeCuller::RangeCuller(const Mesh& mesh, unsigned indicesPerRun)
     }
 }
 
-std::vector<IndexRange> RangeCuller::visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const
+std::vector<const RangeCuller::Run*> RangeCuller::visible(const glm::mat4& toClip, const glm::vec3& eye, float from,
+    float to) const
 {
+    const Planes planes = planesOf(toClip);
     std::vector<std::pair<float, const Run*>> found;
     for (const Run& run : runs) {
         const float distance = glm::distance(glm::clamp(eye, run.min, run.max), eye);
-        if (distance < from || distance >= to || isOutside(run.min, run.max, toClip)) continue;
+        if (distance < from || distance >= to || isOutside(run.min, run.max, planes)) continue;
         found.emplace_back(distance, &run);
     }
     std::ranges::stable_sort(found, {}, [](const auto& entry) { return entry.first; });
-    std::vector<IndexRange> ranges;
-    ranges.reserve(found.size());
-    for (const auto& [distance, run] : found) ranges.push_back(run->range);
-    return ranges;
+    std::vector<const Run*> result;
+    result.reserve(found.size());
+    for (const auto& [distance, run] : found) result.push_back(run);
+    return result;
 }

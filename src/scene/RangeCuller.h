@@ -23,16 +23,17 @@ public:
     /// some cells of one row of a grid.
     RangeCuller(const Mesh& mesh, unsigned indicesPerRun);
 
-    /// Return the stretches whose bounds touch the view and whose nearest point to the eye is at least `from` and less
-    /// than `to` away, nearest first, so that what they hide behind them is never shaded. toClip: the mesh's
-    /// coordinates to clip space; eye, from and to in the mesh's coordinates and units.
-    std::vector<IndexRange> visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const;
-
-private:
+    /// A stretch and the box around it, in the mesh's coordinates.
     struct Run {
         IndexRange range;
         glm::vec3 min, max;
     };
 
+    /// Return the stretches whose bounds touch the view and whose nearest point to the eye is at least `from` and less
+    /// than `to` away, nearest first, so that what they hide behind them is never shaded. toClip: the mesh's
+    /// coordinates to clip space; eye, from and to in the mesh's coordinates and units. They point into the culler.
+    std::vector<const Run*> visible(const glm::mat4& toClip, const glm::vec3& eye, float from, float to) const;
+
+private:
     std::vector<Run> runs;
 };

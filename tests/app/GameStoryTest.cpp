@@ -195,7 +195,7 @@ TEST_F(GameStory, HasAFunctionForEachOfItsKeys)
     CapturedLog log;
     Library::getInstance()->getTexture("Grass")->load("absent.tga");
     pass({GLFW_KEY_F7}, 2);
-    EXPECT_EQ(log.count("Linking program\n"), 2 * 16) << "every program, in every pass";
+    EXPECT_EQ(log.count("Linking program\n"), 2 * 17) << "every program, in every pass";
     GLint width = 0;
     glBindTexture(GL_TEXTURE_2D, Library::getInstance()->getTexture("Grass")->getHandle());
     glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);

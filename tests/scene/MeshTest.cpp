@@ -64,8 +64,9 @@ TEST(MeshTest, RangesHoldWhatAViewTouchesBetweenTwoDistances)
     for (const auto& [direction, from, to, expected] : rows) {
         const glm::mat4 toEye = glm::lookAt(eye, eye + direction, {0, 0, 1});
         const glm::mat4 toClip = glm::perspective(glm::radians(45.0f), 1.0f, 0.1f, 1000.0f) * toEye;
-        std::vector<IndexRange> ranges = culler.visible(toClip, eye, from, to);
-        for (IndexRange& range : ranges) range = {range.first / 3, range.count / 3};
+        std::vector<IndexRange> ranges;
+        for (const RangeCuller::Run* run : culler.visible(toClip, eye, from, to))
+            ranges.push_back({run->range.first / 3, run->range.count / 3});
         const auto away = [&](const IndexRange& range) { // of the run's nearest point, along the row
             const float first = static_cast<float>(range.first), end = first + static_cast<float>(range.count);
             return std::abs(std::clamp(eye.x, first, end) - eye.x);
