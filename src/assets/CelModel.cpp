@@ -17,9 +17,9 @@ void CelModel::draw()
 
     renderer->cullBackFaces();
     shader->setUniform("backface", 1.0f);
-    Model::draw();
+    drawShape();
 
     renderer->cullFrontFaces();
     shader->setUniform("backface", 0.0f);
-    Model::draw();
+    drawShape();
 }

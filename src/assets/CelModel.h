@@ -13,4 +13,7 @@ public:
 protected:
     explicit CelModel(const glm::vec4& color); ///< takes the program from the library and binds every uniform it has
     ~CelModel() = default;
+
+    /// Issue one of the two draw calls with the current program.
+    virtual void drawShape() { Model::draw(); }
 };

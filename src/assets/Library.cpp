@@ -62,4 +62,6 @@ void Library::loadModels()
     loadModel("Duck", "Models/duck.dae");
     loadModel("Partyhat", "Models/partyhat.dae");
     loadModel("Camera", "Models/camera.dae");
+    loadModel("DuckFar", "Models/duck-far.dae");
+    loadModel("DuckFarthest", "Models/duck-farthest.dae");
 }

@@ -29,7 +29,8 @@ public:
     /// reported and not registered.
     void loadModel(const std::string& name, const std::string& path);
 
-    /// Load the game's three model files: "Duck", "Partyhat", "Camera".
+    /// Load the game's model files: "Duck", "Partyhat", "Camera", and "DuckFar" and "DuckFarthest" with a half and a
+    /// quarter of the duck's triangles.
     void loadModels();
 
     // Return null when the name is not registered; then, if verbose, with a log line at level 1. The caller asks for

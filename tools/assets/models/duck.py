@@ -117,4 +117,5 @@ if __name__ == "__main__":
     model = Builder()
     for part in (tub, fittings, body, head, bill, eyes):
         part(model)
-    export(sys.argv[-1] + "/duck.dae", model, TO_FILE, HARD_EDGE)
+    for name, share in (("duck", 1.0), ("duck-far", 0.5), ("duck-farthest", 0.25)):
+        export("%s/%s.dae" % (sys.argv[-1], name), model, TO_FILE, HARD_EDGE, share)

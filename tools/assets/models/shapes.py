@@ -124,6 +124,27 @@ class Builder:
                    for point, r in ((start, radius), (end, radius if radiusEnd is None else radiusEnd))], ink=ink)
 
 
+def thinned(vertices, faces, ink, share):
+    """The mesh with that share of its triangles left: edges collapse where the shape changes least. Ink stays whole,
+    for marks are small and matter.
+    """
+    solid, marks = ([face for face, inside in zip(faces, ink) if inside == kind] for kind in (False, True))
+    mesh = bpy.data.meshes.new("thinned")
+    mesh.from_pydata(vertices, [], solid)
+    thing = bpy.data.objects.new("thinned", mesh)
+    bpy.context.collection.objects.link(thing)
+    thing.modifiers.new("thinned", "DECIMATE").ratio = (share * len(faces) - len(marks)) / len(solid)
+    mesh = thing.evaluated_get(bpy.context.evaluated_depsgraph_get()).to_mesh().copy()
+    mesh.validate() # shells that are flat by now have lost a side
+    mesh.calc_loop_triangles()
+    solid = [tuple(triangle.vertices) for triangle in mesh.loop_triangles]
+    corners = sorted({i for face in marks for i in face})
+    number = {corner: len(mesh.vertices) + n for n, corner in enumerate(corners)}
+    return ([v.co.copy() for v in mesh.vertices] + [vertices[i] for i in corners],
+            solid + [tuple(number[i] for i in face) for face in marks],
+            [False] * len(solid) + [True] * len(marks))
+
+
 def shadedNormals(mesh, smoothAngle):
     """The normal of every corner, with edges sharper than `smoothAngle` degrees left hard."""
     for polygon in mesh.polygons:
@@ -149,14 +170,16 @@ def settled(text):
                   lambda found: found[1] + " ".join("%g" % (round(float(n), 2) + 0.0) for n in found[2].split()), text)
 
 
-def export(path, builder, axes, smoothAngle):
+def export(path, builder, axes, smoothAngle, share=1.0):
     """Write the shells as one Collada mesh. `axes` (3 x 3, a rotation times a scale) leads from the building axes to
     the file's.
-    Edges sharper than `smoothAngle` degrees stay hard."""
+    Edges sharper than `smoothAngle` degrees stay hard. `share` below 1 leaves that share of the triangles."""
     faces, ink = zip(*triangles(builder))
     vertices = [axes @ v for v in builder.vertices]
 
     bpy.ops.wm.read_factory_settings(use_empty=True)
+    if share < 1:
+        vertices, faces, ink = thinned(vertices, faces, ink, share)
     draft = bpy.data.meshes.new("draft")
     draft.from_pydata(vertices, [], faces)
     if draft.validate(verbose=True):
