@@ -15,7 +15,7 @@ constexpr std::initializer_list<MeshAttribute> kAttributes{MeshAttribute::Positi
 constexpr struct {
     const char* mesh;
     float pixels;
-} kCoarseMeshes[] = {{"DuckFarthest", 75}, {"DuckFar", 170}};
+} kCoarseMeshes[] = {{"DuckFarthest", 80}, {"DuckFar", 165}};
 
 } // namespace
 
@@ -32,6 +32,12 @@ DriverModel::DriverModel(const glm::vec4& color) : CelModel(color)
         if (const Mesh* mesh = Library::getInstance()->getMesh(meshName, false))
             coarse.emplace_back(shader, *mesh, pixels);
     }
+}
+
+const Model& DriverModel::getShadowShape() const
+{
+    if (coarse.empty() || !coarse.front().hasGeometry()) return *this;
+    return coarse.front();
 }
 
 void DriverModel::drawShape()

@@ -6,12 +6,13 @@
 
 /// The duck at the wheel: the library's mesh "Duck" in the colour of its player. Nothing is drawn when the mesh is
 /// missing. Where it is seen small, the meshes "DuckFar" and "DuckFarthest" take its place, as far as they are there:
-/// triangles smaller than pixels cost as much as large ones.
+/// triangles smaller than pixels cost as much as large ones. The coarsest casts the shadow, whose texels are coarser still.
 class DriverModel final : public CelModel {
 public:
     explicit DriverModel(const glm::vec4& color);
 
     std::string getName() const override { return "Driver"; }
+    const Model& getShadowShape() const override;
 
 protected:
     void drawShape() override;

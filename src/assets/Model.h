@@ -32,6 +32,9 @@ public:
 
     virtual std::string getName() const { return name; }
 
+    /// Return the geometry that casts the shadow: its own, or that of a simpler model in its place.
+    virtual const Model& getShadowShape() const { return *this; }
+
     /// Return whether there is a linked program, a vertex array and at least one vertex. Cheap; the answer may change
     /// with each reload of the program.
     bool isDrawable() const;

@@ -32,9 +32,10 @@ void ShadowMappingRender::draw(const std::vector<Model*>& models)
     if (!program) return;
     program->use();
     for (const Model* model : models) {
-        if (!model->hasGeometry()) continue;
+        const Model& shape = model->getShadowShape();
+        if (!shape.hasGeometry()) continue;
         program->setUniform("mvp", depthViewProjection * model->getNode()->getWorldTransform());
-        drawVertexArray(model->vao, GL_TRIANGLES, model->vertexBuffer, model->indexBuffer);
+        drawVertexArray(shape.vao, GL_TRIANGLES, shape.vertexBuffer, shape.indexBuffer);
     }
     Shaderprogram::unuse();
 }
