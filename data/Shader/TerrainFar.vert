@@ -7,15 +7,19 @@ uniform mat4 model;
 uniform mat4 view;
 uniform mat4 projection;
 uniform mat4 depthVPMatrix;
+uniform sampler2D tex_grass;
+uniform sampler2D tex_dirt;
 
 out vec3 worldPosition;
 out vec3 worldNormal;
 out vec3 shadowPosition;
+flat out float dirtLevels;
 
 void main()
 {
     worldPosition = (model * vec4(position, 1.0)).xyz;
     worldNormal = normal;
     shadowPosition = (depthVPMatrix * vec4(worldPosition, 1.0)).xyz;
+    dirtLevels = log2(float(textureSize(tex_dirt, 0).x) / float(textureSize(tex_grass, 0).x));
     gl_Position = projection * view * vec4(worldPosition, 1.0);
 }

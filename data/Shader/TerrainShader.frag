@@ -1,6 +1,7 @@
 #version 430 core
 in vec3 worldPosition;
 in vec3 worldNormal;
+flat in float dirtLevels; // that the picture of dirt has more than that of grass
 
 uniform sampler2D tex_grass;
 uniform sampler2D tex_dirt;
@@ -14,20 +15,16 @@ const float kOuterRing = 84.0;    // world units: radius of the one on the way t
 const float kRingHalfWidth = 2.6; // world units
 const vec3 kToLight = vec3(0.2873479, 0.9578263, 0.0);
 
-// Return the texture's colour from the nearer mip level alone: with two levels a software driver samples twice.
-vec3 nearerLevel(sampler2D picture, vec2 uv)
-{
-    return textureLod(picture, uv, round(textureQueryLod(picture, uv).y)).rgb;
-}
-
 // Return how much light gets here, 0 to 1.
 float lit();
 
 void main()
 {
     vec2 uv = worldPosition.xz * kTilesPerUnit;
-    vec3 grass = nearerLevel(tex_grass, uv);
-    vec3 dirt = nearerLevel(tex_dirt, uv);
+    // The nearer mip level alone: with two levels a software driver samples twice. Asking for it is dear, too.
+    float level = round(textureQueryLod(tex_grass, uv).y);
+    vec3 grass = textureLod(tex_grass, uv, level).rgb;
+    vec3 dirt = textureLod(tex_dirt, uv, level + dirtLevels).rgb;
 
     // Dirt where it is steep, on low ground, and where the rings are worn into the grass, whose tufts fray their edges.
     float flatness = smoothstep(0.90, 0.965, worldNormal.y);
