@@ -6,7 +6,8 @@
 
 /// The duck at the wheel: the library's mesh "Duck" in the colour of its player. Nothing is drawn when the mesh is
 /// missing. Where it is seen small, the meshes "DuckFar" and "DuckFarthest" take its place, as far as they are there:
-/// triangles smaller than pixels cost as much as large ones. The coarsest casts the shadow, whose texels are coarser still.
+/// triangles smaller than pixels cost as much as large ones. The coarsest casts the shadow, whose texels are coarser
+/// still.
 class DriverModel final : public CelModel {
 public:
     explicit DriverModel(const glm::vec4& color);
