@@ -31,7 +31,7 @@ tar xf "${archives[0]}" -C "$scratch/archive" --strip-components 1
 diff -r "$scratch/deb/usr" "$scratch/archive" || die 'The .deb and the archive differ'
 
 version=$(dpkg-deb -f "${debs[0]}" Version)
-for page in "$project_root"/{CHANGELOG.md,packaging/{changelog.Debian,quackdash.6,*.metainfo.xml}}; do
+for page in "$project_root"/{CHANGELOG.md,packaging/{changelog.Debian,quackdash.6.in,*.metainfo.xml}}; do
     grep -qF "${version%-*}" "$page" || die "$page does not name version ${version%-*}"
 done
 

@@ -12,6 +12,13 @@ Logger* Logger::getInstance()
     return instance;
 }
 
+bool Logger::openFile(const std::string& path)
+{
+    file.close();
+    file.open(path);
+    return file.is_open();
+}
+
 void Logger::setLogLevel(int newLevel)
 {
     level = newLevel >= 0 && newLevel <= 2 ? newLevel : 2;
@@ -19,9 +26,9 @@ void Logger::setLogLevel(int newLevel)
 
 Logger& Logger::operator<<(std::ostream& (*manipulator)(std::ostream&))
 {
-    console << l2s[level] << " | " << line.str();
+    console << l2s[level] << " | " << line.str() << manipulator;
+    if (file.is_open()) file << l2s[level] << " | " << line.str() << manipulator;
     line.str("");
-    console << manipulator;
     return *this;
 }
 
