@@ -41,6 +41,8 @@ strangers=$(find . -type f ! -path './share/games/quackdash/*' ! -path './share/
     ! -name '*.metainfo.xml')
 [[ -z $strangers && $(ls games) == quackdash ]] ||
     die "Files that have no business in a package: $strangers $(ls games)"
+zgrep -q 'mute' share/man/man6/quackdash.6.gz && grep -q -- --mute share/bash-completion/completions/quackdash ||
+    die 'Manual and completion do not name the options'
 [[ $(readelf -S games/quackdash) != *.symtab* ]] || die 'The program is not stripped'
 for owner in 'Quackdash developers' 'NVIDIA Corporation'; do
     grep -q "^[C ].* [0-9]\{4\} $owner" share/doc/quackdash/copyright || die "The copyright file does not name $owner"

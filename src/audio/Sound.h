@@ -10,8 +10,8 @@
 /// does nothing that is heard.
 class Sound final : public ISound {
 public:
-    /// Load the file. On failure log "Error, initializing Sound: " with the name. gain: a factor of every volume that it
-    /// is played at.
+    /// Load the file. On failure log "Error, initializing Sound: " with the name. gain: a factor of every volume that
+    /// it is played at.
     Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file, float ownGain = 1.0f);
 
     /// Forget the sound; what is playing of it goes on.

@@ -9,7 +9,7 @@ struct SoundOptions {
     int effectsVolume = 100; ///< of everything but the music
     bool mute = false;       ///< no output is opened at all
     bool muteUnfocused = false;
-    std::string device; ///< as soundDeviceNames() has it; empty for the system's own choice
+    std::string device = {}; ///< as soundDeviceNames() has it; empty for the system's own choice
 };
 
 /// Return the factor for samples of a volume. Ears go by ratios: every step changes the level by the same half decibel.

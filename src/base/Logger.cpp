@@ -12,13 +12,6 @@ Logger* Logger::getInstance()
     return instance;
 }
 
-bool Logger::openFile(const std::string& path)
-{
-    file.close();
-    file.open(path);
-    return file.is_open();
-}
-
 void Logger::setLogLevel(int newLevel)
 {
     level = newLevel >= 0 && newLevel <= 2 ? newLevel : 2;
@@ -26,9 +19,9 @@ void Logger::setLogLevel(int newLevel)
 
 Logger& Logger::operator<<(std::ostream& (*manipulator)(std::ostream&))
 {
-    console << l2s[level] << " | " << line.str() << manipulator;
-    if (file.is_open()) file << l2s[level] << " | " << line.str() << manipulator;
+    console << l2s[level] << " | " << line.str();
     line.str("");
+    console << manipulator;
     return *this;
 }
 

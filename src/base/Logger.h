@@ -1,12 +1,11 @@
 #pragma once
 
-#include <fstream>
 #include <ostream>
 #include <sstream>
 #include <string>
 
-/// Reports progress, warnings and failures, one line of text each, on standard output and, once it has one, in a file.
-/// There is one, which lives until the process ends; main thread only.
+/// Reports progress, warnings and failures, one line of text each, on standard output. There is one, which lives until
+/// the process ends; main thread only.
 ///
 /// A message is one statement: set the level, insert the parts, end with std::endl:
 ///     logLine(2) << "Enter " << name << std::endl;
@@ -16,10 +15,6 @@ public:
 
     /// Set the severity of the lines from the next one on: 0 "ERROR", 1 "WARNING", 2 "DEBUG". Others count as 2.
     void setLogLevel(int newLevel);
-
-    /// Write the lines from the next one on to this file too, in place of what it held. Return false when it cannot be
-    /// written.
-    [[nodiscard]] bool openFile(const std::string& path);
 
     /// Append a value, in the default format of streams, to the line that is being built.
     template <class T>
@@ -36,7 +31,6 @@ private:
     Logger();
 
     std::ostream console;
-    std::ofstream file;
     std::stringstream line;
     int level = 2;
     static const char* const l2s[3];

@@ -90,7 +90,7 @@ std::vector<Option> makeTable()
         {"Start", "data", 0, dataFolder({&Options::program, &Program::dataFolder}),
             "where shaders, pictures, models and sounds are"},
         {"Start", "log-file", 0, file({&Options::program, &Program::logFile}, "auto"),
-            "write the log there too; auto: among the user's own files"},
+            "write the log there, not on the console; auto: among the user's own files"},
 
         {"", "print-manual", 0, request(Request::PrintManual), ""},
         {"", "print-completion", 0, request(Request::PrintCompletion), ""},

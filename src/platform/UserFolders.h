@@ -9,6 +9,6 @@ enum class UserFolder {
     State,    ///< $XDG_STATE_HOME, or ~/.local/state: logs
 };
 
-/// Return where the game's own file of that name belongs; empty when the user has neither the folder nor a home. Nothing
-/// is made.
+/// Return where the game's own file of that name belongs; empty when the user has neither the folder nor a home.
+/// Nothing is made.
 std::filesystem::path userFile(UserFolder folder, const std::string& name);

@@ -8,6 +8,9 @@
 #include "program/Information.h"
 #include "program/SettingsFile.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cstdlib>
 #include <iostream>
 #include <random>
@@ -18,9 +21,10 @@ namespace {
 
 constexpr int kUsageError = 2; // exit status
 
-/// Have the log written to a file too, if one was asked for.
+/// Send what would be seen on the console to a file, if one was asked for: the log, and what libraries and drivers say.
 void openLog(const std::string& asked)
 {
+    constexpr int kMode = 0644; // what the user's mask leaves of it
     if (asked.empty()) return;
     std::error_code error;
     fs::path file = asked;
@@ -28,7 +32,14 @@ void openLog(const std::string& asked)
         file = userFile(UserFolder::State, "log.txt");
         fs::create_directories(file.parent_path(), error);
     }
-    if (!Logger::getInstance()->openFile(file)) logLine(1) << "Cannot write the log file " << asked << std::endl;
+    const int opened = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kMode);
+    if (opened < 0) {
+        logLine(1) << "Cannot write the log file " << file.string() << std::endl;
+        return;
+    }
+    dup2(opened, STDOUT_FILENO);
+    dup2(opened, STDERR_FILENO);
+    close(opened);
 }
 
 /// Make the places of respawn those of a seed. The C library's own first seed is 1.
