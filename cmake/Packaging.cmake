@@ -2,7 +2,6 @@
 # target `package`. The program looks for its data in share/games/quackdash next to its own folder
 # (platform/DataFolder), wherever both are put.
 include(GNUInstallDirs)
-find_program(GZIP_PROGRAM gzip REQUIRED)
 
 set(QUACKDASH_APP_ID org.quackdash.Quackdash)
 set(CPACK_PACKAGE_CONTACT "Quackdash developers <developers@quackdash.example>")
@@ -45,7 +44,9 @@ foreach(size 32 48 64 128 256)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps)
 endforeach()
 install(FILES ${CMAKE_BINARY_DIR}/packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
-quackdash_install_gzipped(${CMAKE_SOURCE_DIR}/packaging/quackdash.6 quackdash.6.gz ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${CMAKE_BINARY_DIR}/packaging/quackdash.6.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${CMAKE_BINARY_DIR}/packaging/completion/quackdash
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 quackdash_install_gzipped(${CMAKE_SOURCE_DIR}/CHANGELOG.md changelog.gz ${CMAKE_INSTALL_DOCDIR})
 quackdash_install_gzipped(${CMAKE_SOURCE_DIR}/packaging/changelog.Debian changelog.Debian.gz ${CMAKE_INSTALL_DOCDIR})
 

@@ -31,7 +31,7 @@ tar xf "${archives[0]}" -C "$scratch/archive" --strip-components 1
 diff -r "$scratch/deb/usr" "$scratch/archive" || die 'The .deb and the archive differ'
 
 version=$(dpkg-deb -f "${debs[0]}" Version)
-for page in "$project_root"/{CHANGELOG.md,packaging/{changelog.Debian,quackdash.6,*.metainfo.xml}}; do
+for page in "$project_root"/{CHANGELOG.md,packaging/{changelog.Debian,quackdash.6.in,*.metainfo.xml}}; do
     grep -qF "${version%-*}" "$page" || die "$page does not name version ${version%-*}"
 done
 
@@ -41,6 +41,8 @@ strangers=$(find . -type f ! -path './share/games/quackdash/*' ! -path './share/
     ! -name '*.metainfo.xml')
 [[ -z $strangers && $(ls games) == quackdash ]] ||
     die "Files that have no business in a package: $strangers $(ls games)"
+zgrep -q 'mute' share/man/man6/quackdash.6.gz && grep -q -- --mute share/bash-completion/completions/quackdash ||
+    die 'Manual and completion do not name the options'
 [[ $(readelf -S games/quackdash) != *.symtab* ]] || die 'The program is not stripped'
 for owner in 'Quackdash developers' 'NVIDIA Corporation'; do
     grep -q "^[C ].* [0-9]\{4\} $owner" share/doc/quackdash/copyright || die "The copyright file does not name $owner"

@@ -43,7 +43,7 @@ for command in "${commands[@]}"; do
     # shellcheck disable=SC2088  # the tilde is for the command to expand
     case $command in
         ./test.sh) grep -qx '\./test\.sh' .ci/run || die 'CI does not run it' ;;
-        ./play.sh | build/release/quackdash) play "$(on_display "$command")" ;;
+        ./play.sh* | build/release/quackdash) play "$(on_display "$command")" ;;
         'xvfb-run '*./play.sh) play "$command" ;;
         'tar xf '*) HOME=$scratch bash -c "$command" ;;
         '~/quackdash-'*) HOME=$scratch play "$(on_display "$command")" ;;

@@ -76,6 +76,12 @@ void VirtualDisplay::closeWindow()
     XFlush(connection);
 }
 
+void VirtualDisplay::takeKeysAway()
+{
+    XSetInputFocus(connection, None, RevertToNone, CurrentTime);
+    XFlush(connection);
+}
+
 Picture VirtualDisplay::look(const ScreenArea& region) const
 {
     XImage* image = XGetImage(connection, windowId, region.x, region.y, static_cast<unsigned>(region.width),

@@ -34,6 +34,9 @@ public:
     /// Ask the window to close, as the button in its title bar would.
     void closeWindow();
 
+    /// Have keys go nowhere, as if another window had them, until the window takes them again.
+    void takeKeysAway();
+
     Picture look() const { return look(window); }
     Picture look(const ScreenArea& region) const; ///< region of the window
 

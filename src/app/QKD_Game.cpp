@@ -21,10 +21,13 @@ constexpr double kRankingLogInterval = 3000; // milliseconds
 constexpr float kMusicVolume = 1.0f;
 }
 
-QKD_Game::QKD_Game() : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer())) {}
+QKD_Game::QKD_Game(const GameOptions& ownOptions)
+    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer()), ownOptions)
+{
+}
 
-QKD_Game::QKD_Game(std::unique_ptr<IPresentation> ownPresentation)
-    : renderer(*getCore()->getRenderer()), presentation(std::move(ownPresentation))
+QKD_Game::QKD_Game(std::unique_ptr<IPresentation> ownPresentation, const GameOptions& ownOptions)
+    : options(ownOptions), renderer(*getCore()->getRenderer()), presentation(std::move(ownPresentation))
 {
 }
 
@@ -63,6 +66,7 @@ void QKD_Game::init()
     scenery->addHats(getMatch().getHats());
     bindFunctionKeys();
     lastRankingLog = FrameTimer::getInstance()->getTimeMs();
+    registerState->admit(options.start);
 }
 
 void QKD_Game::createWorld()
@@ -102,7 +106,10 @@ void QKD_Game::startSound()
 {
     std::vector<std::pair<std::string, std::string>> sounds;
     for (const Asset& sound : soundAssets()) sounds.emplace_back(sound.name, sound.file);
-    AudioSystem::getInstance()->init(sounds);
+    AudioSystem* const audio = AudioSystem::getInstance();
+    audio->init(sounds, options.sound);
+    if (options.sound.muteUnfocused)
+        renderer.getWindow().watchFocus([audio](bool focused) { audio->setHeard(focused); });
     presentation->playSound("musik", true, kMusicVolume);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/FunctionKeys.h"
 #include "app/Game.h"
+#include "app/GameOptions.h"
 #include "app/Scenery.h"
 #include "match/MatchWorld.h"
 
@@ -16,10 +17,11 @@ class Renderer;
 /// the current state's work: physics, sounds, function keys, the ranking in the log.
 class QKD_Game : public Game {
 public:
-    QKD_Game(); ///< seen and heard by way of the renderer and the audio system
+    /// Seen and heard by way of the renderer and the audio system.
+    explicit QKD_Game(const GameOptions& options = {});
 
     /// Seen and heard by way of another presentation.
-    explicit QKD_Game(std::unique_ptr<IPresentation> presentation);
+    explicit QKD_Game(std::unique_ptr<IPresentation> presentation, const GameOptions& options = {});
 
     ~QKD_Game();
 
@@ -50,6 +52,7 @@ private:
     void showHelp();
     void logRanking();
 
+    const GameOptions options;
     Renderer& renderer;
     FunctionKeys functionKeys;
     std::unique_ptr<IPresentation> presentation;

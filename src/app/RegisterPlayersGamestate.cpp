@@ -67,6 +67,14 @@ void RegisterPlayersGamestate::update()
     if (registration.shouldStart()) game.getCore()->getStateManager()->changeState("PlayGamestate");
 }
 
+void RegisterPlayersGamestate::admit(const StartOptions& start)
+{
+    registration.admit(start);
+    if (!start.atOnce) return;
+    if (registration.mayStart()) game.getCore()->getStateManager()->changeState("PlayGamestate");
+    else logLine(1) << "Not started at once: that takes two, and one of them with a device" << std::endl;
+}
+
 void RegisterPlayersGamestate::drawText(TextRenderer* text)
 {
     writeHelp(*text, kHelp);

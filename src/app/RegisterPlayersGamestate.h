@@ -13,6 +13,10 @@ public:
     /// Add the node "PanoramaCamera" to the game's scene.
     RegisterPlayersGamestate(const std::string& stateName, QKD_Game& game);
 
+    /// Have those join who need not press anything; with start.atOnce, go on to the match, unless (with a log line) too
+    /// few take part. Once, when world and sounds are there.
+    void admit(const StartOptions& start);
+
     void enter() override;
     void leave() override;
     void update() override;

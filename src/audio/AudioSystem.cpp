@@ -7,6 +7,7 @@
 namespace {
 
 constexpr std::size_t kChannels = 32; // sounds at once
+constexpr const char* kMusic = "musik";
 
 AudioSystem* createForProcess()
 {
@@ -23,9 +24,14 @@ AudioSystem* AudioSystem::getInstance()
     return instance;
 }
 
-void AudioSystem::init(const std::vector<std::pair<std::string, std::string>>& files)
+void AudioSystem::init(const std::vector<std::pair<std::string, std::string>>& files, const SoundOptions& options)
 {
-    if (!system.open(kChannels)) logLine(0) << "Error, initializing Audiosystem!" << std::endl;
+    masterGain = gainOf(options.volume);
+    musicGain = gainOf(options.musicVolume);
+    effectsGain = gainOf(options.effectsVolume);
+    if (!options.mute && !system.open(kChannels, options.device))
+        logLine(0) << "Error, initializing Audiosystem!" << std::endl;
+    setHeard(true);
     for (const auto& [name, file] : files) addSound(name, file);
 }
 
@@ -36,7 +42,7 @@ void AudioSystem::addSound(const std::string& name, const std::string& file)
 
 std::unique_ptr<Sound> AudioSystem::createSound(const std::string& name, const std::string& file)
 {
-    return std::make_unique<Sound>(&system, name, file);
+    return std::make_unique<Sound>(&system, name, file, name == kMusic ? musicGain : effectsGain);
 }
 
 void AudioSystem::play(const std::string& name, bool loop, float volume)

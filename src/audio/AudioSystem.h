@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/Sound.h"
+#include "audio/SoundOptions.h"
 #include "audio/SoundOutput.h"
 
 #include <map>
@@ -21,7 +22,7 @@ public:
     explicit AudioSystem(SoundTarget target) : system(target) {}
 
     /// Open the output and load the sounds, given as pairs of name and file.
-    void init(const std::vector<std::pair<std::string, std::string>>& files);
+    void init(const std::vector<std::pair<std::string, std::string>>& files, const SoundOptions& options = {});
 
     /// Load a sound under a name, in place of the one that had it.
     void addSound(const std::string& name, const std::string& file);
@@ -34,9 +35,15 @@ public:
 
     void update();
 
+    /// Go on in silence, or be heard again.
+    void setHeard(bool heard) { system.setGain(heard ? masterGain : 0.0f); }
+
     SoundOutput& getOutput() { return system; }
 
 private:
     SoundOutput system;
+    float masterGain = 1.0f;
+    float musicGain = 1.0f;
+    float effectsGain = 1.0f;
     std::map<std::string, std::unique_ptr<Sound>> sounds;
 };

@@ -15,8 +15,8 @@ constexpr double kPitchUnit = 44100.0;    // hertz
 
 } // namespace
 
-Sound::Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file)
-    : system(ownSystem), name(ownName), data(SoundData::load(file))
+Sound::Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file, float ownGain)
+    : system(ownSystem), name(ownName), gain(ownGain), data(SoundData::load(file))
 {
     if (!data) logLine(0) << "Error, initializing Sound: " << name << std::endl;
 }
@@ -27,7 +27,7 @@ void Sound::play(bool loop, float volume)
         logLine(0) << "Error, looping sound: " << name << std::endl;
     } else if (!(volume >= 0)) { // no number either
         logLine(0) << "Error, setting sound-volume: " << name << std::endl;
-    } else if (!system->play(data, loop, volume, channel)) {
+    } else if (!system->play(data, loop, volume * gain, channel)) {
         logLine(0) << "Error, playing sound: " << name << std::endl;
     } else {
         updateSystem();

@@ -10,8 +10,9 @@
 /// does nothing that is heard.
 class Sound final : public ISound {
 public:
-    /// Load the file. On failure log "Error, initializing Sound: " with the name.
-    Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file);
+    /// Load the file. On failure log "Error, initializing Sound: " with the name. gain: a factor of every volume that
+    /// it is played at.
+    Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file, float ownGain = 1.0f);
 
     /// Forget the sound; what is playing of it goes on.
     ~Sound() override = default;
@@ -26,6 +27,7 @@ private:
 
     SoundOutput* system;
     std::string name;
+    float gain;
     std::shared_ptr<const SoundData> data; ///< null: the file could not be loaded
     SoundChannel channel;
     float pitch = 0.0f;

@@ -24,10 +24,10 @@ std::array<ALCint, 7> attributesFor(SoundTarget target)
 
 } // namespace
 
-std::unique_ptr<SoundDevice> SoundDevice::open(SoundTarget target)
+std::unique_ptr<SoundDevice> SoundDevice::open(SoundTarget target, const std::string& name)
 {
-    ALCdevice* const opened =
-        target == SoundTarget::Speakers ? alcOpenDevice(nullptr) : alcLoopbackOpenDeviceSOFT(nullptr);
+    ALCdevice* const opened = target == SoundTarget::Speakers ? alcOpenDevice(name.empty() ? nullptr : name.c_str())
+                                                              : alcLoopbackOpenDeviceSOFT(nullptr);
     if (!opened) return nullptr;
 
     std::unique_ptr<SoundDevice> device(new SoundDevice(opened));
@@ -55,4 +55,19 @@ bool SoundDevice::isConnected() const
 void SoundDevice::render(float* samples, int frames)
 {
     alcRenderSamplesSOFT(device, samples, frames);
+}
+
+std::vector<std::string> soundDeviceNames()
+{
+    std::vector<std::string> names;
+    const ALCchar* name = alcGetString(nullptr, ALC_ALL_DEVICES_SPECIFIER);
+    for (; name && *name; name += names.back().size() + 1) names.emplace_back(name);
+    return names;
+}
+
+std::string soundLibraryVersion()
+{
+    const std::unique_ptr<SoundDevice> silent = SoundDevice::open(SoundTarget::Loopback); // only a context knows
+    const ALchar* const version = silent ? alGetString(AL_VERSION) : nullptr;
+    return version ? version : "unknown";
 }

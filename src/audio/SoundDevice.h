@@ -3,6 +3,8 @@
 #include <AL/alc.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 enum class SoundTarget;
 
@@ -10,8 +12,9 @@ enum class SoundTarget;
 /// process's one current context is that of the device opened last, so there is one at a time.
 class SoundDevice {
 public:
-    /// Open a device and make its context current. Null when there is none.
-    static std::unique_ptr<SoundDevice> open(SoundTarget target);
+    /// Open a device, of the loudspeakers the one of that name, or with an empty one the system's own choice, and make
+    /// its context current. Null when there is none.
+    static std::unique_ptr<SoundDevice> open(SoundTarget target, const std::string& name = "");
 
     ~SoundDevice();
     SoundDevice(const SoundDevice&) = delete;
@@ -29,3 +32,9 @@ private:
     ALCdevice* device;
     ALCcontext* context = nullptr;
 };
+
+/// Return the names of the machine's loudspeakers and the like, the system's own choice first.
+std::vector<std::string> soundDeviceNames();
+
+/// Return the sound library's name and version, as it tells them itself.
+std::string soundLibraryVersion();

@@ -15,11 +15,19 @@ SoundOutput::~SoundOutput()
     close();
 }
 
-bool SoundOutput::open(std::size_t channelCount)
+bool SoundOutput::open(std::size_t channelCount, const std::string& deviceName)
 {
     channelLimit = channelCount;
+    device = SoundDevice::open(target, deviceName);
+    if (device || deviceName.empty()) return device != nullptr;
+    logLine(1) << "There is no sound device " << deviceName << "; taking the default one" << std::endl;
     device = SoundDevice::open(target);
     return device != nullptr;
+}
+
+void SoundOutput::setGain(float gain)
+{
+    if (device) alListenerf(AL_GAIN, gain);
 }
 
 bool SoundOutput::play(const std::shared_ptr<const SoundData>& sound, bool loop, float volume, SoundChannel& channel)

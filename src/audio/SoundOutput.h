@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <vector>
 
 class SoundData;
@@ -27,8 +28,12 @@ public:
     SoundOutput(const SoundOutput&) = delete;
     SoundOutput& operator=(const SoundOutput&) = delete;
 
-    /// Open the device, for so many sounds at once. False when there is none.
-    [[nodiscard]] bool open(std::size_t channelCount);
+    /// Open the device, for so many sounds at once: the one of that name, or else (for a name that is not empty, with a
+    /// log line) the system's own choice. False when there is none.
+    [[nodiscard]] bool open(std::size_t channelCount, const std::string& deviceName = "");
+
+    /// Set a factor of everything that is heard, 0 to 1.
+    void setGain(float gain);
 
     /// Start a sound on a channel of its own; volume 0 to 1, linear, more counts as 1. When all are taken the oldest
     /// one that does not loop gives way. False when all loop, or the sound library refuses.

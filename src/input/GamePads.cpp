@@ -82,6 +82,17 @@ GamePads& gamePads()
     return pads;
 }
 
+std::vector<std::string> gamePadNames()
+{
+    std::vector<std::string> names;
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    if (SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) != 0) return names;
+    for (int index = 0; index < SDL_NumJoysticks(); ++index)
+        if (SDL_IsGameController(index)) names.push_back(textOf(SDL_GameControllerNameForIndex(index)));
+    SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
+    return names;
+}
+
 void GamePads::Closer::operator()(_SDL_GameController* handle) const
 {
     SDL_GameControllerClose(handle);

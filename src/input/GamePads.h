@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 struct _SDL_GameController;
@@ -76,6 +77,10 @@ private:
     GamePadSlots slots;
     std::array<GamePadState, kSlotCount> states;
 };
+
+/// Return the names of the game-pads that are plugged in, in the order in which they get slots. Call it while there are
+/// no GamePads that run.
+std::vector<std::string> gamePadNames();
 
 /// Return the game's own, created on first use and closed when the program ends, which also stops motors that still
 /// run.

@@ -26,11 +26,22 @@ void PlayerRegistration::update()
     readSpaceBar();
 }
 
+void PlayerRegistration::admit(const StartOptions& start)
+{
+    for (const JoinDevice device : start.join) join(slots.at(static_cast<std::size_t>(device)));
+    for (int i = 0; i < start.computerPlayers; ++i) addComputerPlayer();
+}
+
+void PlayerRegistration::addComputerPlayer()
+{
+    if (match.computerPlayerCount() < kMaxComputerPlayers) match.addComputerPlayer();
+}
+
 void PlayerRegistration::readSpaceBar()
 {
     if (isKeyDown(GLFW_KEY_SPACE) && !spaceHeld) {
         spaceHeld = true;
-        if (match.computerPlayerCount() < kMaxComputerPlayers) match.addComputerPlayer();
+        addComputerPlayer();
     }
     if (!isKeyDown(GLFW_KEY_SPACE)) spaceHeld = false; // read again: a tap that is over by now leaves nothing held
 }
@@ -57,9 +68,13 @@ void PlayerRegistration::join(Slot& slot)
 
 bool PlayerRegistration::shouldStart() const
 {
-    constexpr int kMinParticipants = 2;
-    const int participants = match.getActorCount();
-    if (participants == kMaxParticipants) return true;
-    return participants >= kMinParticipants &&
+    if (match.getActorCount() == kMaxParticipants) return true;
+    return mayStart() &&
         std::any_of(slots.begin(), slots.end(), [](const Slot& slot) { return slot.registered && slot.startPressed; });
+}
+
+bool PlayerRegistration::mayStart() const
+{
+    constexpr int kMinParticipants = 2;
+    return match.getActorCount() >= kMinParticipants && match.getHumanPlayerCount() > 0;
 }

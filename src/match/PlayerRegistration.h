@@ -1,6 +1,7 @@
 #pragma once
 
 #include "input/InputDevice.h"
+#include "match/StartOptions.h"
 
 #include <array>
 #include <memory>
@@ -18,6 +19,9 @@ public:
     /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
     explicit PlayerRegistration(Match& match);
 
+    /// Have those join who need not press anything: the devices in their order, then the computer players.
+    void admit(const StartOptions& start);
+
     /// Note that the registration screen is shown anew: a space bar that is held counts as pressed once more.
     void restart() { spaceHeld = false; }
 
@@ -29,6 +33,9 @@ public:
     /// holds its start button.
     bool shouldStart() const;
 
+    /// Return whether somebody could start the match: at least two take part, and one of them is a person.
+    bool mayStart() const;
+
 private:
     struct Slot {
         std::unique_ptr<InputDevice> device;
@@ -38,6 +45,7 @@ private:
 
     void readDevices();
     void join(Slot& slot);
+    void addComputerPlayer();
     void readSpaceBar();
 
     Match& match;

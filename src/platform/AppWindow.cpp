@@ -39,6 +39,16 @@ void AppWindow::place(int x, int y)
     glfwSetWindowPos(window, x, y);
 }
 
+void AppWindow::watchFocus(std::function<void(bool)> changed)
+{
+    focusChanged = std::move(changed);
+    glfwSetWindowUserPointer(window, this);
+    glfwSetWindowFocusCallback(window, [](GLFWwindow* of, int focused) {
+        static_cast<AppWindow*>(glfwGetWindowUserPointer(of))->focusChanged(focused == GLFW_TRUE);
+    });
+    focusChanged(glfwGetWindowAttrib(window, GLFW_FOCUSED) == GLFW_TRUE);
+}
+
 bool AppWindow::isOpen() const
 {
     return window && !glfwWindowShouldClose(window);

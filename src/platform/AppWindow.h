@@ -3,6 +3,8 @@
 #include "base/FrameTimer.h"
 #include "platform/Keyboard.h"
 
+#include <functional>
+
 struct GLFWwindow;
 
 /// The application's one window with its OpenGL 4.3 core debug context, by GLFW 3; also the program's clock and
@@ -21,6 +23,9 @@ public:
 
     /// Switch vertical synchronisation off, and put the open window's upper-left corner there on the screen.
     void place(int x, int y);
+
+    /// Call this with whether the window has the keys: now, and whenever that changes. From open() on.
+    void watchFocus(std::function<void(bool)> changed);
 
     bool isOpen() const;
     void swapBuffers(); ///< show the picture drawn, and take in the events that came meanwhile
@@ -46,4 +51,5 @@ public:
 
 private:
     GLFWwindow* window = nullptr;
+    std::function<void(bool)> focusChanged;
 };

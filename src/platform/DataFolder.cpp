@@ -9,12 +9,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool holdsData(const fs::path& folder)
-{
-    std::error_code error;
-    return fs::is_directory(folder / "Shader", error) && fs::is_directory(folder / "Textures", error);
-}
-
 // Return where data may lie, seen from the folder of the running program: the installed layout first, then a build's.
 std::vector<fs::path> candidates()
 {
@@ -27,15 +21,31 @@ std::vector<fs::path> candidates()
 
 } // namespace
 
-bool enterDataFolder()
+bool holdsData(const fs::path& folder)
 {
-    if (holdsData(".")) return true;
-    for (const fs::path& folder : candidates()) {
-        std::error_code error;
-        if (!holdsData(folder)) continue;
-        fs::current_path(folder, error);
-        if (!error) return true;
+    std::error_code error;
+    return fs::is_directory(folder / "Shader", error) && fs::is_directory(folder / "Textures", error);
+}
+
+fs::path findDataFolder(const fs::path& given)
+{
+    std::error_code error;
+    std::vector<fs::path> folders{given};
+    if (given.empty()) {
+        folders = candidates();
+        folders.insert(folders.begin(), ".");
     }
+    for (const fs::path& folder : folders)
+        if (holdsData(folder)) return fs::canonical(folder, error);
+    return {};
+}
+
+bool enterDataFolder(const fs::path& given)
+{
+    std::error_code error;
+    const fs::path folder = findDataFolder(given);
+    if (!folder.empty()) fs::current_path(folder, error);
+    if (!folder.empty() && !error) return true;
     logLine(0) << "no data folder found: neither the working directory nor a folder beside the program holds Shader "
                   "and Textures"
                << std::endl;

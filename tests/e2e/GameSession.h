@@ -8,6 +8,7 @@
 #include <memory>
 #include <regex>
 #include <string>
+#include <vector>
 
 /// The built program on a virtual display of its own, over a scratch copy of the data folder, which is also the test's
 /// working directory: spoil files there before a start. Runs may follow one another. For waits see ChildProcess.
@@ -17,19 +18,29 @@ public:
 
     GameSession() { data.copyGameData(); }
 
-    /// Start the program with these variables beside the test's own, without waiting.
-    void launch(const Environment& environment)
+    /// Start the program with these variables beside the test's own, and these arguments, without waiting. Its user has
+    /// no settings but those that the test puts into the folder quackdash.
+    void launch(Environment environment, std::vector<std::string> arguments = {})
     {
+        environment.insert({{"XDG_CONFIG_HOME", data.path()}, {"XDG_STATE_HOME", data.path()}});
+        arguments.insert(arguments.begin(), QUACKDASH_PROGRAM);
         const std::filesystem::path log = data.path() / "log.txt";
-        process.reset(new ChildProcess({.command = {QUACKDASH_PROGRAM}, .output = log, .environment = environment}));
+        process.reset(new ChildProcess({.command = arguments, .output = log, .environment = environment}));
+    }
+
+    /// Start the program with these arguments, away from any display, and return its exit status.
+    int ask(const std::vector<std::string>& arguments)
+    {
+        launch({{"ALSOFT_DRIVERS", "null"}}, arguments);
+        return process->waitForExit();
     }
 
     /// Start the program and wait until it has come to the registration and has its window.
-    void start(Environment environment = {})
+    void start(Environment environment = {}, const std::vector<std::string>& arguments = {})
     {
         // Sound goes nowhere: the same run, and the same log, on machines with and without a sound device.
         environment.insert({{"DISPLAY", display.getName()}, {"ALSOFT_DRIVERS", "null"}});
-        launch(environment);
+        launch(environment, arguments);
         process->waitForOutput("Enter RegisterPlayersGamestate");
         process->waitFor("a window", [this] { return display.findWindow("Quackdash"); });
     }

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "options/OptionValue.h"
+
+#include <string>
+#include <vector>
+
+/// One thing that can be set: a row of the table.
+struct Option {
+    std::string group; ///< the heading that it stands under; empty: it is not shown to people
+    std::string name;  ///< --name on the command line, name in the settings file
+    char letter;       ///< -x, or 0
+    OptionValue value;
+    std::string help; ///< one line, without what is expected and the default, which come from the value
+
+    /// Return how it is given on the command line, as in "-h, --help", "--[no-]mute" or "--volume N".
+    std::string usage() const;
+
+    /// Return the help, what is expected and the default.
+    std::string description() const;
+};
+
+/// Every option, group by group, in the order of help and manual.
+const std::vector<Option>& optionTable();
+
+/// Return the option of that name, without dashes; null when there is none.
+const Option* findOption(const std::string& name);

@@ -1,0 +1,34 @@
+#include "options/ReadOptions.h"
+
+#include "options/OptionParser.h"
+#include "platform/UserFolders.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Return why a file that was asked for cannot be the settings file, or nothing.
+std::string findFault(const ProgramOptions& program)
+{
+    std::error_code error;
+    if (program.config.empty() || fs::is_regular_file(program.config, error)) return "";
+    if (program.request == Request::WriteSettings && !fs::exists(program.config, error)) return ""; // to be made
+    return "--config: expected a file that is there, not \"" + program.config + '"';
+}
+
+} // namespace
+
+ReadOptions readOptions(const std::vector<std::string>& arguments)
+{
+    ReadOptions read;
+    Options asked; // by the command line alone, which may name the file
+    read.fault = parseArguments(arguments, asked);
+    if (read.fault.empty()) read.fault = findFault(asked.program);
+    if (!read.fault.empty()) return read;
+
+    read.settingsFile = asked.program.config.empty() ? userFile(UserFolder::Settings, "quackdash.conf")
+                                                     : fs::path(asked.program.config);
+    read.complaints = parseSettings(read.settingsFile, read.options);
+    read.fault = parseArguments(arguments, read.options);
+    return read;
+}

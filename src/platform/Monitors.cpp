@@ -1,0 +1,14 @@
+#include "platform/Monitors.h"
+
+#include <GLFW/glfw3.h>
+
+std::optional<std::vector<std::string>> monitorNames()
+{
+    if (glfwInit() != GLFW_TRUE) return std::nullopt;
+    int count = 0;
+    GLFWmonitor** const monitors = glfwGetMonitors(&count);
+    std::vector<std::string> names;
+    for (int i = 0; i < count; ++i) names.emplace_back(glfwGetMonitorName(monitors[i]));
+    glfwTerminate();
+    return names;
+}

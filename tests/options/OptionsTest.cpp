@@ -1,0 +1,186 @@
+#include "options/OptionLists.h"
+#include "options/OptionParser.h"
+#include "options/OptionTable.h"
+#include "options/ReadOptions.h"
+#include "testing/ChildProcess.h"
+#include "testing/DataScratch.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <set>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A user whose settings file the test writes.
+class OptionsTest : public testing::Test {
+protected:
+    OptionsTest()
+    {
+        setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
+        for (const char* part : {"data#1/Shader", "data#1/Textures"}) fs::create_directories(folder.path() / part);
+    }
+
+    ReadOptions readWith(const std::string& settings, const std::vector<std::string>& arguments = {})
+    {
+        file = folder.write("quackdash/quackdash.conf", settings);
+        return readOptions(arguments);
+    }
+
+    DataScratch folder;
+    std::string file;
+};
+
+TEST_F(OptionsTest, ComeFromTheFileUnlessTheCommandLineSaysOtherwise)
+{
+    const ReadOptions read =
+        readWith("volume = 40\r\nmusic-volume=\"7\"\n\n  # effects-volume = 1\n; join = pad1\nmute\n"
+                 "mute-unfocused = on\njoin = wasd,pad4\nsound-device = 'My \"big\", loud = one'\n",
+            {"--volume=30", "--volume", "20", "--no-mute", "--seed", "random", "--data", "data#1"});
+    EXPECT_EQ(read.fault, "");
+    EXPECT_EQ(read.complaints, std::vector<std::string>());
+    const Options& options = read.options;
+    EXPECT_EQ(options.sound.volume, 20);
+    EXPECT_EQ(options.sound.musicVolume, 7);
+    EXPECT_EQ(options.sound.effectsVolume, 100);
+    EXPECT_FALSE(options.sound.mute);
+    EXPECT_TRUE(options.sound.muteUnfocused);
+    EXPECT_EQ(options.sound.device, "My \"big\", loud = one");
+    EXPECT_EQ(options.start.join, (std::vector{JoinDevice::Wasd, JoinDevice::Pad4}));
+    EXPECT_EQ(options.start.seed, std::nullopt);
+
+    const ReadOptions again = readWith(settingsText(options));
+    EXPECT_EQ(again.complaints, std::vector<std::string>());
+    EXPECT_EQ(settingsText(again.options), settingsText(options)) << "what is written is not read as it was";
+    EXPECT_EQ(again.options.program.dataFolder, folder.path() / "data#1");
+    EXPECT_NE(settingsText(options).find("# how loud the music is: 0 to 100 (100)\nmusic-volume=7\n"),
+        std::string::npos);
+}
+
+TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
+{
+    const std::pair<std::string, const char*> rows[] = {
+        {"\xEF\xBB\xBFvolum = 50", "there is no option \"volum\""},
+        {"volume = 101", "volume: expected 0 to 100, not \"101\""},
+        {"volume = loud", "volume: expected 0 to 100, not \"loud\""},
+        {"volume =", "volume: expected 0 to 100, not \"\""},
+        {"volume", "volume: expected 0 to 100, not \"\""},
+        {"volume 50", "there is no option \"volume 50\""},
+        {"volume = 50 # half", "volume: expected 0 to 100, not \"50 # half\""},
+        {"mute = perhaps", "mute: expected true or false, not \"perhaps\""},
+        {"join = wasd, pad5", "join: expected arrows, wasd, pad1, pad2, pad3, pad4, each once, not \"wasd, pad5\""},
+        {"join = wasd,wasd", "join: expected arrows, wasd, pad1, pad2, pad3, pad4, each once, not \"wasd,wasd\""},
+        {"seed = -1", "seed: expected 0 to 4294967295 or random, not \"-1\""},
+        {"data = /nowhere", "data: expected a folder that holds Shader and Textures, not \"/nowhere\""},
+        {"write-settings", "write-settings: on the command line only"},
+        {"[Sound]", "expected NAME = VALUE, not \"[Sound]\""},
+        {"= 3", "expected NAME = VALUE, not \"= 3\""},
+        {"x", "expected NAME = VALUE, not \"x\""},
+        {std::string("\0\1\2\x1B[31m=", 8), "there is no option \"???"},
+        {std::string(100000, 'x'), "xxxxxxxxxx...\""},
+    };
+    for (const auto& [line, what] : rows) {
+        const ReadOptions read = readWith(line + "\nmusic-volume = 1\n");
+        ASSERT_EQ(read.complaints.size(), 1) << line;
+        EXPECT_TRUE(read.complaints[0].starts_with(file + ":1: ")) << read.complaints[0];
+        EXPECT_NE(read.complaints[0].find(what), std::string::npos) << read.complaints[0];
+        EXPECT_LT(read.complaints[0].size(), 250);
+        EXPECT_EQ(read.options.sound.volume, 100);
+        EXPECT_EQ(read.options.sound.musicVolume, 1) << "what follows is read";
+    }
+    fs::remove(file);
+    EXPECT_EQ(readOptions({}).complaints.size(), 0) << "no file is no fault";
+    fs::create_directory(file);
+    EXPECT_EQ(readOptions({}).complaints, std::vector{file + ": expected a file that can be read"});
+}
+
+TEST_F(OptionsTest, ThatAreWrongOnTheCommandLineAreNamedWithWhatIsExpected)
+{
+    const std::pair<std::vector<std::string>, const char*> rows[] = {
+        {{"--volum", "50"}, "there is no option \"--volum\""},
+        {{"-x"}, "there is no option \"-x\""},
+        {{"--no-volume"}, "there is no option \"--no-volume\""},
+        {{"fast"}, "expected options only, not \"fast\""},
+        {{"--volume", "-1"}, "--volume: expected 0 to 100, not \"-1\""},
+        {{"--volume=1e1"}, "--volume: expected 0 to 100, not \"1e1\""},
+        {{"--volume"}, "--volume: expected 0 to 100"},
+        {{"--volume", "--mute"}, "--volume: expected 0 to 100"},
+        {{"--mute=maybe"}, "--mute: expected no value"},
+        {{"--computer-players", "11"}, "--computer-players: expected 0 to 10, not \"11\""},
+        {{"--config", "nothing.conf"}, "--config: expected a file that is there, not \"/"},
+        {{"--config", "data#1"}, "--config: expected a file that is there, not \"/"},
+    };
+    for (const auto& [arguments, fault] : rows) {
+        const ReadOptions read = readWith("", arguments);
+        EXPECT_TRUE(read.fault.starts_with(fault)) << read.fault << '\n' << fault;
+        EXPECT_EQ(read.fault.find('\n'), std::string::npos);
+    }
+}
+
+// What a new row can get wrong.
+TEST_F(OptionsTest, EachHasAWordOfHelpAndADefaultThatItTakes)
+{
+    std::set<std::string> names;
+    for (const Option& option : optionTable()) {
+        EXPECT_TRUE(names.insert(option.name).second) << option.name << " is there twice";
+        EXPECT_FALSE(option.letter && !names.insert({option.letter}).second) << option.letter << " is there twice";
+        EXPECT_FALSE(option.value.hasOpposite && !names.insert("no-" + option.name).second) << option.name;
+        EXPECT_EQ(option.help.empty(), option.group.empty()) << option.name;
+        EXPECT_FALSE(option.help.ends_with('.') || option.help.find('\n') != std::string::npos) << option.help;
+        Options options;
+        const std::string byDefault = option.value.inFile ? option.value.write(options) : "";
+        EXPECT_TRUE(option.value.read(options, byDefault)) << option.name << " does not take " << byDefault;
+        if (option.value.inFile) {
+            EXPECT_EQ(option.value.write(options), byDefault) << option.name;
+        }
+    }
+}
+
+TEST_F(OptionsTest, AreTheOnesThatHelpManualAndPagesName)
+{
+    std::string manual = manualText();
+    std::erase(manual, '\\');
+    for (const Option& option : optionTable()) {
+        EXPECT_EQ(helpText().find("  " + option.usage() + " ") != std::string::npos, !option.group.empty());
+        EXPECT_EQ(manual.find("\n.B " + option.usage() + "\n") != std::string::npos, !option.group.empty());
+    }
+    const std::regex name("(?:^|[^-a-z])--([a-z][-a-z]*)"), others("cmake|ctest|test\\.sh|check\\.sh|apt |tar |\\$");
+    int count = 0;
+    for (const char* page : {"README.md", "CHANGELOG.md", "CONTRIBUTING.md", "docs/architecture.md",
+             "packaging/quackdash.6.in", "packaging/quackdash.desktop"}) {
+        std::ifstream text(std::string(QUACKDASH_SOURCE) + page);
+        for (std::string line; std::getline(text, line);) {
+            std::erase(line, '\\');
+            if (std::regex_search(line, others)) continue; // of other programs
+            for (std::sregex_iterator found(line.begin(), line.end(), name), end; found != end; ++found, ++count)
+                EXPECT_NE(findOption(found->str(1)), nullptr) << page << " names --" << found->str(1);
+        }
+    }
+    EXPECT_GT(count, 5);
+}
+
+TEST_F(OptionsTest, AreCompletedByBash)
+{
+    const std::string completion = folder.write("completion", completionText());
+    const std::pair<const char*, const char*> rows[] = {
+        {"--eff", "--effects-volume"},
+        {"--no-mute-", "--no-mute-unfocused"},
+        {"--join pad", "pad1 pad2 pad3 pad4"},
+        {"--seed = r", "random"},
+        {"--data dat", "data#1"},
+        {"--volume 1", ""},
+        {"--print", ""},
+    };
+    for (const auto& [typed, completed] : rows) {
+        const std::string script = "source \"$0\"; COMP_WORDS=(quackdash " + std::string(typed) +
+            "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _quackdash; echo \"${COMPREPLY[*]}\"";
+        ChildProcess bash({{"bash", "-c", script, completion}, folder.path() / "bash.txt"});
+        EXPECT_EQ(bash.waitForExit(), 0);
+        EXPECT_EQ(bash.output(), completed + std::string("\n")) << typed;
+    }
+}
+
+} // namespace
