@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-/// The devices that people can join with.
+/// The devices that people can join with, in the order of PlayerRegistration's slots.
 enum class JoinDevice { Pad1, Pad2, Pad3, Pad4, Arrows, Wasd };
 
 /// Who takes part without having to press anything, and how the match begins.

@@ -1,5 +1,6 @@
 #include "options/OptionTable.h"
 
+#include "match/PlayerRegistration.h"
 #include "platform/DataFolder.h"
 
 #include <charconv>
@@ -58,6 +59,7 @@ std::vector<Option> makeTable()
     using Program = ProgramOptions;
     using Sound = SoundOptions;
     using Start = StartOptions;
+    constexpr int kMostComputers = PlayerRegistration::kMaxComputerPlayers;
     // clang-format off
     return {
         {"Information", "help", 'h', request(Request::Help), "show the options"},
@@ -80,7 +82,7 @@ std::vector<Option> makeTable()
         {"Sound", "sound-device", 0, text({&Options::sound, &Sound::device}, "NAME", "as --list-devices names it"),
             "where the sound goes"},
 
-        {"Start", "computer-players", 0, number({&Options::start, &Start::computerPlayers}, 0, 10),
+        {"Start", "computer-players", 0, number({&Options::start, &Start::computerPlayers}, 0, kMostComputers),
             "how many computer players join at once"},
         {"Start", "join", 0, listOf({&Options::start, &Start::join}, "DEVICES", kJoinDevices),
             "who joins at once, with commas between"},
