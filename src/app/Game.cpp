@@ -23,6 +23,7 @@ bool Game::run()
 
 bool Game::start()
 {
+    readAhead();
     if (!core->init()) return false;
     loadResources();
     core->getRenderer()->setDebugRenderer(new DebugRenderer());

@@ -4,7 +4,7 @@ class Core;
 class FrameTimer;
 class IGameState;
 
-/// The main loop. A concrete game fills in the four steps; main calls run() once. Whoever wants the loop in its own
+/// The main loop. A concrete game fills in the five steps; main calls run() once. Whoever wants the loop in its own
 /// hands calls start(), then pass() as often as it likes, or updatePass() and drawPass() by themselves.
 class Game {
 public:
@@ -37,6 +37,7 @@ public:
 protected:
     ~Game() = default;
 
+    virtual void readAhead() = 0;     ///< begin to read, on threads, files that the next steps take; no context yet
     virtual void init() = 0;          ///< build the world, create the states and enter the first
     virtual void loadResources() = 0; ///< load every shader and texture; the context is current
     virtual void update() = 0;        ///< do the game's own work once a drawn frame, after the state's

@@ -17,9 +17,18 @@
 #include "scene/Transforms.h"
 
 namespace {
+
 constexpr double kRankingLogInterval = 3000; // milliseconds
 constexpr float kMusicVolume = 1.0f;
+
+std::vector<std::string> filesOf(std::span<const Asset> assets)
+{
+    std::vector<std::string> files;
+    for (const Asset& asset : assets) files.emplace_back(asset.file);
+    return files;
 }
+
+} // namespace
 
 QKD_Game::QKD_Game(const GameOptions& ownOptions)
     : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer()), ownOptions)
@@ -38,6 +47,12 @@ Viewport::Rect QKD_Game::getWindowRect() const
     return {0, 0, renderer.getWidth(), renderer.getHeight()};
 }
 
+void QKD_Game::readAhead()
+{
+    pictures.start(filesOf(textureAssets()));
+    sounds.start(filesOf(soundAssets()));
+}
+
 void QKD_Game::loadResources()
 {
     loadShaders();
@@ -51,7 +66,8 @@ void QKD_Game::loadShaders()
 
 void QKD_Game::loadTextures()
 {
-    for (const Asset& texture : textureAssets()) Library::getInstance()->loadTexture(texture.name, texture.file);
+    for (const Asset& texture : textureAssets())
+        Library::getInstance()->loadTexture(texture.name, texture.file, pictures.take(texture.file));
 }
 
 void QKD_Game::init()
@@ -62,8 +78,8 @@ void QKD_Game::init()
     createStates();
     createLightNode();
     scenery->addGround(world->getGround());
-    startSound();
     scenery->addHats(getMatch().getHats());
+    startSound(); // last: it waits for the music
     bindFunctionKeys();
     lastRankingLog = FrameTimer::getInstance()->getTimeMs();
     registerState->admit(options.start);
@@ -104,10 +120,9 @@ void QKD_Game::createLightNode()
 
 void QKD_Game::startSound()
 {
-    std::vector<std::pair<std::string, std::string>> sounds;
-    for (const Asset& sound : soundAssets()) sounds.emplace_back(sound.name, sound.file);
     AudioSystem* const audio = AudioSystem::getInstance();
-    audio->init(sounds, options.sound);
+    audio->init({}, options.sound);
+    for (const Asset& sound : soundAssets()) audio->addSound(sound.name, sound.file, sounds.take(sound.file));
     if (options.sound.muteUnfocused)
         renderer.getWindow().watchFocus([audio](bool focused) { audio->setHeard(focused); });
     presentation->playSound("musik", true, kMusicVolume);

@@ -4,6 +4,9 @@
 #include "app/Game.h"
 #include "app/GameOptions.h"
 #include "app/Scenery.h"
+#include "audio/SoundData.h"
+#include "base/ReadAhead.h"
+#include "gpu/Texture.h"
 #include "match/MatchWorld.h"
 
 #include <memory>
@@ -33,6 +36,7 @@ public:
     Viewport::Rect getWindowRect() const; ///< the whole window, pixels
 
 protected:
+    void readAhead() override;
     void init() override;
     void loadResources() override;
     void update() override;
@@ -61,5 +65,7 @@ private:
     std::unique_ptr<RegisterPlayersGamestate> registerState;
     std::unique_ptr<PlayGamestate> playState;
     std::unique_ptr<DebugGamestate> debugState;
+    ReadAhead<TextureImage> pictures{TextureImage::read};
+    ReadAhead<DecodedSound> sounds{SoundData::decode};
     double lastRankingLog = 0; // milliseconds of the frame timer
 };

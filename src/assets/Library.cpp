@@ -44,9 +44,14 @@ bool Library::insert(const std::string& name, ILibraryObject* object)
 
 void Library::loadTexture(const std::string& name, const std::string& path)
 {
+    loadTexture(name, path, TextureImage::read(path));
+}
+
+void Library::loadTexture(const std::string& name, const std::string& path, const TextureImage& image)
+{
     Texture* texture = getTexture(name, false);
     if (!texture) texture = new Texture();
-    texture->load(path);
+    texture->load(path, image);
     insert(name, texture);
 }
 

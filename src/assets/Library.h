@@ -9,6 +9,7 @@
 class Mesh;
 class Shaderprogram;
 class Texture;
+struct TextureImage;
 
 /// The registry of loaded assets: programs, textures and meshes, each under one short name, whatever its kind. Created
 /// on first use, never destroyed, and its entries with it. The loaders of programs and textures need the GL context.
@@ -24,6 +25,9 @@ public:
 
     /// Read a TGA file and register it. A name that is already registered keeps its object, which gets the new image.
     void loadTexture(const std::string& name, const std::string& path);
+
+    /// Likewise, with what TextureImage::read has made of the file.
+    void loadTexture(const std::string& name, const std::string& path, const TextureImage& image);
 
     /// Import the first mesh of a model file and register it, unless the name is taken. A file without a mesh is
     /// reported and not registered.

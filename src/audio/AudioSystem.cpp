@@ -37,12 +37,23 @@ void AudioSystem::init(const std::vector<std::pair<std::string, std::string>>& f
 
 void AudioSystem::addSound(const std::string& name, const std::string& file)
 {
-    sounds[name] = createSound(name, file);
+    addSound(name, file, SoundData::decode(file));
+}
+
+void AudioSystem::addSound(const std::string& name, const std::string& file, const DecodedSound& decoded)
+{
+    sounds[name] = createSound(name, file, decoded);
 }
 
 std::unique_ptr<Sound> AudioSystem::createSound(const std::string& name, const std::string& file)
 {
-    return std::make_unique<Sound>(&system, name, file, name == kMusic ? musicGain : effectsGain);
+    return createSound(name, file, SoundData::decode(file));
+}
+
+std::unique_ptr<Sound> AudioSystem::createSound(const std::string& name, const std::string& file,
+    const DecodedSound& decoded)
+{
+    return std::make_unique<Sound>(&system, name, file, decoded, name == kMusic ? musicGain : effectsGain);
 }
 
 void AudioSystem::play(const std::string& name, bool loop, float volume)

@@ -27,6 +27,9 @@ public:
     /// Load a sound under a name, in place of the one that had it.
     void addSound(const std::string& name, const std::string& file);
 
+    /// Likewise, with what SoundData::decode has made of the file.
+    void addSound(const std::string& name, const std::string& file, const DecodedSound& decoded);
+
     /// Load a sound that only its caller plays: play does not find it.
     std::unique_ptr<Sound> createSound(const std::string& name, const std::string& file);
 
@@ -41,6 +44,8 @@ public:
     SoundOutput& getOutput() { return system; }
 
 private:
+    std::unique_ptr<Sound> createSound(const std::string& name, const std::string& file, const DecodedSound& decoded);
+
     SoundOutput system;
     float masterGain = 1.0f;
     float musicGain = 1.0f;

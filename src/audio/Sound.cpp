@@ -1,6 +1,5 @@
 #include "audio/Sound.h"
 
-#include "audio/SoundData.h"
 #include "audio/SoundSource.h"
 #include "base/Logger.h"
 
@@ -15,8 +14,9 @@ constexpr double kPitchUnit = 44100.0;    // hertz
 
 } // namespace
 
-Sound::Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file, float ownGain)
-    : system(ownSystem), name(ownName), gain(ownGain), data(SoundData::load(file))
+Sound::Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file, const DecodedSound& decoded,
+    float ownGain)
+    : system(ownSystem), name(ownName), gain(ownGain), data(SoundData::make(file, decoded))
 {
     if (!data) logLine(0) << "Error, initializing Sound: " << name << std::endl;
 }

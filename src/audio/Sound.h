@@ -1,18 +1,20 @@
 #pragma once
 
 #include "audio/ISound.h"
+#include "audio/SoundData.h"
 #include "audio/SoundOutput.h"
 
 #include <string>
 
-/// One sound of the game, loaded from a file. Owned by the AudioSystem, or by whoever had it made by createSound; the
+/// One sound of the game, from a file. Owned by the AudioSystem, or by whoever had it made by createSound; the
 /// output must outlive it. A sound whose file could not be loaded stays silent: each play logs its failure, setPitch
 /// does nothing that is heard.
 class Sound final : public ISound {
 public:
-    /// Load the file. On failure log "Error, initializing Sound: " with the name. gain: a factor of every volume that
-    /// it is played at.
-    Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file, float ownGain = 1.0f);
+    /// Take what was decoded of the file. On failure log "Error, initializing Sound: " with the name. gain: a factor of
+    /// every volume that it is played at.
+    Sound(SoundOutput* ownSystem, const std::string& ownName, const std::string& file, const DecodedSound& decoded,
+        float ownGain = 1.0f);
 
     /// Forget the sound; what is playing of it goes on.
     ~Sound() override = default;

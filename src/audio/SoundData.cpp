@@ -42,7 +42,7 @@ float cutToFullScale(float sample)
 }
 
 /// Decode what there is of the frames that the file promises, left and right in turn.
-std::vector<float> decode(const SoundFile& file, const SF_INFO& info)
+std::vector<float> decodeFrames(const SoundFile& file, const SF_INFO& info)
 {
     std::vector<float> samples(2 * static_cast<std::size_t>(info.frames));
     const sf_count_t decoded = sf_readf_float(file.get(), samples.data(), info.frames);
@@ -57,34 +57,41 @@ std::vector<float> decode(const SoundFile& file, const SF_INFO& info)
 
 } // namespace
 
-std::shared_ptr<const SoundData> SoundData::load(const std::string& path)
+DecodedSound SoundData::decode(const std::string& path)
 {
     SF_INFO info{};
     const SoundFile file(sf_open(path.c_str(), SFM_READ, &info));
-    std::string fault = findFault(path, file, info);
-    std::vector<float> samples;
-    if (fault.empty()) {
-        samples = decode(file, info);
-        if (samples.empty()) fault = "damaged from its beginning";
-    }
-    if (!fault.empty()) {
-        logLine(0) << "couldn't open sound file: " << path << " (" << fault << ")" << std::endl;
-        return nullptr;
-    }
-    const sf_count_t missing = info.frames - static_cast<sf_count_t>(samples.size() / 2);
-    if (missing >= info.samplerate) // less is the rounding of an estimate
-        logLine(1) << "sound file is damaged: " << path << " (" << missing / info.samplerate
-                   << " seconds at its end are lost)" << std::endl;
+    DecodedSound decoded;
+    decoded.fault = findFault(path, file, info);
+    if (!decoded.fault.empty()) return decoded;
 
-    return std::shared_ptr<const SoundData>(new SoundData(samples, info.samplerate));
+    decoded.sampleRate = info.samplerate;
+    decoded.samples = decodeFrames(file, info);
+    if (decoded.samples.empty()) decoded.fault = "damaged from its beginning";
+    const sf_count_t missing = info.frames - static_cast<sf_count_t>(decoded.samples.size() / 2);
+    decoded.secondsLost = missing / info.samplerate; // less than one is the rounding of an estimate
+    return decoded;
 }
 
-SoundData::SoundData(const std::vector<float>& samples, int ownSampleRate) : sampleRate(ownSampleRate)
+std::shared_ptr<const SoundData> SoundData::make(const std::string& path, const DecodedSound& decoded)
+{
+    if (!decoded.fault.empty()) {
+        logLine(0) << "couldn't open sound file: " << path << " (" << decoded.fault << ")" << std::endl;
+        return nullptr;
+    }
+    if (decoded.secondsLost > 0)
+        logLine(1) << "sound file is damaged: " << path << " (" << decoded.secondsLost
+                   << " seconds at its end are lost)" << std::endl;
+
+    return std::shared_ptr<const SoundData>(new SoundData(decoded));
+}
+
+SoundData::SoundData(const DecodedSound& decoded) : sampleRate(decoded.sampleRate)
 {
     if (!alcGetCurrentContext()) return;
     alGenBuffers(1, &buffer);
-    alBufferData(buffer, AL_FORMAT_STEREO_FLOAT32, samples.data(), static_cast<ALsizei>(samples.size() * sizeof(float)),
-        sampleRate);
+    alBufferData(buffer, AL_FORMAT_STEREO_FLOAT32, decoded.samples.data(),
+        static_cast<ALsizei>(decoded.samples.size() * sizeof(float)), sampleRate);
 }
 
 SoundData::~SoundData()

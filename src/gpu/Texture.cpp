@@ -1,14 +1,13 @@
 #include "gpu/Texture.h"
 
 #include "base/Logger.h"
-#include "platform/Image.h"
 
 #include <algorithm>
 
 namespace {
 
 /// Repeat the grey component of pictures that have only that, so that every picture has three or four components.
-Image withColour(const Image& image)
+Image withColour(Image image)
 {
     if (image.channels >= 3) return image;
     Image result{image.width, image.height, image.channels + 2, {}};
@@ -26,41 +25,41 @@ int largestSide()
     return side;
 }
 
-/// Return the picture as it is uploaded; nothing, with one log line, when the file does not yield one.
-std::optional<Image> readImage(const std::string& path)
+/// Return why there is nothing to upload; empty when there is.
+std::string findFault(const TextureImage& image)
 {
-    std::string error;
-    std::optional<Image> image = readTga(path, error);
-    if (image && std::max(image->width, image->height) > largestSide()) {
-        image.reset();
-        error = "picture is larger than the graphics card takes";
-    }
-    if (!image) {
-        logLine(0) << error << ": " << path << std::endl;
-        return std::nullopt;
-    }
-    return resampledToPowersOfTwo(withColour(*image));
+    if (image.levels.empty()) return image.error;
+    const Image& whole = image.levels.front();
+    return std::max(whole.width, whole.height) > largestSide() ? "picture is larger than the graphics card takes" : "";
 }
 
-/// Upload the whole chain of mipmaps to the bound texture, each half as large as the one before, as glGenerateMipmap
-/// would make it. That call has a software driver compile a program for each format first, which takes longer than
-/// loading everything else.
-void upload(const Image& image)
+/// Upload the whole chain of mipmaps to the bound texture.
+void upload(const std::vector<Image>& levels)
 {
-    const GLenum format = image.channels == 4 ? GL_RGBA : GL_RGB;
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    Image half;
-    const Image* next = &image;
-    for (GLint level = 0;; ++level) {
-        glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(format), next->width, next->height, 0, format,
-            GL_UNSIGNED_BYTE, next->pixels.data());
-        if (next->width == 1 && next->height == 1) return;
-        half = halved(*next);
-        next = &half;
+    for (std::size_t level = 0; level < levels.size(); ++level) {
+        const Image& image = levels[level];
+        const GLenum format = image.channels == 4 ? GL_RGBA : GL_RGB;
+        glTexImage2D(GL_TEXTURE_2D, static_cast<GLint>(level), static_cast<GLint>(format), image.width, image.height, 0,
+            format, GL_UNSIGNED_BYTE, image.pixels.data());
     }
 }
 
 } // namespace
+
+/// The levels are what glGenerateMipmap would make. That call has a software driver compile a program for each format
+/// first, which takes longer than loading everything else.
+TextureImage TextureImage::read(const std::string& path)
+{
+    TextureImage result;
+    std::optional<Image> image = readTga(path, result.error);
+    if (!image) return result;
+
+    std::vector<Image>& levels = result.levels;
+    levels.push_back(resampledToPowersOfTwo(withColour(*std::move(image))));
+    while (levels.back().width > 1 || levels.back().height > 1) levels.push_back(halved(levels.back()));
+    return result;
+}
 
 void Texture::generate()
 {
@@ -85,12 +84,13 @@ void Texture::setFilter(GLint magFilter, GLint minFilter)
     unbind();
 }
 
-void Texture::load(const std::string& path)
+void Texture::load(const std::string& path, const TextureImage& image)
 {
-    const std::optional<Image> image = readImage(path);
+    const std::string fault = findFault(image);
+    if (!fault.empty()) logLine(0) << fault << ": " << path << std::endl;
     generate();
     bind();
-    if (image) upload(*image);
+    if (fault.empty()) upload(image.levels);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_REPEAT);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_REPEAT);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);

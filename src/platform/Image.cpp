@@ -54,7 +54,7 @@ std::optional<Image> readTga(const std::string& path, std::string& error)
     }
 
     Image image;
-    stbi_set_flip_vertically_on_load(1);
+    stbi_set_flip_vertically_on_load_thread(1);
     stbi_uc* const decoded =
         stbi_load_from_callbacks(&kCallbacks, &source, &image.width, &image.height, &image.channels, 0);
     const std::string failure = decoded ? "" : stbi_failure_reason();
