@@ -6,6 +6,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 
 option(QUACKDASH_WERROR "Treat warnings as errors (the test command switches this on)" OFF)
 option(QUACKDASH_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(QUACKDASH_FUZZ "Build the fuzzers (clang++, with QUACKDASH_SANITIZE)" OFF)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
@@ -24,6 +25,9 @@ target_compile_definitions(quackdash_settings INTERFACE GLM_ENABLE_EXPERIMENTAL 
 if(QUACKDASH_SANITIZE)
     target_compile_options(quackdash_settings INTERFACE
         -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize=vptr
-        -Wno-maybe-uninitialized) # g++ sees what isn't there in instrumented code, <regex> for one
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>) # sees what isn't there in <regex>
     target_link_options(quackdash_settings INTERFACE -fsanitize=address,undefined)
+endif()
+if(QUACKDASH_FUZZ)
+    target_compile_options(quackdash_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()

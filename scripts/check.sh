@@ -19,8 +19,8 @@ mode=${1:-}
 files=("$@")
 wide=("${files[@]}")
 if ((${#files[@]} == 0)); then
-    mapfile -t files < <(find src testing tests bench tools -name '*.h' -o -name '*.cpp' | LC_ALL=C sort)
-    mapfile -t wide < <(find src testing tests bench tools scripts cmake data/Shader ./*.sh -type f \( \
+    mapfile -t files < <(find src testing tests bench fuzz tools -name '*.h' -o -name '*.cpp' | LC_ALL=C sort)
+    mapfile -t wide < <(find src testing tests bench fuzz tools scripts cmake data/Shader ./*.sh -type f \( \
         -name '*.h' -o -name '*.cpp' -o -name '*.sh' -o -name '*.py' -o -name '*.cmake' \
         -o -name CMakeLists.txt -o -path 'data/*' \))
 fi
@@ -36,8 +36,9 @@ require_packages clang-tidy
 [[ -e build/release/build.ninja ]] || configure release
 cmake -S . -B build/release -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
 
-# clang-tidy sees headers through the files that include them. It does not know every option of g++.
-mapfile -t sources < <(printf '%s\n' "${files[@]}" | grep '\.cpp$')
+# clang-tidy sees headers through the files that include them. It does not know every option of g++. Fuzzers belong to
+# another preset.
+mapfile -t sources < <(printf '%s\n' "${files[@]}" | grep '\.cpp$' | grep -v '^fuzz/')
 ((${#sources[@]} == 0)) || printf '%s\0' "${sources[@]}" |
     xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p build/release --extra-arg=-Wno-unknown-warning-option || status=1
 exit "$status"

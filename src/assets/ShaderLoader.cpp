@@ -1,59 +1,17 @@
 #include "assets/Library.h"
+#include "assets/ShaderFiles.h"
 #include "base/Logger.h"
 #include "gpu/Shader.h"
 #include "gpu/Shaderprogram.h"
 
-#include <algorithm>
-#include <fstream>
-#include <map>
 #include <memory>
-#include <optional>
-#include <sstream>
 
 namespace {
-
-constexpr std::size_t kQuotedCharacters = 40; // of a word that may be anything, such as part of a picture
-
-/// Return the lines of a text file, each followed by lineEnd. Nothing, with a log line, when it cannot be opened.
-std::optional<std::string> readLines(const std::string& path, char lineEnd)
-{
-    std::ifstream file(path);
-    if (file) file.peek();
-    if (!file.is_open() || file.bad()) { // a folder can be opened, but not read
-        logLine(0) << "couldn't open file: " << path << std::endl;
-        return std::nullopt;
-    }
-    std::string text;
-    for (std::string line; std::getline(file, line);) text += line + lineEnd;
-    return text;
-}
-
-std::optional<GLenum> stageOf(const std::string& keyword)
-{
-    static const std::map<std::string, GLenum> stages{
-        {"VERTEX_SHADER", GL_VERTEX_SHADER},
-        {"TESS_CONTROL_SHADER", GL_TESS_CONTROL_SHADER},
-        {"TESS_EVALUATION_SHADER", GL_TESS_EVALUATION_SHADER},
-        {"GEOMETRY_SHADER", GL_GEOMETRY_SHADER},
-        {"FRAGMENT_SHADER", GL_FRAGMENT_SHADER},
-    };
-    const auto found = stages.find(keyword);
-    return found == stages.end() ? std::nullopt : std::optional(found->second);
-}
-
-/// Return the start of the word, with a question mark for every character that is not printable.
-std::string quotable(std::string word)
-{
-    if (word.size() > kQuotedCharacters) word.resize(kQuotedCharacters);
-    std::replace_if(
-        word.begin(), word.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
-    return word;
-}
 
 /// Compile one stage into the program. Return false, with a log line, when its file cannot be opened.
 bool addStage(Shaderprogram& program, GLenum stage, const std::string& path)
 {
-    const std::optional<std::string> source = readLines(path, '\n');
+    const std::optional<std::string> source = readShaderSource(path);
     if (!source) return false;
     Shader shader(stage, *source);
     if (!shader.isCompiled()) logLine(0) << "couldn't compile shader: " << path << std::endl;
@@ -65,19 +23,10 @@ bool addStage(Shaderprogram& program, GLenum stage, const std::string& path)
 /// that.
 bool buildProgram(Shaderprogram& program, const std::string& path)
 {
-    const std::optional<std::string> text = readLines(path, ' ');
-    if (!text) return false;
-
-    std::istringstream words(*text);
-    for (std::string keyword; words >> keyword;) {
-        const std::optional<GLenum> stage = stageOf(keyword);
-        if (!stage) {
-            logLine(0) << "unknown shader stage \"" << quotable(keyword) << "\" in " << path << std::endl;
-            return false;
-        }
-        std::string stagePath; // stays empty, and cannot be opened, when the last keyword has none
-        words >> stagePath;
-        if (!addStage(program, *stage, stagePath)) return false;
+    const std::optional<std::vector<ShaderStage>> stages = readShaderStages(path);
+    if (!stages) return false;
+    for (const auto& [stage, file] : *stages) {
+        if (!addStage(program, stage, file)) return false;
     }
     program.link();
     return true;

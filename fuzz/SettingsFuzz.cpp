@@ -1,0 +1,12 @@
+// Settings files.
+#include "fuzz/Input.h"
+#include "options/OptionParser.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    static Input input("quackdash.conf");
+    Options options;
+    static_cast<void>(parseSettings(input.set(bytes, size), options));
+    static_cast<void>(settingsText(options));
+    return 0;
+}
