@@ -5,6 +5,6 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     static Input input("sound");
-    static_cast<void>(SoundData::load(input.set(bytes, size)));
+    static_cast<void>(SoundData::decode(input.set(bytes, size)));
     return 0;
 }
