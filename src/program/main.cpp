@@ -4,6 +4,7 @@
 #include "options/OptionParser.h"
 #include "options/ReadOptions.h"
 #include "platform/DataFolder.h"
+#include "platform/LargePages.h"
 #include "platform/UserFolders.h"
 #include "program/Information.h"
 #include "program/SettingsFile.h"
@@ -83,6 +84,7 @@ int answer(const ReadOptions& read)
 
 int main(int argc, char* argv[])
 {
+    useLargePages(argv);
     const ReadOptions read = readOptions({argv + 1, argv + argc});
     if (read.fault.empty()) return answer(read);
     std::cerr << "quackdash: " << read.fault << "; see --help\n";
