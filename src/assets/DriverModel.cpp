@@ -46,7 +46,7 @@ void DriverModel::drawShape()
     const float across = 2 * boundingRadius * glm::length(glm::vec3(transform[0])); // world units
     const float pixels = across * IRenderServices::current()->getPixelsPerUnit(transform[3]);
     const auto shape = std::ranges::find_if(coarse, [&](const Coarse& candidate) { return pixels < candidate.pixels; });
-    if (shape == coarse.end()) return Model::draw();
+    if (shape == coarse.end()) return CelModel::drawShape();
     shape->completeVAO();
     shape->draw();
 }

@@ -83,7 +83,7 @@ std::unique_ptr<CLI::App> makeApp(Options& options, const std::string& descripti
 /// Say of an error without a value of ours what the option that it begins with expects.
 std::string complaint(const CLI::ParseError& error)
 {
-    const std::string message = error.what();
+    std::string message = error.what();
     const std::size_t begin = message.find_first_not_of('-');
     const Option* const option = findOption(message.substr(begin, message.find_first_of(" :", begin) - begin));
     if (!option) return message;

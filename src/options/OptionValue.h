@@ -89,6 +89,7 @@ OptionValue listOf(Place<std::vector<T>> place, const std::string& placeholder, 
     };
     const auto format = [=](const std::vector<T>& list) {
         std::vector<std::string> chosen;
+        chosen.reserve(list.size());
         for (const T& value : list)
             chosen.push_back(std::find_if(words.begin(), words.end(), [&](const auto& w) {
                 return w.second == value;
