@@ -16,7 +16,7 @@ constexpr Place kPlaces[] = {
     {"XDG_STATE_HOME", ".local/state"},
 };
 
-/// Return the path that a variable holds; the specification wants one that is not absolute ignored.
+/// Return the path that a variable holds; one that is not absolute does not count.
 fs::path pathIn(const char* variable)
 {
     const char* const value = std::getenv(variable);
