@@ -1,6 +1,7 @@
 #include "physics/PhysxManager.h"
 
 #include "base/Logger.h"
+#include "base/Random.h"
 #include "physics/CollisionGroups.h"
 #include "physics/DebuggerTransport.h"
 #include "physics/PhysicNode.h"
@@ -173,7 +174,7 @@ void PhysxManager::updateVehicles(float dt, const PxVec3& gravity)
 
 VehicleHandle* PhysxManager::createVehicle()
 {
-    const auto x = static_cast<float>(std::rand() % kVehicleStartRange);
+    const auto x = static_cast<float>(drawRandom() % kVehicleStartRange);
     return vehicleManager->create4WVehicle(*scene, *physics, *cooking, *materials[kGameMaterial], kChassisMass,
         wheelCentreOffsets.data(), chassisConvexMesh, wheelConvexMeshes.data(),
         PxTransform(PxVec3(x, kVehicleStartHeight, 0)), true);

@@ -51,8 +51,8 @@ public:
     /// gravity: units per second squared.
     void updateVehicles(float dt, const physx::PxVec3& gravity);
 
-    /// Create a car in first gear at (rand() % 10, 5, 0); there is room for MAX_NUM_4W_VEHICLES. The world owns the
-    /// handle.
+    /// Create a car in first gear at (drawRandom() % 10, 5, 0); there is room for MAX_NUM_4W_VEHICLES. The world owns
+    /// the handle.
     VehicleHandle* createVehicle();
 
     /// Create a sphere of radius 1 at (0, 10, 0) and return the node that follows it, which the caller places and puts

@@ -2,6 +2,7 @@
 
 #include "base/FrameTimer.h"
 #include "base/Logger.h"
+#include "base/Random.h"
 #include "input/InputDevice.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
@@ -53,7 +54,7 @@ void rumble(InputDevice& device, const Rumble& request)
 
 float randomPlace()
 {
-    const int place = std::rand() % kRespawnRange - kRespawnRange / 2;
+    const int place = drawRandom() % kRespawnRange - kRespawnRange / 2;
     return static_cast<float>(place);
 }
 

@@ -1,5 +1,6 @@
 #include "app/QKD_Game.h"
 #include "base/Logger.h"
+#include "base/Random.h"
 #include "options/OptionLists.h"
 #include "options/OptionParser.h"
 #include "options/ReadOptions.h"
@@ -43,12 +44,12 @@ void openLog(const std::string& asked)
     close(opened);
 }
 
-/// Make the places of respawn those of a seed. The C library's own first seed is 1.
+/// Make the places of respawn those of a seed.
 void sow(std::optional<unsigned> asked)
 {
     const unsigned seed = asked ? *asked : std::random_device()();
     if (!asked) logLine(2) << "Places by --seed " << seed << std::endl;
-    std::srand(seed);
+    sowRandom(seed);
 }
 
 int play(const ReadOptions& read)

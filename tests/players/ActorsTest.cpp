@@ -1,4 +1,5 @@
 #include "base/Logger.h"
+#include "base/Random.h"
 #include "physics/PhysicNode.h"
 #include "players/Ball.h"
 #include "players/Spectator.h"
@@ -52,9 +53,9 @@ TEST_F(Actors, KeepTheirControlsAndSmokeWithoutTheirDeviceShootWithItAndComeBack
     match.pass(10);                       // while the car falls
     EXPECT_NEAR(ball.getWorldPosition().x, 3 + 10 * 2.5f, 0.01f) << "150 units a second";
     device.rumbles.clear();
-    std::srand(7);
-    const int z = std::rand() % 200 - 100, x = std::rand() % 200 - 100;
-    std::srand(7);
+    sowRandom(7);
+    const int z = drawRandom() % 200 - 100, x = drawRandom() % 200 - 100;
+    sowRandom(7);
     player.takeDamage(20);
     player.die();
     match.graph.update();
