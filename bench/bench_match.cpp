@@ -16,6 +16,7 @@
 #include "ResidentMemory.h"
 #include "physics/DrivingControls.h"
 #include "physics/PhysicNode.h"
+#include "physics/PhysxManager.h"
 #include "physics/VehicleHandle.h"
 #include "testing/HeadlessMatch.h"
 #include "testing/OwnProcess.h"

@@ -1,14 +1,13 @@
 #pragma once
 
-#include "match/MatchWorld.h"
-#include "physics/PhysxManager.h"
+#include "base/SteppedClock.h"
+#include "match/BareMatch.h"
 #include "physics/VehicleHandle.h"
 #include "platform/DataFolder.h"
 #include "players/Player.h"
 #include "testing/ScriptedDevice.h"
 #include "testing/ScriptedKeyboard.h"
 #include "testing/SilentPresentation.h"
-#include "testing/SteppedClock.h"
 
 #include <PxRigidDynamic.h>
 
@@ -48,8 +47,7 @@ public:
     {
         for (int i = 0; i < count; ++i) {
             update();
-            rules.stepPhysics();
-            graph.update();
+            match.step();
         }
     }
 
@@ -67,16 +65,11 @@ public:
     std::deque<ScriptedDevice> devices; // of those who joined
 
 private:
-    /// Finds the ground's picture, and takes the physics world down after the match, whose shots need it as they go.
-    struct Frame {
-        Frame() { enterDataFolder(); }
-        ~Frame() { delete PhysxManager::instance(); }
-    };
-
-    Frame frame;
+    bool foundData = enterDataFolder(); // the ground's picture among it
+    BareMatch match{presentation};
 
 public:
-    MatchWorld world{presentation};
-    Match& rules = world.getMatch();
-    SceneGraph& graph = world.getScene();
+    MatchWorld& world = match.getWorld();
+    Match& rules = match.getMatch();
+    SceneGraph& graph = match.getScene();
 };

@@ -1,28 +1,15 @@
 #pragma once
 
-#include "players/IPresentation.h"
+#include "players/NoPresentation.h"
 
 #include <utility>
 #include <vector>
 
-/// A presentation without a window: shows nothing, plays nothing, but remembers what it was asked for.
-class SilentPresentation : public IPresentation, public ICarModels {
+/// A presentation without a window that remembers what it was asked for.
+class SilentPresentation : public NoPresentation {
 public:
-    ICarModels& addCar(const CarNodes&, const glm::vec4&) override { return *this; }
     void setEmitterPosition(const glm::vec3& position) override { emitterPosition = position; }
-    std::shared_ptr<void> addBall(Node&, const glm::vec4&) override { return nullptr; }
     void playSound(const std::string& name, bool, float volume) override { sounds.emplace_back(name, volume); }
-    std::unique_ptr<ISound> createSound(const std::string&, const std::string&) override
-    {
-        struct Silence final : ISound {
-            void play(bool, float) override {}
-            void setPitch(float) override {}
-        };
-        return std::make_unique<Silence>();
-    }
-    void update() override {}
-    void addText(const std::string&, double, double) override {}
-    glm::ivec2 getWindowSize() const override { return {1024, 768}; }
 
     std::vector<std::pair<std::string, float>> sounds; ///< of the last pass: names and volumes
     glm::vec3 emitterPosition{0.0f};                   ///< of whoever smoked last

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/QKD_Game.h"
+#include "base/SteppedClock.h"
 #include "players/IPresentation.h"
 #include "testing/Picture.h"
 #include "testing/ScriptedKeyboard.h"
-#include "testing/SteppedClock.h"
 
 #include <memory>
 #include <optional>
@@ -21,6 +21,12 @@ public:
     /// Seen and heard by way of another presentation.
     TestGame(double passLength, std::unique_ptr<IPresentation> shown)
         : QKD_Game(std::move(shown)), passSeconds(passLength)
+    {
+    }
+
+    /// With things from outside of one's own.
+    TestGame(double passLength, const GameOptions& given, Outside& around)
+        : QKD_Game(given, around), passSeconds(passLength)
     {
     }
 

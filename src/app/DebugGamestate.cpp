@@ -26,12 +26,6 @@ Node* createCameraNode(QKD_Game& game)
     return node;
 }
 
-FreeFlight::Mouse mouseIn(const AppWindow& window)
-{
-    const AppWindow::Position position = window.mousePosition();
-    return {position.x, position.y};
-}
-
 } // namespace
 
 DebugGamestate::DebugGamestate(const std::string& stateName, QKD_Game& ownGame)
@@ -45,7 +39,13 @@ void DebugGamestate::enter()
     logLine(2) << "Enter TestState1" << std::endl;
     game.getCore()->getRenderer()->setViewports({view.getViewport()});
     window.captureCursor(true);
-    flight.start(mouseIn(window)); // a mouse that moved since the last visit does not make the view jump
+    flight.start(mouse()); // a mouse that moved since the last visit does not make the view jump
+}
+
+FreeFlight::Mouse DebugGamestate::mouse() const
+{
+    const AppWindow::Position position = game.getOutside().readMouse(window);
+    return {position.x, position.y};
 }
 
 void DebugGamestate::leave()
@@ -58,7 +58,7 @@ void DebugGamestate::update()
 {
     if (isKeyDown(GLFW_KEY_F5)) Library::getInstance()->loadShader("WireframeShader", "Shader/WireframeShader.shader");
     if (isKeyDown(GLFW_KEY_F3)) logLine(2) << "FPS: " << 1 / FrameTimer::getInstance()->getDelta() << std::endl;
-    flight.update(mouseIn(window), gameDelta());
+    flight.update(mouse(), gameDelta());
     if (isKeyDown(GLFW_KEY_F11)) game.getCore()->getStateManager()->changeState("PlayGamestate");
     if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
 }

@@ -20,6 +20,8 @@ public:
     void renderCamera(Camera*) override {}
 
 private:
+    FreeFlight::Mouse mouse() const;
+
     QKD_Game& game;
     AppWindow& window;
     Node* cameraNode;

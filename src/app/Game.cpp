@@ -7,10 +7,6 @@
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
 
-namespace {
-constexpr float kTooLong = 1.0f; // seconds of game time: a pass that comes this late is neither computed nor drawn
-}
-
 Game::Game() : timer(FrameTimer::getInstance()), core(Core::getInstance()) {}
 
 bool Game::run()
@@ -40,7 +36,8 @@ bool Game::updatePass()
 {
     core->getRenderer()->getTextRenderer()->clear();
     timer->tick();
-    if (gameDelta() >= kTooLong) return false;
+    beginPass();
+    if (isPassTooLong()) return false;
 
     frameState = core->getStateManager()->getCurrentState();
     if (frameState) frameState->update();

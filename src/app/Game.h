@@ -40,6 +40,7 @@ protected:
     virtual void readAhead() = 0;     ///< begin to read, on threads, files that the next steps take; no context yet
     virtual void init() = 0;          ///< build the world, create the states and enter the first
     virtual void loadResources() = 0; ///< load every shader and texture; the context is current
+    virtual void beginPass() = 0;     ///< the pass has its length; nobody has done anything in it yet
     virtual void update() = 0;        ///< do the game's own work once a drawn frame, after the state's
     virtual void cleanup() = 0;       ///< put something away; the loop never calls it
 

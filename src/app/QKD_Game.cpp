@@ -11,10 +11,13 @@
 #include "audio/AudioSystem.h"
 #include "base/FrameTimer.h"
 #include "base/Logger.h"
+#include "physics/PhysxManager.h"
 #include "players/Player.h"
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
 #include "scene/Transforms.h"
+
+#include <tuple>
 
 namespace {
 
@@ -30,13 +33,14 @@ std::vector<std::string> filesOf(std::span<const Asset> assets)
 
 } // namespace
 
-QKD_Game::QKD_Game(const GameOptions& ownOptions)
-    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer()), ownOptions)
+QKD_Game::QKD_Game(const GameOptions& ownOptions, Outside& ownOutside)
+    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer()), ownOptions, ownOutside)
 {
 }
 
-QKD_Game::QKD_Game(std::unique_ptr<IPresentation> ownPresentation, const GameOptions& ownOptions)
-    : options(ownOptions), renderer(*getCore()->getRenderer()), presentation(std::move(ownPresentation))
+QKD_Game::QKD_Game(std::unique_ptr<IPresentation> ownPresentation, const GameOptions& ownOptions, Outside& ownOutside)
+    : options(ownOptions), outside(ownOutside), renderer(*getCore()->getRenderer()),
+      presentation(std::move(ownPresentation))
 {
 }
 
@@ -72,17 +76,44 @@ void QKD_Game::loadTextures()
 
 void QKD_Game::init()
 {
-    createWorld();
     setUpText();
+    buildWorld();
+    startSound(); // last: it waits for the music
+    bindFunctionKeys();
+    admit();
+}
+
+void QKD_Game::buildWorld()
+{
+    createWorld();
     scenery->addSky();
     createStates();
     createLightNode();
     scenery->addGround(world->getGround());
     scenery->addHats(getMatch().getHats());
-    startSound(); // last: it waits for the music
-    bindFunctionKeys();
+}
+
+void QKD_Game::admit()
+{
     lastRankingLog = FrameTimer::getInstance()->getTimeMs();
     registerState->admit(options.start);
+}
+
+void QKD_Game::restart(const std::function<void()>& between)
+{
+    getScene().acceptRelease(renderer.getModelRenderer());
+    getScene().acceptRelease(renderer.getShadowRenderer());
+    // The current one is left when its successor is entered.
+    const auto oldStates = std::make_tuple(std::move(registerState), std::move(playState), std::move(debugState));
+    scenery.reset();
+    world.reset();
+    delete PhysxManager::instance();
+    between();
+    renderer.resetSwitches();
+    functionKeys = {};
+    buildWorld();
+    bindFunctionKeys();
+    admit();
 }
 
 void QKD_Game::createWorld()
@@ -156,6 +187,7 @@ void QKD_Game::update()
     presentation->update();
     functionKeys.update();
     logRanking();
+    outside.passEnds(*this);
 }
 
 void QKD_Game::logRanking()

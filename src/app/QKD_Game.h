@@ -3,12 +3,14 @@
 #include "app/FunctionKeys.h"
 #include "app/Game.h"
 #include "app/GameOptions.h"
+#include "app/Outside.h"
 #include "app/Scenery.h"
 #include "audio/SoundData.h"
 #include "base/ReadAhead.h"
 #include "gpu/Texture.h"
 #include "match/MatchWorld.h"
 
+#include <functional>
 #include <memory>
 
 class DebugGamestate;
@@ -20,11 +22,12 @@ class Renderer;
 /// the current state's work: physics, sounds, function keys, the ranking in the log.
 class QKD_Game : public Game {
 public:
-    /// Seen and heard by way of the renderer and the audio system.
-    explicit QKD_Game(const GameOptions& options = {});
+    /// Seen and heard by way of the renderer and the audio system. outside is borrowed.
+    explicit QKD_Game(const GameOptions& options = {}, Outside& outside = plainOutside());
 
     /// Seen and heard by way of another presentation.
-    explicit QKD_Game(std::unique_ptr<IPresentation> presentation, const GameOptions& options = {});
+    explicit QKD_Game(std::unique_ptr<IPresentation> presentation, const GameOptions& options = {},
+        Outside& outside = plainOutside());
 
     ~QKD_Game();
 
@@ -33,23 +36,32 @@ public:
     SceneGraph& getScene() { return world->getScene(); }
     const Terrain& getGround() { return world->getGround(); }
 
+    Outside& getOutside() const { return outside; }
+
     Viewport::Rect getWindowRect() const; ///< the whole window, pixels
 
 protected:
     void readAhead() override;
     void init() override;
     void loadResources() override;
+    void beginPass() override { outside.passBegins(*this); }
     void update() override;
     void cleanup() override {}
 
+    /// Take down the match with its world, the states and what is seen of them, and build them anew, as after start().
+    /// `between` is called when nothing of the old is left that the presentation shows.
+    void restart(const std::function<void()>& between);
+
 private:
     // The steps of init(), in order.
-    void createWorld();
     void setUpText();
+    void buildWorld();
+    void createWorld();
     void createStates();
     void createLightNode();
     void startSound();
     void bindFunctionKeys();
+    void admit();
 
     void loadShaders();
     void loadTextures();
@@ -57,6 +69,7 @@ private:
     void logRanking();
 
     const GameOptions options;
+    Outside& outside;
     Renderer& renderer;
     FunctionKeys functionKeys;
     std::unique_ptr<IPresentation> presentation;

@@ -44,7 +44,7 @@ Node& createPanoramaNode(QKD_Game& game)
 
 RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame)
     : IGameState(stateName), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)),
-      registration(ownGame.getMatch())
+      registration(ownGame.getMatch(), ownGame.getOutside().makeDevices())
 {
 }
 

@@ -59,3 +59,9 @@ float gameDelta()
 {
     return FrameTimer::getInstance()->getDelta() * kGameTimeScale;
 }
+
+bool isPassTooLong()
+{
+    constexpr float kTooLong = 1.0f; // seconds of game time
+    return gameDelta() >= kTooLong;
+}

@@ -46,3 +46,6 @@ constexpr float kGameTimeScale = 3.0f;
 
 /// Return the seconds of game time of the last pass.
 float gameDelta();
+
+/// Return whether the last pass took so long, a third of a second on the wall, that it is neither computed nor drawn.
+bool isPassTooLong();

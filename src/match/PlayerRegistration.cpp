@@ -10,14 +10,21 @@
 
 #include <algorithm>
 
-PlayerRegistration::PlayerRegistration(Match& ownMatch) : match(ownMatch)
+InputDevices makeInputDevices()
 {
     constexpr int kPadCount = 4;
     constexpr int kKeyboardLayouts = 2;
+    InputDevices devices;
     std::size_t next = 0;
-    for (int pad = 1; pad <= kPadCount; ++pad) slots[next++].device = std::make_unique<XBOXController>(pad);
+    for (int pad = 1; pad <= kPadCount; ++pad) devices[next++] = std::make_unique<XBOXController>(pad);
     for (int layout = 1; layout <= kKeyboardLayouts; ++layout)
-        slots[next++].device = std::make_unique<KeyboardController>(layout);
+        devices[next++] = std::make_unique<KeyboardController>(layout);
+    return devices;
+}
+
+PlayerRegistration::PlayerRegistration(Match& ownMatch, InputDevices devices) : match(ownMatch)
+{
+    for (std::size_t i = 0; i < slots.size(); ++i) slots[i].device = std::move(devices[i]);
 }
 
 void PlayerRegistration::update()

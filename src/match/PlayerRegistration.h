@@ -8,16 +8,21 @@
 
 class Match;
 
+/// The devices that people can join with: four game-pads, the arrow keys, W/A/S/D.
+using InputDevices = std::array<std::unique_ptr<InputDevice>, 6>;
+
+/// Return the machine's own.
+InputDevices makeInputDevices();
+
 /// Who takes part: the six devices that people can join with, and which of them have. Owned by the registration screen;
 /// update() once a frame while that is shown. A device that has joined cannot leave.
 class PlayerRegistration {
 public:
-    static constexpr int kDeviceCount = 6;
     static constexpr int kMaxParticipants = 16;
     static constexpr int kMaxComputerPlayers = 10;
 
-    /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
-    explicit PlayerRegistration(Match& match);
+    /// The match is borrowed. Simultaneous joiners come in the order of the devices.
+    explicit PlayerRegistration(Match& match, InputDevices devices = makeInputDevices());
 
     /// Have those join who need not press anything: the devices in their order, then the computer players.
     void admit(const StartOptions& start);
@@ -49,6 +54,6 @@ private:
     void readSpaceBar();
 
     Match& match;
-    std::array<Slot, kDeviceCount> slots;
+    std::array<Slot, std::tuple_size_v<InputDevices>> slots;
     bool spaceHeld = false;
 };

@@ -259,3 +259,13 @@ void Renderer::toggleWireframe()
     wireframe = !wireframe;
     glPolygonMode(GL_FRONT_AND_BACK, wireframe ? GL_LINE : GL_FILL);
 }
+
+void Renderer::resetSwitches()
+{
+    if (wireframe) toggleWireframe();
+    blendingAllowed = true;
+    showFps = false;
+    fpsText.clear();
+    lastFpsTime = 0;
+    filters.reset();
+}

@@ -47,6 +47,7 @@ public:
     void setSceneGraph(SceneGraph* graph) { sceneGraph = graph; }
     SceneGraph* getSceneGraph() const { return sceneGraph; }
     void addViewport(Viewport* viewport) { viewports.push_back(viewport); }
+    const std::vector<Viewport*>& getViewports() const { return viewports; }
     void setViewports(const std::vector<Viewport*>& list) { viewports = list; }
     void setDebugRenderer(DebugRenderer* renderer) { debugRenderer = renderer; }
     void setFrameProbe(IFrameProbe* newProbe) { probe = newProbe; } ///< null for none
@@ -73,6 +74,7 @@ public:
     void toggleFpsDisplay() { showFps = !showFps; }
     void toggleMagFilter() { filters.toggleMagnification(); }
     void cycleMinFilter() { filters.cycleMinification(); }
+    void resetSwitches(); ///< to what they are at the start
 
 private:
     bool openWindow();

@@ -69,6 +69,11 @@ void TextRenderer::render()
     glBindVertexArray(0);
 }
 
+void TextRenderer::shorten(std::size_t vertices)
+{
+    if (vertices < queue.size()) queue.resize(vertices);
+}
+
 void TextRenderer::clear()
 {
     queue.clear();

@@ -27,6 +27,9 @@ public:
     void render(); ///< draw the queue, which stays
     void clear();  ///< empty the queue
 
+    /// Take off the queue what came after its first so many vertices.
+    void shorten(std::size_t vertices);
+
     struct vertex {
         GLfloat x, y; ///< normalised device coordinates
         GLfloat u, v; ///< texture coordinates; a glyph's top edge takes the smaller v

@@ -29,6 +29,12 @@ void TextureFilters::cycleMinification()
     apply();
 }
 
+void TextureFilters::reset()
+{
+    *this = {};
+    apply();
+}
+
 void TextureFilters::apply() const
 {
     for (Texture* texture : Library::getInstance()->getAll<Texture>()) {

@@ -5,6 +5,7 @@ class TextureFilters {
 public:
     void toggleMagnification(); ///< switch between linear and nearest
     void cycleMinification();   ///< go on from no mipmaps to the nearest, to between two, and back to none
+    void reset();               ///< to linear, between two
 
 private:
     void apply() const;

@@ -1,4 +1,4 @@
-#include "testing/SteppedClock.h"
+#include "base/SteppedClock.h"
 
 #include <gtest/gtest.h>
 

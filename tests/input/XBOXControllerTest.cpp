@@ -1,6 +1,6 @@
 #include "input/XBOXController.h"
+#include "base/SteppedClock.h"
 #include "testing/CapturedLog.h"
-#include "testing/SteppedClock.h"
 #include "testing/VirtualPad.h"
 
 #include <array>

@@ -1,0 +1,7 @@
+#include "app/Outside.h"
+
+Outside& plainOutside()
+{
+    static Outside instance;
+    return instance;
+}

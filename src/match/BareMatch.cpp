@@ -1,0 +1,8 @@
+#include "match/BareMatch.h"
+
+#include "physics/PhysxManager.h"
+
+BareMatch::PhysicsEnd::~PhysicsEnd()
+{
+    delete PhysxManager::instance();
+}
