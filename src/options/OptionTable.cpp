@@ -2,6 +2,7 @@
 
 #include "match/PlayerRegistration.h"
 #include "platform/DataFolder.h"
+#include "replay/RecordingLimits.h"
 
 #include <charconv>
 #include <filesystem>
@@ -39,6 +40,14 @@ OptionValue dataFolder(Place<std::string> place)
     return value;
 }
 
+OptionValue folder(Place<std::string> place)
+{
+    OptionValue value = file(place);
+    value.placeholder = "FOLDER";
+    value.completion = "-d";
+    return value;
+}
+
 OptionValue onCommandLineOnly(OptionValue value)
 {
     value.inFile = false;
@@ -58,7 +67,9 @@ std::vector<Option> makeTable()
 {
     using Program = ProgramOptions;
     using Sound = SoundOptions;
+    using Replay = ReplayOptions;
     using Start = StartOptions;
+    constexpr int kTopSpeed = 16;
     constexpr int kMostComputers = PlayerRegistration::kMaxComputerPlayers;
     // clang-format off
     return {
@@ -93,6 +104,19 @@ std::vector<Option> makeTable()
             "where shaders, pictures, models and sounds are"},
         {"Start", "log-file", 0, file({&Options::program, &Program::logFile}, "auto"),
             "write the log there, not on the console; auto: among the user's own files"},
+
+        {"Recording", "record", 0, file({&Options::replay, &Replay::record}, "auto"),
+            "record the match there; auto: the last ten, among the user's own files"},
+        {"Recording", "replay", 0, onCommandLineOnly(file({&Options::replay, &Replay::replay})),
+            "tell a recorded match again"},
+        {"Recording", "speed", 0, onCommandLineOnly(number({&Options::replay, &Replay::speed}, 1, kTopSpeed)),
+            "how many times as fast"},
+        {"Recording", "pictures", 0, onCommandLineOnly(folder({&Options::replay, &Replay::pictures})),
+            "write a picture of each pass of the replay there"},
+        {"Recording", "headless", 0, onCommandLineOnly(toggle({&Options::replay, &Replay::headless})),
+            "without a window, as fast as it goes: the replay, or a match among computer players"},
+        {"Recording", "passes", 0, onCommandLineOnly(number({&Options::replay, &Replay::passes}, 1, kMostPasses)),
+            "how long that match is, in passes of 1/120 s"},
 
         {"", "print-manual", 0, request(Request::PrintManual), ""},
         {"", "print-completion", 0, request(Request::PrintCompletion), ""},

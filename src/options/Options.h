@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/GameOptions.h"
+#include "replay/ReplayOptions.h"
 
 #include <string>
 
@@ -19,4 +20,5 @@ struct ProgramOptions {
 /// when that is constructed.
 struct Options : GameOptions {
     ProgramOptions program;
+    ReplayOptions replay;
 };

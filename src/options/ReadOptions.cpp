@@ -16,6 +16,19 @@ std::string findFault(const ProgramOptions& program)
     return "--config: expected a file that is there, not \"" + program.config + '"';
 }
 
+/// Return what does not go together, or nothing.
+std::string findContradiction(const Options& options)
+{
+    constexpr int kLeast = 2; // participants of a match
+    const ReplayOptions& replay = options.replay;
+    const bool replays = !replay.replay.empty();
+    if (replays && !replay.record.empty() && replay.record != "auto") return "--replay: cannot be recorded once more";
+    if (!replay.pictures.empty() && (!replays || replay.headless)) return "--pictures: of a replay in the window only";
+    if (replay.headless && !replays && options.start.computerPlayers < kLeast)
+        return "--headless: expected --replay, or two --computer-players";
+    return "";
+}
+
 } // namespace
 
 ReadOptions readOptions(const std::vector<std::string>& arguments)
@@ -30,5 +43,6 @@ ReadOptions readOptions(const std::vector<std::string>& arguments)
                                                      : fs::path(asked.program.config);
     read.complaints = parseSettings(read.settingsFile, read.options);
     read.fault = parseArguments(arguments, read.options);
+    if (read.fault.empty()) read.fault = findContradiction(read.options);
     return read;
 }

@@ -1,7 +1,10 @@
 #include "platform/Image.h"
 
+#include "base/Logger.h"
+
 #include <stb/stb_image.h>
 #include <stb/stb_image_resize.h>
+#include <stb/stb_image_write.h>
 
 #include <algorithm>
 #include <bit>
@@ -99,4 +102,12 @@ Image halved(const Image& image)
         }
     }
     return half;
+}
+
+bool writePng(const std::string& path, int width, int height, const std::vector<unsigned char>& pixels)
+{
+    constexpr int kComponents = 3;
+    if (stbi_write_png(path.c_str(), width, height, kComponents, pixels.data(), kComponents * width) != 0) return true;
+    logLine(0) << "Cannot write the picture " << path << std::endl;
+    return false;
 }

@@ -24,6 +24,10 @@ struct Image {
 /// is missing, is no TGA, is cut short or too large; then `error` says which of these, in a few words.
 std::optional<Image> readTga(const std::string& path, std::string& error);
 
+/// Write 8-bit red, green, blue, rows from the top down, as a PNG file. Return false, with a log line, when that cannot
+/// be done.
+[[nodiscard]] bool writePng(const std::string& path, int width, int height, const std::vector<unsigned char>& pixels);
+
 /// Raise each side to the smallest power of two not below it, bilinearly. A picture that has such sides comes back as
 /// it is.
 Image resampledToPowersOfTwo(Image image);

@@ -13,6 +13,7 @@ struct Place {
 
 constexpr Place kPlaces[] = {
     {"XDG_CONFIG_HOME", ".config"},
+    {"XDG_DATA_HOME", ".local/share"},
     {"XDG_STATE_HOME", ".local/state"},
 };
 

@@ -6,6 +6,7 @@
 /// The folders of the XDG base directory specification that programs keep a user's files in.
 enum class UserFolder {
     Settings, ///< $XDG_CONFIG_HOME, or ~/.config
+    Data,     ///< $XDG_DATA_HOME, or ~/.local/share: recordings
     State,    ///< $XDG_STATE_HOME, or ~/.local/state: logs
 };
 

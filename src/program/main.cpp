@@ -9,6 +9,10 @@
 #include "platform/UserFolders.h"
 #include "program/Information.h"
 #include "program/SettingsFile.h"
+#include "replay/HeadlessPlay.h"
+#include "replay/Identity.h"
+#include "replay/RecordedPlay.h"
+#include "replay/ReplayGame.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -44,12 +48,38 @@ void openLog(const std::string& asked)
     close(opened);
 }
 
-/// Make the places of respawn those of a seed.
-void sow(std::optional<unsigned> asked)
+/// Make the places of respawn those of a seed, and return it.
+unsigned sow(std::optional<unsigned> asked)
 {
     const unsigned seed = asked ? *asked : std::random_device()();
     if (!asked) logLine(2) << "Places by --seed " << seed << std::endl;
     sowRandom(seed);
+    return seed;
+}
+
+/// Return the file to record in; empty for none.
+fs::path recordingFile(const std::string& asked)
+{
+    return asked == "auto" ? nextOwnRecording() : fs::path(asked);
+}
+
+int playInWindow(const Options& options, Outside& outside)
+{
+    QKD_Game game(options, outside);
+    return game.run() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+int playRecorded(const Options& options, unsigned seed, const fs::path& file)
+{
+    RecordedPlay recorded(file, describeThisPlay(seed, options.start));
+    return playInWindow(options, recorded);
+}
+
+int tell(const ReplayOptions& replay, const SoundOptions& sound)
+{
+    Source source(replay.replay);
+    if (!openForTelling(source, replay.replay)) return kUsageError;
+    return replay.headless ? replayHeadless(source) : tellInWindow(source, sound, replay);
 }
 
 int play(const ReadOptions& read)
@@ -57,11 +87,14 @@ int play(const ReadOptions& read)
     const Options& options = read.options;
     openLog(options.program.logFile);
     for (const std::string& complaint : read.complaints) logLine(1) << complaint << std::endl;
-    sow(options.start.seed);
+    const ReplayOptions& replay = options.replay;
+    const unsigned seed = sow(options.start.seed);
     if (!enterDataFolder(options.program.dataFolder)) return EXIT_FAILURE;
 
-    QKD_Game game(options);
-    return game.run() ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (!replay.replay.empty()) return tell(replay, options.sound);
+    const fs::path record = recordingFile(replay.record);
+    if (replay.headless) return playHeadless(options.start, seed, replay.passes, record);
+    return record.empty() ? playInWindow(options, plainOutside()) : playRecorded(options, seed, record);
 }
 
 int answer(const ReadOptions& read)

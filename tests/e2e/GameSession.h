@@ -22,7 +22,8 @@ public:
     /// no settings but those that the test puts into the folder quackdash.
     void launch(Environment environment, std::vector<std::string> arguments = {})
     {
-        environment.insert({{"XDG_CONFIG_HOME", data.path()}, {"XDG_STATE_HOME", data.path()}});
+        for (const char* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+            environment.insert({folder, data.path()});
         arguments.insert(arguments.begin(), QUACKDASH_PROGRAM);
         const std::filesystem::path log = data.path() / "log.txt";
         process.reset(new ChildProcess({.command = arguments, .output = log, .environment = environment}));

@@ -131,9 +131,9 @@ TEST_F(OptionsTest, EachHasAWordOfHelpAndADefaultThatItTakes)
         EXPECT_EQ(option.help.empty(), option.group.empty()) << option.name;
         EXPECT_FALSE(option.help.ends_with('.') || option.help.find('\n') != std::string::npos) << option.help;
         Options options;
-        const std::string byDefault = option.value.inFile ? option.value.write(options) : "";
+        const std::string byDefault = option.value.write ? option.value.write(options) : "";
         EXPECT_TRUE(option.value.read(options, byDefault)) << option.name << " does not take " << byDefault;
-        if (option.value.inFile) {
+        if (option.value.write) {
             EXPECT_EQ(option.value.write(options), byDefault) << option.name;
         }
     }
