@@ -101,8 +101,8 @@ void QKD_Game::setUpText()
 
 void QKD_Game::createStates()
 {
-    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this);
-    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this);
+    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options.controls);
+    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this, options.controls);
     debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
 
     GameStateManager* states = getCore()->getStateManager();
