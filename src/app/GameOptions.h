@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/KeyOptions.h"
 #include "audio/SoundOptions.h"
 #include "input/ControlOptions.h"
 #include "match/StartOptions.h"
@@ -9,4 +10,5 @@ struct GameOptions {
     SoundOptions sound;
     StartOptions start;
     ControlOptions controls;
+    KeyOptions keys;
 };

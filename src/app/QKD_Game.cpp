@@ -11,6 +11,7 @@
 #include "audio/AudioSystem.h"
 #include "base/FrameTimer.h"
 #include "base/Logger.h"
+#include "platform/KeyWords.h"
 #include "players/Player.h"
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
@@ -141,6 +142,7 @@ void QKD_Game::bindFunctionKeys()
     functionKeys.bind(5, When::kPressed, [this] { renderer.cycleMinFilter(); });
     functionKeys.bind(2, When::kPressed, [this] { renderer.toggleFpsDisplay(); });
     functionKeys.bind(1, When::kHeld, [this] { showHelp(); });
+    functionKeys.bindKey(keyOf(options.keys.screenshot), [this] { screenshot.takeNext(); });
 }
 
 void QKD_Game::showHelp()

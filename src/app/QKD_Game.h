@@ -4,6 +4,7 @@
 #include "app/Game.h"
 #include "app/GameOptions.h"
 #include "app/Scenery.h"
+#include "app/Screenshot.h"
 #include "audio/SoundData.h"
 #include "base/ReadAhead.h"
 #include "gpu/Texture.h"
@@ -59,6 +60,7 @@ private:
     const GameOptions options;
     Renderer& renderer;
     FunctionKeys functionKeys;
+    Screenshot screenshot{renderer};
     std::unique_ptr<IPresentation> presentation;
     std::unique_ptr<MatchWorld> world;
     std::unique_ptr<Scenery> scenery;
