@@ -19,8 +19,8 @@ public:
     explicit TestGame(std::optional<double> passLength = 1.0 / 60.0) : passSeconds(passLength) {}
 
     /// Seen and heard by way of another presentation.
-    TestGame(double passLength, std::unique_ptr<IPresentation> shown)
-        : QKD_Game(std::move(shown)), passSeconds(passLength)
+    TestGame(double passLength, std::unique_ptr<IPresentation> shown, const GameOptions& told = {})
+        : QKD_Game(std::move(shown), told), passSeconds(passLength)
     {
     }
 

@@ -13,7 +13,7 @@ public:
     virtual ~Outside() = default;
 
     /// Return the devices that people can join with. Once for each registration screen that is made.
-    virtual InputDevices makeDevices() { return makeInputDevices(); }
+    virtual InputDevices makeDevices(const ControlOptions& controls) { return makeInputDevices(controls); }
 
     /// Return where the mouse is. Asked in free flight only.
     virtual AppWindow::Position readMouse(const AppWindow& window) { return window.mousePosition(); }

@@ -12,6 +12,7 @@
 #include "base/FrameTimer.h"
 #include "base/Logger.h"
 #include "physics/PhysxManager.h"
+#include "platform/KeyWords.h"
 #include "players/Player.h"
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
@@ -132,8 +133,8 @@ void QKD_Game::setUpText()
 
 void QKD_Game::createStates()
 {
-    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this);
-    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this);
+    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options.controls);
+    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this, options.controls);
     debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
 
     GameStateManager* states = getCore()->getStateManager();
@@ -172,6 +173,8 @@ void QKD_Game::bindFunctionKeys()
     functionKeys.bind(5, When::kPressed, [this] { renderer.cycleMinFilter(); });
     functionKeys.bind(2, When::kPressed, [this] { renderer.toggleFpsDisplay(); });
     functionKeys.bind(1, When::kHeld, [this] { showHelp(); });
+    functionKeys.bindKey(keyOf(options.keys.screenshot), [this] { screenshot.takeNext(); });
+    functionKeys.bindKey(keyOf(options.keys.mark), [this] { outside.mark(); });
 }
 
 void QKD_Game::showHelp()

@@ -5,6 +5,7 @@
 #include "app/GameOptions.h"
 #include "app/Outside.h"
 #include "app/Scenery.h"
+#include "app/Screenshot.h"
 #include "audio/SoundData.h"
 #include "base/ReadAhead.h"
 #include "gpu/Texture.h"
@@ -72,6 +73,7 @@ private:
     Outside& outside;
     Renderer& renderer;
     FunctionKeys functionKeys;
+    Screenshot screenshot{renderer};
     std::unique_ptr<IPresentation> presentation;
     std::unique_ptr<MatchWorld> world;
     std::unique_ptr<Scenery> scenery;

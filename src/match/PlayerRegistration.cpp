@@ -10,15 +10,16 @@
 
 #include <algorithm>
 
-InputDevices makeInputDevices()
+InputDevices makeInputDevices(const ControlOptions& controls)
 {
     constexpr int kPadCount = 4;
     constexpr int kKeyboardLayouts = 2;
     InputDevices devices;
     std::size_t next = 0;
-    for (int pad = 1; pad <= kPadCount; ++pad) devices[next++] = std::make_unique<XBOXController>(pad);
+    for (int pad = 1; pad <= kPadCount; ++pad)
+        devices[next++] = std::make_unique<XBOXController>(pad, gamePads(), controls);
     for (int layout = 1; layout <= kKeyboardLayouts; ++layout)
-        devices[next++] = std::make_unique<KeyboardController>(layout);
+        devices[next++] = std::make_unique<KeyboardController>(layout, controls);
     return devices;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "input/ControlOptions.h"
 #include "input/InputDevice.h"
 #include "match/StartOptions.h"
 
@@ -12,7 +13,7 @@ class Match;
 using InputDevices = std::array<std::unique_ptr<InputDevice>, 6>;
 
 /// Return the machine's own.
-InputDevices makeInputDevices();
+InputDevices makeInputDevices(const ControlOptions& controls = {});
 
 /// Who takes part: the six devices that people can join with, and which of them have. Owned by the registration screen;
 /// update() once a frame while that is shown. A device that has joined cannot leave.

@@ -71,7 +71,7 @@ int playInWindow(const Options& options, Outside& outside)
 
 int playRecorded(const Options& options, unsigned seed, const fs::path& file)
 {
-    RecordedPlay recorded(file, describeThisPlay(seed, options.start));
+    RecordedPlay recorded(file, describeThisPlay(seed, options.start, options.controls));
     return playInWindow(options, recorded);
 }
 

@@ -9,8 +9,7 @@
 
 /// What an input device has said to the game last; at rest before it has said anything.
 struct DeviceState {
-    static constexpr int kButtonCount = InputDevice::kStart + 1;
-    static constexpr unsigned kStartBit = 1U << kButtonCount;
+    static constexpr unsigned kStartBit = 1U << InputDevice::kButtonCount;
     static constexpr unsigned kBackBit = kStartBit << 1;
     static constexpr int kAxisCount = InputDevice::kStickVerticalAxis + 1;
 
@@ -22,7 +21,7 @@ struct DeviceState {
     bool operator==(const DeviceState&) const = default;
 
     /// Return the bit of a button, 0 for a number that is none.
-    static unsigned bitOf(int button) { return button >= 0 && button < kButtonCount ? 1U << button : 0; }
+    static unsigned bitOf(int button) { return button >= 0 && button < InputDevice::kButtonCount ? 1U << button : 0; }
 
     /// Set or clear a bit.
     void press(unsigned bit, bool down) { buttons = down ? buttons | bit : buttons & ~bit; }

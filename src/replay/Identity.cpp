@@ -56,9 +56,19 @@ std::string sdkVersion()
         std::to_string(PX_PHYSICS_VERSION_BUGFIX);
 }
 
+/// Call `work` with each word, in the order of a recording.
+template <class Controls, class Work>
+void forEachWord(Controls& controls, const Work& work)
+{
+    for (auto& half : controls.halves)
+        for (auto& word : half) work(word);
+    for (auto& pad : controls.pads)
+        for (auto& word : pad) work(word);
+}
+
 } // namespace
 
-recording::Header describeThisPlay(unsigned seed, const StartOptions& start)
+recording::Header describeThisPlay(unsigned seed, const StartOptions& start, const ControlOptions& controls)
 {
     recording::Header header;
     header.set_game(QUACKDASH_VERSION);
@@ -70,6 +80,7 @@ recording::Header describeThisPlay(unsigned seed, const StartOptions& start)
     header.set_start_ms(static_cast<int>(FrameTimer::getInstance()->getTimeMs()));
     header.set_computer_players(start.computerPlayers);
     for (const JoinDevice device : start.join) header.add_join(static_cast<int>(device));
+    forEachWord(controls, [&header](const std::string& word) { header.add_controls(word); });
     return header;
 }
 
@@ -95,4 +106,12 @@ StartOptions startOf(const recording::Header& header)
     start.computerPlayers = header.computer_players();
     for (const int device : header.join()) start.join.push_back(static_cast<JoinDevice>(device));
     return start;
+}
+
+ControlOptions controlsOf(const recording::Header& header)
+{
+    ControlOptions controls;
+    auto word = header.controls().begin();
+    forEachWord(controls, [&word](std::string& of) { of = *word++; });
+    return controls;
 }

@@ -9,7 +9,10 @@ class RecordedPlay : public Outside {
 public:
     RecordedPlay(const std::filesystem::path& file, const recording::Header& header) : recorder(file, header) {}
 
-    InputDevices makeDevices() override { return recorder.wrap(Outside::makeDevices()); }
+    InputDevices makeDevices(const ControlOptions& controls) override
+    {
+        return recorder.wrap(Outside::makeDevices(controls));
+    }
     AppWindow::Position readMouse(const AppWindow& window) override;
     void passBegins(QKD_Game& game) override;
     void passEnds(QKD_Game& game) override;

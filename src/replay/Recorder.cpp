@@ -31,6 +31,7 @@ public:
         device->vibrate(milliseconds, leftMotor, rightMotor);
     }
     void setJoined() override { device->setJoined(); }
+    void setLight(const glm::vec3& colour) override { device->setLight(colour); }
     void update() override
     {
         const Asking asking(keys);

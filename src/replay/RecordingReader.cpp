@@ -1,6 +1,7 @@
 #include "replay/RecordingReader.h"
 
 #include "match/PlayerRegistration.h"
+#include "replay/Identity.h"
 #include "replay/RecordingLimits.h"
 
 #include <algorithm>
@@ -54,7 +55,8 @@ bool isSound(const recording::Header& header)
     std::ranges::sort(join);
     return std::ranges::all_of(join, isDevice) && std::ranges::adjacent_find(join) == join.end() &&
         header.computer_players() >= 0 && header.computer_players() <= PlayerRegistration::kMaxComputerPlayers &&
-        header.start_ms() >= 0 && isLine(header.game()) && isLine(header.sdk()) && isLine(header.compiler());
+        header.start_ms() >= 0 && isLine(header.game()) && isLine(header.sdk()) && isLine(header.compiler()) &&
+        header.controls_size() == kControlWords && std::ranges::all_of(header.controls(), isLine);
 }
 
 } // namespace

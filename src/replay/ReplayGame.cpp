@@ -3,7 +3,7 @@
 #include "app/Core.h"
 #include "base/Logger.h"
 #include "platform/Image.h"
-#include "render/FrameReader.h"
+#include "render/FrameProbe.h"
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
 #include "replay/Identity.h"
@@ -25,6 +25,34 @@ constexpr auto kIdle = std::chrono::milliseconds(2);      // between two looks a
 constexpr double kBarX = -0.97, kBarY = -0.9;             // normalised device coordinates
 constexpr std::size_t kBarWidth = 31;                     // characters, from edge to edge
 
+GameOptions optionsOf(const recording::Header& header, const SoundOptions& sound)
+{
+    return {sound, startOf(header), controlsOf(header), {}};
+}
+
+/// Writes a frame into a file.
+class FrameWriter : public IFrameProbe {
+public:
+    FrameWriter(const Renderer& ownRenderer, fs::path ownFile) : renderer(ownRenderer), file(std::move(ownFile)) {}
+
+    void stepDone(const char* step) override
+    {
+        if (step == std::string_view("picture")) error = writeNewPng(renderer.readPicture(), file);
+    }
+
+    /// Return whether it did, with a log line if not.
+    bool hasWritten() const
+    {
+        if (error) logLine(0) << "Cannot write " << file.string() << ": " << error.message() << std::endl;
+        return !error;
+    }
+
+private:
+    const Renderer& renderer;
+    const fs::path file;
+    std::error_code error;
+};
+
 double millisecondsIn(std::chrono::steady_clock::duration duration)
 {
     return std::chrono::duration<double, std::milli>(duration).count();
@@ -34,7 +62,7 @@ double millisecondsIn(std::chrono::steady_clock::duration duration)
 
 ReplayGame::ReplayGame(Source& ownSource, ReplayedPlay& play, std::unique_ptr<IPresentation> ownPresentation,
     ReplayPresentation& ownShown, const SoundOptions& sound)
-    : QKD_Game(std::move(ownPresentation), {sound, startOf(ownSource.getRecording().getHeader())}, play),
+    : QKD_Game(std::move(ownPresentation), optionsOf(ownSource.getRecording().getHeader(), sound), play),
       source(ownSource), shown(ownShown), view(*getCore()->getRenderer()), keys(view.getWindow())
 {
 }
@@ -190,18 +218,18 @@ bool ReplayGame::writePictures(const fs::path& folder)
     std::error_code error;
     fs::create_directories(folder, error);
     if (!start()) return false;
-    FrameReader reader(view.getWidth(), view.getHeight());
-    view.setFrameProbe(&reader);
     bool written = true;
     while (written && !view.shouldClose() && playPass()) {
         if (!isComputed) continue;
-        drawPass();
-        isDrawn = true;
         std::ostringstream name;
         name << std::setw(6) << std::setfill('0') << source.getPassNumber() << ".png";
-        written = writePng((folder / name.str()).string(), view.getWidth(), view.getHeight(), reader.getPixels());
+        FrameWriter writer(view, folder / name.str());
+        view.setFrameProbe(&writer);
+        drawPass();
+        view.setFrameProbe(nullptr);
+        isDrawn = true;
+        written = writer.hasWritten();
     }
-    view.setFrameProbe(nullptr);
     view.terminate();
     return written;
 }

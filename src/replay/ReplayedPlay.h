@@ -9,7 +9,7 @@ class ReplayedPlay : public Outside {
 public:
     explicit ReplayedPlay(Source& ownSource) : source(ownSource) {} ///< borrowed
 
-    InputDevices makeDevices() override { return source.makeDevices(); }
+    InputDevices makeDevices(const ControlOptions&) override { return source.makeDevices(); }
     AppWindow::Position readMouse(const AppWindow&) override { return source.getMouse(); }
     void passBegins(QKD_Game& game) override; ///< enter the state that the pass began in
     void passEnds(QKD_Game& game) override;   ///< compare the world, and log the first difference

@@ -74,6 +74,17 @@ protected:
         return contents(file);
     }
 
+    /// Return how many bytes come before the first pass.
+    static std::size_t headerEnd()
+    {
+        std::size_t at = sizeof kRecordingTitle - 1, size = 0;
+        for (int shift = 0;; shift += 7) {
+            const auto byte = static_cast<unsigned char>(recorded[at++]);
+            size |= static_cast<std::size_t>(byte & 0x7f) << shift;
+            if (byte < 0x80) return at + size;
+        }
+    }
+
     static inline std::string recorded;
     TemporaryFolder folder;
     std::string output, errors;
@@ -149,8 +160,7 @@ TEST_F(RecordingFileTest, IsToldUpToItsLastWholePassWhereverItIsCut)
 TEST_F(RecordingFileTest, ThatCannotBeToldHasOneLineThatSaysWhy)
 {
     const std::string title = kRecordingTitle;
-    const std::size_t headerEnd = title.size() + 1 + static_cast<unsigned char>(recorded[title.size()]);
-    const std::string begin = recorded.substr(0, headerEnd), onePass("\x02\x08\x08", 3);
+    const std::string begin = recorded.substr(0, headerEnd()), onePass("\x02\x08\x08", 3);
     std::string endless = begin;
     for (int i = 0; i < 1'000'000; ++i) endless += onePass;
     const auto withPass = [&](const std::function<void(recording::Pass&)>& change) {
@@ -181,6 +191,7 @@ TEST_F(RecordingFileTest, ThatCannotBeToldHasOneLineThatSaysWhy)
         {changed([](recording::Header& header) { header.set_data(1); }), "recorded with other data"},
         {changed([](recording::Header& header) { header.set_computer_players(11); }), "is damaged at its begin"},
         {changed([](recording::Header& header) { header.add_join(6); }), "is damaged at its begin"},
+        {changed([](recording::Header& header) { header.add_controls("k"); }), "is damaged at its begin"},
         {withPass([](recording::Pass& pass) { pass.set_length_ms(4'000'000'000); }), "is damaged after pass 199"},
         {withPass([](recording::Pass& pass) { pass.set_state(recording::State(7)); }), "is damaged after pass 199"},
         {withDevice([](recording::Device& device) { device.set_number(6); }), "is damaged after pass 199"},
