@@ -43,9 +43,15 @@ DebugGamestate::DebugGamestate(const std::string& stateName, QKD_Game& ownGame)
 void DebugGamestate::enter()
 {
     logLine(2) << "Enter TestState1" << std::endl;
-    game.getCore()->getRenderer()->setViewports({view.getViewport()});
+    layOut();
     window.captureCursor(true);
     flight.start(mouseIn(window)); // a mouse that moved since the last visit does not make the view jump
+}
+
+void DebugGamestate::layOut()
+{
+    view.getViewport()->setRect(game.getWindowRect());
+    game.getCore()->getRenderer()->setViewports({view.getViewport()});
 }
 
 void DebugGamestate::leave()

@@ -11,7 +11,10 @@ namespace {
 constexpr float kTooLong = 1.0f; // seconds of game time: a pass that comes this late is neither computed nor drawn
 }
 
-Game::Game() : timer(FrameTimer::getInstance()), core(Core::getInstance()) {}
+Game::Game(const GameOptions& ownOptions)
+    : options(ownOptions), timer(FrameTimer::getInstance()), core(Core::getInstance())
+{
+}
 
 bool Game::run()
 {
@@ -24,7 +27,7 @@ bool Game::run()
 bool Game::start()
 {
     readAhead();
-    if (!core->init()) return false;
+    if (!core->init(options)) return false;
     loadResources();
     core->getRenderer()->setDebugRenderer(new DebugRenderer());
     init();
@@ -43,6 +46,7 @@ bool Game::updatePass()
     if (gameDelta() >= kTooLong) return false;
 
     frameState = core->getStateManager()->getCurrentState();
+    if (core->getRenderer()->followWindow() && frameState) frameState->layOut();
     if (frameState) frameState->update();
     update();
     return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/GameOptions.h"
+
 class Core;
 class FrameTimer;
 class IGameState;
@@ -8,7 +10,7 @@ class IGameState;
 /// hands calls start(), then pass() as often as it likes, or updatePass() and drawPass() by themselves.
 class Game {
 public:
-    Game();
+    explicit Game(const GameOptions& options = {});
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
 
@@ -42,6 +44,8 @@ protected:
     virtual void loadResources() = 0; ///< load every shader and texture; the context is current
     virtual void update() = 0;        ///< do the game's own work once a drawn frame, after the state's
     virtual void cleanup() = 0;       ///< put something away; the loop never calls it
+
+    const GameOptions options;
 
 private:
     FrameTimer* timer;

@@ -39,9 +39,15 @@ PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame) : 
 void PlayGamestate::enter()
 {
     logLine(2) << "Enter PlayGamestate" << std::endl;
-    game.getMatch().layoutViewports();
     collectPlayerViewports();
     fillFreeCell();
+    layOut();
+}
+
+void PlayGamestate::layOut()
+{
+    game.getMatch().layoutViewports();
+    if (const auto cell = game.getMatch().freeViewportRect()) overviews.back()->getViewport()->setRect(*cell);
     game.getCore()->getRenderer()->setViewports(viewports);
 }
 

@@ -36,7 +36,7 @@ QKD_Game::QKD_Game(const GameOptions& ownOptions)
 }
 
 QKD_Game::QKD_Game(std::unique_ptr<IPresentation> ownPresentation, const GameOptions& ownOptions)
-    : options(ownOptions), renderer(*getCore()->getRenderer()), presentation(std::move(ownPresentation))
+    : Game(ownOptions), renderer(*getCore()->getRenderer()), presentation(std::move(ownPresentation))
 {
 }
 

@@ -2,7 +2,6 @@
 
 #include "app/FunctionKeys.h"
 #include "app/Game.h"
-#include "app/GameOptions.h"
 #include "app/Scenery.h"
 #include "audio/SoundData.h"
 #include "base/ReadAhead.h"
@@ -56,7 +55,6 @@ private:
     void showHelp();
     void logRanking();
 
-    const GameOptions options;
     Renderer& renderer;
     FunctionKeys functionKeys;
     std::unique_ptr<IPresentation> presentation;

@@ -51,8 +51,14 @@ RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName,
 void RegisterPlayersGamestate::enter()
 {
     logLine(2) << "Enter RegisterPlayersGamestate" << std::endl;
-    game.getCore()->getRenderer()->setViewports({view.getViewport()});
+    layOut();
     registration.restart();
+}
+
+void RegisterPlayersGamestate::layOut()
+{
+    view.getViewport()->setRect(game.getWindowRect());
+    game.getCore()->getRenderer()->setViewports({view.getViewport()});
 }
 
 void RegisterPlayersGamestate::leave()

@@ -18,6 +18,7 @@ public:
     void admit(const StartOptions& start);
 
     void enter() override;
+    void layOut() override;
     void leave() override;
     void update() override;
     void renderCamera(Camera*) override {}

@@ -128,8 +128,8 @@ void Match::layoutViewports()
 {
     const glm::ivec2 window = presentation.getWindowSize();
     for (int i = 0; i < getHumanPlayerCount(); ++i) {
-        const Viewport::Rect cell = viewportCell(getHumanPlayerCount(), i, window.x, window.y);
-        players[static_cast<std::size_t>(i)]->getViewport()->setRect(cell.x, cell.y, cell.width, cell.height);
+        players[static_cast<std::size_t>(i)]->getViewport()->setRect(viewportCell(getHumanPlayerCount(), i, window.x,
+            window.y));
     }
 }
 

@@ -39,6 +39,30 @@ OptionValue dataFolder(Place<std::string> place)
     return value;
 }
 
+constexpr WindowSize kMost{16384, 16384}; // of many a driver; the one at hand may take less
+
+OptionValue windowSize(Place<WindowSize> place)
+{
+    const auto format = [](const WindowSize& size) {
+        return std::to_string(size.width) + "x" + std::to_string(size.height);
+    };
+    const auto parse = [](const std::string& given) -> std::optional<WindowSize> {
+        WindowSize size;
+        const char* const end = given.data() + given.size();
+        const auto [times, widthError] = std::from_chars(given.data(), end, size.width);
+        if (widthError != std::errc() || times == end || *times != 'x') return std::nullopt;
+        const auto [stop, heightError] = std::from_chars(times + 1, end, size.height);
+        if (heightError != std::errc() || stop != end) return std::nullopt;
+        const bool isTooSmall = size.width < kLeastWindow.width || size.height < kLeastWindow.height;
+        if (isTooSmall || size.width > kMost.width || size.height > kMost.height) return std::nullopt;
+        return size;
+    };
+    const std::string expected = format(kLeastWindow) + " to " + format(kMost);
+    OptionValue value = parsed(place, "WIDTHxHEIGHT", expected, parse, format);
+    value.completion = "-W '640x480 1024x768 1280x720 1920x1080 2560x1440'";
+    return value;
+}
+
 OptionValue onCommandLineOnly(OptionValue value)
 {
     value.inFile = false;
@@ -59,6 +83,7 @@ std::vector<Option> makeTable()
     using Program = ProgramOptions;
     using Sound = SoundOptions;
     using Start = StartOptions;
+    using Window = WindowOptions;
     constexpr int kMostComputers = PlayerRegistration::kMaxComputerPlayers;
     // clang-format off
     return {
@@ -71,6 +96,17 @@ std::vector<Option> makeTable()
             "read the settings from another file"},
         {"Settings", "write-settings", 0, request(Request::WriteSettings),
             "write all options, as they are set now, to the settings file"},
+
+        {"Window", "size", 0, windowSize({&Options::window, &Window::size}), "how large the window is, in pixels"},
+        {"Window", "fullscreen", 'f', toggle({&Options::window, &Window::fullscreen}), "fill the monitor"},
+        {"Window", "windowed", 'w', switchOff({&Options::window, &Window::fullscreen}),
+            "leave room for other windows, as --no-fullscreen"},
+        {"Window", "monitor", 0, text({&Options::window, &Window::monitor}, "NAME", "as --list-devices names it"),
+            "where the window opens, and what it fills"},
+        {"Window", "resizable", 0, toggle({&Options::window, &Window::resizable}), "let the mouse change the size"},
+        {"Window", "vsync", 0, toggle({&Options::window, &Window::vsync}), "have frames wait for the monitor"},
+        {"Window", "wide-views", 0, toggle({&Options::view, &ViewOptions::wide}),
+            "show more to the sides where a view is wide, and less where it is tall, instead of stretching it"},
 
         {"Sound", "volume", 0, number({&Options::sound, &Sound::volume}, 0, 100), "how loud everything is"},
         {"Sound", "music-volume", 0, number({&Options::sound, &Sound::musicVolume}, 0, 100), "how loud the music is"},

@@ -39,6 +39,9 @@ struct OptionValue {
 /// On, or off by --no-NAME.
 OptionValue toggle(Place<bool> place);
 
+/// Another name for the --no-NAME of a switch in the same place; on the command line only.
+OptionValue switchOff(Place<bool> place);
+
 /// A whole number between two bounds, inclusive.
 OptionValue number(Place<int> place, int least, int most);
 

@@ -6,6 +6,7 @@
 #include "render/ModelRenderer.h"
 #include "render/ShadowMappingRender.h"
 #include "render/TextureFilters.h"
+#include "render/ViewOptions.h"
 
 #include <map>
 #include <memory>
@@ -32,7 +33,10 @@ public:
 
     /// Open the window and create everything that frames need. Return false, with a log line at level 0, when there is
     /// no display, no OpenGL 4.3 or no entry points; then nothing else may be called but terminate().
-    [[nodiscard]] bool initialize();
+    [[nodiscard]] bool initialize(const WindowOptions& windowOptions = {}, const ViewOptions& viewOptions = {});
+
+    /// Make the targets anew if the window's size has changed. Return whether it has: then the viewports no longer fit.
+    [[nodiscard]] bool followWindow();
 
     /// Draw and present one frame. The state (or null) gets its per-camera call after each viewport's models.
     void render(IGameState* state);
@@ -40,14 +44,16 @@ public:
     bool shouldClose() const;
     void terminate();
 
-    int getWidth() const { return width; }   ///< pixels
-    int getHeight() const { return height; } ///< pixels
+    int getWidth() const { return width; }   ///< of the window's framebuffer, pixels
+    int getHeight() const { return height; } ///< likewise
     AppWindow& getWindow() { return window; }
 
     void setSceneGraph(SceneGraph* graph) { sceneGraph = graph; }
     SceneGraph* getSceneGraph() const { return sceneGraph; }
-    void addViewport(Viewport* viewport) { viewports.push_back(viewport); }
-    void setViewports(const std::vector<Viewport*>& list) { viewports = list; }
+
+    /// Draw these from now on, in their order. Again after their rectangles have changed: cameras may follow them.
+    void setViewports(const std::vector<Viewport*>& list);
+
     void setDebugRenderer(DebugRenderer* renderer) { debugRenderer = renderer; }
     void setFrameProbe(IFrameProbe* newProbe) { probe = newProbe; } ///< null for none
 
@@ -75,9 +81,10 @@ public:
     void cycleMinFilter() { filters.cycleMinification(); }
 
 private:
-    bool openWindow();
+    bool openWindow(const WindowOptions& options);
     bool loadEntryPoints();
     void setFixedState();
+    void makeTargets();
 
     void updateScene();
     void renderLightDepth();
@@ -90,8 +97,9 @@ private:
     void postProcess();
     void stepDone(const char* step);
 
-    int width = 1024;
-    int height = 768;
+    int width = 0;
+    int height = 0;
+    ViewOptions views;
     bool wireframe = false;
     bool blendingAllowed = true;
     bool showFps = false;

@@ -101,6 +101,63 @@ TEST(Options, LeadStraightIntoAMatchWithItsOwnDataPlacesAndLog)
     EXPECT_EQ(game.program().count("WARNING | Not started at once: "), 1);
 }
 
+/// Return how far two pictures of any size lie apart, 0 to 255: as much as any sixteenth by twelfth of them does on an
+/// average.
+double distance(const Picture& one, const Picture& other)
+{
+    constexpr int kColumns = 16, kRows = 12;
+    const auto meanOf = [](const Picture& picture, int column, int row, int channel) {
+        const int left = picture.width * column / kColumns, right = picture.width * (column + 1) / kColumns;
+        const int top = picture.height * row / kRows, bottom = picture.height * (row + 1) / kRows;
+        double sum = 0;
+        for (int y = top; y < bottom; ++y)
+            for (int x = left; x < right; ++x)
+                sum += picture.pixels[static_cast<std::size_t>(3 * (y * picture.width + x) + channel)];
+        return sum / ((right - left) * (bottom - top));
+    };
+    double most = 0;
+    for (int cell = 0; cell < kColumns * kRows * 3; ++cell) {
+        const int column = cell % kColumns, row = cell / kColumns % kRows, channel = cell / kColumns / kRows;
+        most = std::max(most, std::abs(meanOf(one, column, row, channel) - meanOf(other, column, row, channel)));
+    }
+    return most;
+}
+
+TEST(Options, MakeTheWindowAsLargeAsTheySayAndTheViewsFillIt)
+{
+    using Size = std::pair<int, int>;
+    const auto show = [](GameSession& game, std::vector<std::string> arguments, const Size& resized = {}) {
+        for (const char* more : {"--join=arrows,wasd", "--start"}) arguments.emplace_back(more);
+        game.start({}, arguments);
+        if (resized.first > 0) game.screen().resizeWindow(resized.first, resized.second);
+        std::this_thread::sleep_for(4s); // the cars land, and come to rest
+        EXPECT_TRUE(game.screen().findWindow("Quackdash"));
+        const Picture picture = game.screen().look();
+        EXPECT_EQ(game.quit(), 0);
+        return picture;
+    };
+    const auto sizeOf = [](const Picture& picture) { return Size(picture.width, picture.height); };
+    Picture usual;
+    {
+        GameSession game;
+        usual = show(game, {});
+        EXPECT_EQ(sizeOf(usual), Size(1024, 768));
+        const Picture little = show(game, {"--size", "640x480"});
+        EXPECT_EQ(sizeOf(little), Size(640, 480));
+        EXPECT_LT(distance(usual, little), 20) << "views are stretched";
+        const Picture grown = show(game, {"--size", "500x700", "--resizable", "--vsync"}, {640, 480});
+        EXPECT_LT(changedShare(little, grown), 0.1);
+        EXPECT_GT(distance(usual, show(game, {"--wide-views"})), 40);
+        EXPECT_EQ(game.complaints(), "");
+    }
+    GameSession game("1920x1080x24");
+    const Picture whole = show(game, {"-f", "--monitor", "quack"});
+    EXPECT_EQ(sizeOf(whole), Size(1920, 1080));
+    EXPECT_LT(distance(usual, whole), 20);
+    EXPECT_EQ(game.complaints(), "WARNING | There is no monitor quack; the primary one is used\n");
+    EXPECT_EQ(game.program().count("The shadow map is cut to 5461x3072: "), 1);
+}
+
 /// What a run was heard as: samples of both sides in turn, from the first that is not silent.
 class Recording {
 public:

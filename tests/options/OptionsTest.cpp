@@ -60,6 +60,17 @@ TEST_F(OptionsTest, ComeFromTheFileUnlessTheCommandLineSaysOtherwise)
         std::string::npos);
 }
 
+TEST_F(OptionsTest, SayWhatTheWindowFillsByTheLastOfTheirNames)
+{
+    const std::pair<std::vector<std::string>, bool> rows[] = {
+        {{}, true}, {{"-w"}, false}, {{"-w", "-f"}, true}, {{"--fullscreen", "--windowed"}, false}, {{"-wf"}, true}};
+    for (const auto& [arguments, fills] : rows) {
+        const Options options = readWith("fullscreen\nsize = 320x16384", arguments).options;
+        EXPECT_EQ(options.window.fullscreen, fills) << arguments.size();
+        EXPECT_EQ(options.window.size, (WindowSize{320, 16384}));
+    }
+}
+
 TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
 {
     const std::pair<std::string, const char*> rows[] = {
@@ -74,6 +85,11 @@ TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
         {"join = wasd, pad5", "join: expected arrows, wasd, pad1, pad2, pad3, pad4, each once, not \"wasd, pad5\""},
         {"join = wasd,wasd", "join: expected arrows, wasd, pad1, pad2, pad3, pad4, each once, not \"wasd,wasd\""},
         {"seed = -1", "seed: expected 0 to 4294967295 or random, not \"-1\""},
+        {"size = 319x240", "size: expected 320x240 to 16384x16384, not \"319x240\""},
+        {"size = 1920x99999999999", "size: expected 320x240 to 16384x16384, not \"1920x99999999999\""},
+        {"size = 1920", "size: expected 320x240 to 16384x16384, not \"1920\""},
+        {"size = 1920x1080x1", "size: expected 320x240 to 16384x16384, not \"1920x1080x1\""},
+        {"windowed", "windowed: on the command line only"},
         {"data = /nowhere", "data: expected a folder that holds Shader and Textures, not \"/nowhere\""},
         {"write-settings", "write-settings: on the command line only"},
         {"[Sound]", "expected NAME = VALUE, not \"[Sound]\""},
