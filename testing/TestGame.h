@@ -22,8 +22,8 @@ public:
     }
 
     /// Seen and heard by way of another presentation.
-    TestGame(double passLength, std::unique_ptr<IPresentation> shown)
-        : QKD_Game(std::move(shown)), passSeconds(passLength)
+    TestGame(double passLength, std::unique_ptr<IPresentation> shown, const GameOptions& told = {})
+        : QKD_Game(std::move(shown), told), passSeconds(passLength)
     {
     }
 

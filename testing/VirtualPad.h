@@ -2,6 +2,7 @@
 
 #include <SDL.h>
 
+#include <array>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -52,6 +53,10 @@ public:
             static_cast<VirtualPad*>(self)->rumbles.emplace_back(left, right);
             return 0;
         };
+        description.SetLED = [](void* self, Uint8 red, Uint8 green, Uint8 blue) {
+            static_cast<VirtualPad*>(self)->colour = {red, green, blue};
+            return 0;
+        };
         device = SDL_JoystickOpen(SDL_JoystickAttachVirtualEx(&description));
         if (!device) throw std::runtime_error(SDL_GetError());
         move(SDL_CONTROLLER_AXIS_TRIGGERLEFT, SDL_JOYSTICK_AXIS_MIN); // released
@@ -81,6 +86,7 @@ public:
     std::vector<Motors> rumbles; ///< what the motors were set to, in order
     int timesAsked = 0;          ///< how often the library read it
     int light = -1;              ///< the slot that its lights show
+    std::array<int, 3> colour{}; ///< red, green, blue of its light, 0 to 255
 
 private:
     Uint16 model;

@@ -1,34 +1,40 @@
 #include "app/FunctionKeys.h"
 
+#include "platform/KeyWords.h"
 #include "platform/Keyboard.h"
 
 #include <GLFW/glfw3.h>
 
-#include <cstddef>
 #include <utility>
+
+FunctionKeys::FunctionKeys()
+{
+    keys.reserve(kKeyCount);
+    for (int i = 0; i < kKeyCount; ++i) keys.push_back({GLFW_KEY_F1 + i});
+}
 
 void FunctionKeys::bind(int number, When when, std::function<void()> action)
 {
-    bindings.push_back({number, when, std::move(action)});
+    bindings.push_back({static_cast<std::size_t>(number - 1), when, std::move(action)});
 }
 
-std::array<bool, FunctionKeys::kKeyCount> FunctionKeys::readKeys()
+void FunctionKeys::bindKey(int key, std::function<void()> action)
 {
-    std::array<bool, kKeyCount> isDown;
-    for (int i = 0; i < kKeyCount; ++i) isDown[static_cast<std::size_t>(i)] = isKeyDown(GLFW_KEY_F1 + i);
-    return isDown;
+    if (key == kNoKey) return;
+    bindings.push_back({keys.size(), When::kPressed, std::move(action)});
+    keys.push_back({key});
 }
 
 void FunctionKeys::update()
 {
-    const std::array<bool, kKeyCount> isDown = readKeys();
+    for (Key& key : keys) key.isDown = isKeyDown(key.code);
     for (const Binding& binding : bindings) {
-        const auto key = static_cast<std::size_t>(binding.number - 1);
-        const bool due = isDown[key] && (binding.when == When::kHeld || !keyWasDown[key]);
+        const Key& key = keys[binding.key];
+        const bool due = key.isDown && (binding.when == When::kHeld || !key.wasDown);
         if (due) binding.action();
     }
 
     // A second reading: a tap that was over before the first one no longer counts as down, so that the next tap is a
     // press again even when it comes in the very next pass.
-    keyWasDown = readKeys();
+    for (Key& key : keys) key.wasDown = isKeyDown(key.code);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "app/KeyOptions.h"
 #include "audio/SoundOptions.h"
+#include "input/ControlOptions.h"
 #include "match/StartOptions.h"
 #include "platform/WindowOptions.h"
 #include "render/ViewOptions.h"
@@ -11,4 +13,6 @@ struct GameOptions {
     StartOptions start;
     WindowOptions window;
     ViewOptions view;
+    ControlOptions controls;
+    KeyOptions keys;
 };

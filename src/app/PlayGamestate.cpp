@@ -4,6 +4,7 @@
 #include "app/GameStateManager.h"
 #include "app/HelpText.h"
 #include "app/QKD_Game.h"
+#include "app/ShownKeys.h"
 #include "base/Logger.h"
 #include "platform/Keyboard.h"
 #include "players/Player.h"
@@ -14,27 +15,38 @@
 
 namespace {
 
-constexpr HelpLine kHelp[] = {
-    {0, "Quackdash!"},
-    {2, " Steuerung Pfeiltasten"},
-    {3, "   Fahren     > Pfeiltasten"},
-    {4, "   Schiessen  > K"},
-    {5, "   Handbremse > L"},
-    {7, " Steuerung WASD"},
-    {8, "   Fahren     > WASD"},
-    {9, "   Schiessen  > 1"},
-    {10, "   Handbremse > 2"},
-    {12, " Steuerung XBOX"},
-    {13, "   Gas        > Rechter Trigger"},
-    {14, "   Bremsen    > Linker Trigger"},
-    {15, "   Lenken     > Linker Joystick"},
-    {16, "   Schiessen  > A"},
-    {17, "   Handbremse > B"},
-};
+std::vector<HelpLine> helpLines(const ControlOptions& controls)
+{
+    const Buttons drive{
+        InputDevice::kAccelerate, InputDevice::kBrake, InputDevice::kSteerLeft, InputDevice::kSteerRight};
+    const Buttons accelerate{InputDevice::kAccelerate}, brake{InputDevice::kBrake};
+    const Buttons steer{InputDevice::kSteerLeft, InputDevice::kSteerRight};
+    const Buttons shoot{InputDevice::kShoot}, handBrake{InputDevice::kHandBrake};
+    return {
+        {0, "Quackdash!"},
+        {2, " Steuerung Pfeiltasten"},
+        {3, "   Fahren     > " + shownKeys(controls, 0, drive, "Pfeiltasten")},
+        {4, "   Schiessen  > " + shownKeys(controls, 0, shoot, "K")},
+        {5, "   Handbremse > " + shownKeys(controls, 0, handBrake, "L")},
+        {7, " Steuerung WASD"},
+        {8, "   Fahren     > " + shownKeys(controls, 1, drive, "WASD")},
+        {9, "   Schiessen  > " + shownKeys(controls, 1, shoot, "1")},
+        {10, "   Handbremse > " + shownKeys(controls, 1, handBrake, "2")},
+        {12, " Steuerung XBOX"},
+        {13, "   Gas        > " + shownPadButtons(controls, accelerate, "Rechter Trigger")},
+        {14, "   Bremsen    > " + shownPadButtons(controls, brake, "Linker Trigger")},
+        {15, "   Lenken     > " + shownPadButtons(controls, steer, "Linker Joystick")},
+        {16, "   Schiessen  > " + shownPadButtons(controls, shoot, "A")},
+        {17, "   Handbremse > " + shownPadButtons(controls, handBrake, "B")},
+    };
+}
 
 } // namespace
 
-PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame) : IGameState(stateName), game(ownGame) {}
+PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame, const ControlOptions& controls)
+    : IGameState(stateName), game(ownGame), help(wrapped(helpLines(controls)))
+{
+}
 
 void PlayGamestate::enter()
 {
@@ -80,5 +92,5 @@ void PlayGamestate::update()
 
 void PlayGamestate::drawText(TextRenderer* text)
 {
-    writeHelp(*text, kHelp);
+    writeHelp(*text, help);
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "app/HelpText.h"
 #include "app/OverviewViewport.h"
 #include "base/IGameState.h"
+#include "input/ControlOptions.h"
 
 #include <memory>
 #include <vector>
@@ -12,7 +14,7 @@ class QKD_Game;
 /// in it. Runs until somebody quits. Owned by the game.
 class PlayGamestate final : public IGameState {
 public:
-    PlayGamestate(const std::string& stateName, QKD_Game& game);
+    PlayGamestate(const std::string& stateName, QKD_Game& game, const ControlOptions& controls);
 
     void enter() override;
     void layOut() override;
@@ -26,6 +28,7 @@ private:
     void fillFreeCell();
 
     QKD_Game& game;
+    const std::vector<HelpLine> help;
     std::vector<Viewport*> viewports;
     std::vector<std::unique_ptr<OverviewViewport>>
         overviews; // one more for each entry that leaves a cell free: their node keeps its cameras

@@ -11,6 +11,7 @@
 #include "audio/AudioSystem.h"
 #include "base/FrameTimer.h"
 #include "base/Logger.h"
+#include "platform/KeyWords.h"
 #include "players/Player.h"
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
@@ -101,8 +102,8 @@ void QKD_Game::setUpText()
 
 void QKD_Game::createStates()
 {
-    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this);
-    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this);
+    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options.controls);
+    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this, options.controls);
     debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
 
     GameStateManager* states = getCore()->getStateManager();
@@ -141,6 +142,8 @@ void QKD_Game::bindFunctionKeys()
     functionKeys.bind(5, When::kPressed, [this] { renderer.cycleMinFilter(); });
     functionKeys.bind(2, When::kPressed, [this] { renderer.toggleFpsDisplay(); });
     functionKeys.bind(1, When::kHeld, [this] { showHelp(); });
+    functionKeys.bindKey(keyOf(options.keys.screenshot), [this] { screenshot.takeNext(); });
+    functionKeys.bindKey(keyOf(options.keys.fullscreen), [this] { renderer.getWindow().toggleFullscreen(); });
 }
 
 void QKD_Game::showHelp()

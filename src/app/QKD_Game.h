@@ -3,6 +3,7 @@
 #include "app/FunctionKeys.h"
 #include "app/Game.h"
 #include "app/Scenery.h"
+#include "app/Screenshot.h"
 #include "audio/SoundData.h"
 #include "base/ReadAhead.h"
 #include "gpu/Texture.h"
@@ -57,6 +58,7 @@ private:
 
     Renderer& renderer;
     FunctionKeys functionKeys;
+    Screenshot screenshot{renderer};
     std::unique_ptr<IPresentation> presentation;
     std::unique_ptr<MatchWorld> world;
     std::unique_ptr<Scenery> scenery;

@@ -4,6 +4,7 @@
 #include "app/GameStateManager.h"
 #include "app/HelpText.h"
 #include "app/QKD_Game.h"
+#include "app/ShownKeys.h"
 #include "base/Logger.h"
 #include "platform/Keyboard.h"
 #include "render/Renderer.h"
@@ -15,19 +16,23 @@
 
 namespace {
 
-constexpr HelpLine kHelp[] = {
-    {0, "Quackdash!"},
-    {2, "  Schiesse deine Gegner ab ohne"},
-    {3, "  selbst abgeschossen zu werden"},
-    {4, "  und werde der Punkte-Champion"},
-    {6, "Bitte registriere deine Spieler"},
-    {8, "Steuerung:"},
-    {9, "  Pfeiltasten > K"},
-    {10, "  WASD        > 1"},
-    {11, "  XBOX        > A"},
-    {13, "Um das Spiel zu starten:"},
-    {14, "  Enter oder Start"},
-};
+std::vector<HelpLine> helpLines(const ControlOptions& controls)
+{
+    const Buttons shoot{InputDevice::kShoot};
+    return {
+        {0, "Quackdash!"},
+        {2, "  Schiesse deine Gegner ab ohne"},
+        {3, "  selbst abgeschossen zu werden"},
+        {4, "  und werde der Punkte-Champion"},
+        {6, "Bitte registriere deine Spieler"},
+        {8, "Steuerung:"},
+        {9, "  Pfeiltasten > " + shownKeys(controls, 0, shoot, "K")},
+        {10, "  WASD        > " + shownKeys(controls, 1, shoot, "1")},
+        {11, "  XBOX        > " + shownPadButtons(controls, shoot, "A")},
+        {13, "Um das Spiel zu starten:"},
+        {14, "  " + shownStart(controls, "Enter oder Start")},
+    };
+}
 
 /// High above the field's edge, looking down onto it.
 Node& createPanoramaNode(QKD_Game& game)
@@ -42,9 +47,10 @@ Node& createPanoramaNode(QKD_Game& game)
 
 } // namespace
 
-RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame)
+RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame,
+    const ControlOptions& controls)
     : IGameState(stateName), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)),
-      registration(ownGame.getMatch())
+      registration(ownGame.getMatch(), controls), help(wrapped(helpLines(controls)))
 {
 }
 
@@ -83,5 +89,5 @@ void RegisterPlayersGamestate::admit(const StartOptions& start)
 
 void RegisterPlayersGamestate::drawText(TextRenderer* text)
 {
-    writeHelp(*text, kHelp);
+    writeHelp(*text, help);
 }

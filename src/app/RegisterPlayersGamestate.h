@@ -1,8 +1,11 @@
 #pragma once
 
+#include "app/HelpText.h"
 #include "app/OverviewViewport.h"
 #include "base/IGameState.h"
 #include "match/PlayerRegistration.h"
+
+#include <vector>
 
 class QKD_Game;
 
@@ -11,7 +14,7 @@ class QKD_Game;
 class RegisterPlayersGamestate final : public IGameState {
 public:
     /// Add the node "PanoramaCamera" to the game's scene.
-    RegisterPlayersGamestate(const std::string& stateName, QKD_Game& game);
+    RegisterPlayersGamestate(const std::string& stateName, QKD_Game& game, const ControlOptions& controls);
 
     /// Have those join who need not press anything; with start.atOnce, go on to the match, unless (with a log line) too
     /// few take part. Once, when world and sounds are there.
@@ -28,4 +31,5 @@ private:
     QKD_Game& game;
     OverviewViewport view;
     PlayerRegistration registration;
+    const std::vector<HelpLine> help;
 };

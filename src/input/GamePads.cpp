@@ -6,54 +6,31 @@
 #include <SDL.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 constexpr Uint32 kLongestRumbleMs = 0xFFFF; // what the library grants at most
 
-struct ButtonRole {
-    SDL_GameControllerButton source;
-    GamePadState::Button bit;
-};
-
-constexpr ButtonRole kButtons[] = {
-    {SDL_CONTROLLER_BUTTON_DPAD_UP, GamePadState::kUp},
-    {SDL_CONTROLLER_BUTTON_DPAD_DOWN, GamePadState::kDown},
-    {SDL_CONTROLLER_BUTTON_DPAD_LEFT, GamePadState::kLeft},
-    {SDL_CONTROLLER_BUTTON_DPAD_RIGHT, GamePadState::kRight},
-    {SDL_CONTROLLER_BUTTON_START, GamePadState::kStart},
-    {SDL_CONTROLLER_BUTTON_BACK, GamePadState::kBack},
-    {SDL_CONTROLLER_BUTTON_A, GamePadState::kA},
-    {SDL_CONTROLLER_BUTTON_B, GamePadState::kB},
-};
-
-// Return 0..32767 as 0..255, in equal steps.
-std::uint8_t triggerByte(Sint16 value)
-{
-    return static_cast<std::uint8_t>(std::max<int>(value, 0) / 128);
-}
-
-// The library counts downwards. The complement maps its whole range onto the whole range (negation would run over at
-// -32768); rest comes out as -1, far within any dead zone.
-std::int16_t upwards(Sint16 value)
-{
-    return static_cast<std::int16_t>(-1 - value);
-}
+static_assert(SDL_CONTROLLER_BUTTON_MAX <= 32 && SDL_CONTROLLER_AXIS_MAX == GamePadState::kAxisCount);
 
 GamePadState stateOf(SDL_GameController* pad)
 {
     GamePadState state;
     if (!pad) return state;
     state.connected = true;
-    for (const ButtonRole& button : kButtons) {
-        if (SDL_GameControllerGetButton(pad, button.source))
-            state.buttons = static_cast<std::uint16_t>(state.buttons | button.bit);
-    }
-    state.leftTrigger = triggerByte(SDL_GameControllerGetAxis(pad, SDL_CONTROLLER_AXIS_TRIGGERLEFT));
-    state.rightTrigger = triggerByte(SDL_GameControllerGetAxis(pad, SDL_CONTROLLER_AXIS_TRIGGERRIGHT));
-    state.leftStickX = SDL_GameControllerGetAxis(pad, SDL_CONTROLLER_AXIS_LEFTX);
-    state.leftStickY = upwards(SDL_GameControllerGetAxis(pad, SDL_CONTROLLER_AXIS_LEFTY));
+    for (int button = 0; button < SDL_CONTROLLER_BUTTON_MAX; ++button)
+        if (SDL_GameControllerGetButton(pad, static_cast<SDL_GameControllerButton>(button)))
+            state.buttons |= std::uint32_t(1) << button;
+    for (int axis = 0; axis < SDL_CONTROLLER_AXIS_MAX; ++axis)
+        state.axes[static_cast<std::size_t>(axis)] =
+            SDL_GameControllerGetAxis(pad, static_cast<SDL_GameControllerAxis>(axis));
     return state;
+}
+
+Uint8 lightByte(float component)
+{
+    return static_cast<Uint8>(std::lround(std::clamp(component, 0.0f, 1.0f) * 255));
 }
 
 std::string textOf(const char* text)
@@ -117,6 +94,20 @@ void GamePads::rumble(int slot, std::uint16_t leftMotor, std::uint16_t rightMoto
 {
     SDL_GameController* pad = handleIn(slot);
     if (pad) SDL_GameControllerRumble(pad, leftMotor, rightMotor, kLongestRumbleMs);
+}
+
+void GamePads::setLight(int slot, const glm::vec3& colour)
+{
+    lights[static_cast<std::size_t>(slot)] = colour;
+    showLight(slot);
+}
+
+void GamePads::showLight(int slot)
+{
+    const std::optional<glm::vec3>& colour = lights[static_cast<std::size_t>(slot)];
+    SDL_GameController* const pad = handleIn(slot);
+    if (colour && pad && SDL_GameControllerHasLED(pad))
+        SDL_GameControllerSetLED(pad, lightByte(colour->r), lightByte(colour->g), lightByte(colour->b));
 }
 
 void GamePads::start()
@@ -192,6 +183,7 @@ void GamePads::assignSlots()
         const int slot = slots.slotOf(pad.id);
         if (slot != before.slotOf(pad.id)) {
             SDL_GameControllerSetPlayerIndex(handleIn(slot), slot); // the number that the pad's lights show
+            showLight(slot);
             const std::string& replaced = slots.replacedIn(slot);
             logLine(2) << "Game-pad " << slot + 1 << " plugged in: " << pad.name
                        << (replaced.empty() ? "" : ", in place of " + replaced) << std::endl;

@@ -2,10 +2,13 @@
 
 #include "input/GamePadSlots.h"
 
+#include <glm/vec3.hpp>
+
 #include <array>
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,23 +16,15 @@ struct _SDL_GameController;
 
 /// What one game-pad shows at one moment; all at rest while there is none.
 struct GamePadState {
-    enum Button : std::uint16_t {
-        kUp = 1 << 0, // the D-pad's four
-        kDown = 1 << 1,
-        kLeft = 1 << 2,
-        kRight = 1 << 3,
-        kStart = 1 << 4,
-        kBack = 1 << 5,
-        kA = 1 << 6,
-        kB = 1 << 7,
-    };
+    static constexpr int kAxisCount = 6;
 
     bool connected = false;
-    std::uint16_t buttons = 0;     ///< Buttons held down, or'ed
-    std::uint8_t leftTrigger = 0;  ///< 0 (released) to 255
-    std::uint8_t rightTrigger = 0; ///< 0 (released) to 255
-    std::int16_t leftStickX = 0;   ///< -32768 (left) to 32767 (right)
-    std::int16_t leftStickY = 0;   ///< -32768 (down) to 32767 (up)
+    std::uint32_t buttons = 0;                   ///< a bit for each that is held, by SDL's number
+    std::array<std::int16_t, kAxisCount> axes{}; ///< by SDL's number: triggers 0 (released) to 32767; sticks -32768
+                                                 ///< (left, up) to 32767 (right, down)
+
+    bool isHeld(int button) const { return (buttons >> button & 1) != 0; }
+    std::int16_t axis(int number) const { return axes[static_cast<std::size_t>(number)]; }
 };
 
 /// The machine's game-pads in four stable slots, by SDL's game-controller interface. Pads may come and go at any time;
@@ -52,6 +47,9 @@ public:
     /// no pad.
     void rumble(int slot, std::uint16_t leftMotor, std::uint16_t rightMotor);
 
+    /// Have the pad in a slot, now and whenever one comes, show a colour (red, green, blue, 0 to 1) if it has a light.
+    void setLight(int slot, const glm::vec3& colour);
+
     /// Note that from now on a player drives with this slot (0 to 3): should the pad be lost, the next one takes it.
     void setJoined(int slot) { slots.setJoined(slot); }
 
@@ -67,6 +65,7 @@ private:
     void closeDeparted();
     void openArrivals();
     void assignSlots();
+    void showLight(int slot);
     _SDL_GameController* handleIn(int slot) const;
 
     enum class Library { kNotStarted, kRunning, kFailed } library = Library::kNotStarted;
@@ -76,6 +75,7 @@ private:
     std::map<int, Handle> handles;          // theirs, by id
     GamePadSlots slots;
     std::array<GamePadState, kSlotCount> states;
+    std::array<std::optional<glm::vec3>, kSlotCount> lights;
 };
 
 /// Return the names of the game-pads that are plugged in, in the order in which they get slots. Call it while there are

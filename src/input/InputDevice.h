@@ -1,5 +1,7 @@
 #pragma once
 
+#include <glm/vec3.hpp>
+
 #include <cstdint>
 #include <string>
 
@@ -18,6 +20,7 @@ public:
         kHandBrake = 5,
         kStart = 6,
     };
+    static constexpr int kButtonCount = 7;
 
     enum Axis {
         kThrottleAxis = 0,      ///< 0 to 1
@@ -36,6 +39,9 @@ public:
 
     /// Note that from now on somebody takes part with this device.
     virtual void setJoined() {}
+
+    /// Show that colour (red, green, blue, 0 to 1), that of its car, where the device has a light.
+    virtual void setLight(const glm::vec3&) {}
 
     virtual void update() = 0; ///< read the hardware for this frame
     virtual bool isConnected() = 0;

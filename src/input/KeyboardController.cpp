@@ -1,26 +1,27 @@
 #include "input/KeyboardController.h"
 
+#include "platform/KeyWords.h"
 #include "platform/Keyboard.h"
 
 #include <GLFW/glfw3.h>
 
+#include <algorithm>
+
 namespace {
-
-constexpr int kButtonCount = 7;
-
-// By key set, then by button.
-constexpr int kKeys[2][kButtonCount] = {
-    {GLFW_KEY_UP, GLFW_KEY_DOWN, GLFW_KEY_LEFT, GLFW_KEY_RIGHT, GLFW_KEY_K, GLFW_KEY_L, GLFW_KEY_ENTER},
-    {GLFW_KEY_W, GLFW_KEY_S, GLFW_KEY_A, GLFW_KEY_D, GLFW_KEY_1, GLFW_KEY_2, GLFW_KEY_TAB},
-};
 
 constexpr const char* kNames[2] = {"Pfeil", "WASD"};
 
 } // namespace
 
+KeyboardController::KeyboardController(int layout, const ControlOptions& controls) : keySet(layout - 1)
+{
+    const ControlOptions::Words& words = controls.halves.at(static_cast<std::size_t>(keySet));
+    std::transform(words.begin(), words.end(), keys.begin(), keyOf);
+}
+
 bool KeyboardController::isPressed(int button)
 {
-    return button >= 0 && button < kButtonCount && isKeyDown(kKeys[keySet][button]);
+    return button >= 0 && button < kButtonCount && isKeyDown(keys[static_cast<std::size_t>(button)]);
 }
 
 float KeyboardController::getAxis(int axis)

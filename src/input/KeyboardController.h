@@ -1,13 +1,17 @@
 #pragma once
 
+#include "input/ControlOptions.h"
 #include "input/InputDevice.h"
 
-/// One half of the keyboard: the arrow keys with K, L and Enter, or W, A, S, D with 1, 2 and Tab. Always connected;
-/// cannot rumble. Throttle and steering are all or nothing: the car's own input smoothing makes ramps of them.
+#include <array>
+
+/// One half of the keyboard: usually the arrow keys with K, L and Enter, or W, A, S, D with 1, 2 and Tab. Always
+/// connected; cannot rumble. Throttle and steering are all or nothing: the car's own input smoothing makes ramps of
+/// them.
 class KeyboardController : public InputDevice {
 public:
     /// layout: 1 for the arrow keys, 2 for W, A, S, D.
-    explicit KeyboardController(int layout) : keySet(layout - 1) {}
+    explicit KeyboardController(int layout, const ControlOptions& controls = {});
 
     bool isPressed(int button) override;
     float getAxis(int axis) override;
@@ -21,5 +25,6 @@ public:
 private:
     float amount(int button) { return isPressed(button) ? 1.0f : 0.0f; }
 
-    int keySet; // row of the key table, 0 or 1
+    int keySet;                         // 0 or 1
+    std::array<int, kButtonCount> keys; // GLFW's, by button
 };

@@ -2,50 +2,59 @@
 
 #include "base/FrameTimer.h"
 
+#include <SDL.h>
+
 namespace {
 
-constexpr int kButtonCount = 7;
+constexpr float kPressed = 0.5f; // of the way, from which on triggers and sticks count as pressed
 
-// By InputDevice::Button.
-constexpr GamePadState::Button kButtons[kButtonCount] = {
-    GamePadState::kUp,
-    GamePadState::kDown,
-    GamePadState::kLeft,
-    GamePadState::kRight,
-    GamePadState::kA,
-    GamePadState::kB,
-    GamePadState::kStart,
+// By InputDevice::Button: nobody drives with these, but somebody who looks on may.
+constexpr SDL_GameControllerButton kDirections[] = {
+    SDL_CONTROLLER_BUTTON_DPAD_UP,
+    SDL_CONTROLLER_BUTTON_DPAD_DOWN,
+    SDL_CONTROLLER_BUTTON_DPAD_LEFT,
+    SDL_CONTROLLER_BUTTON_DPAD_RIGHT,
 };
 
-constexpr float kTriggerRange = 255.0f;
-constexpr float kStickRange = 32768.0f;
-constexpr int kDeadZone = 7849; // smaller deflections count as rest
-
-float triggerAmount(std::uint8_t value)
+// The library counts downwards. The complement maps its whole range onto the whole range (negation would run over at
+// -32768); rest comes out as -1, far within any dead zone.
+std::int16_t upwards(std::int16_t value)
 {
-    return static_cast<float>(value) / kTriggerRange;
+    return static_cast<std::int16_t>(-1 - value);
 }
 
-float stickAmount(std::int16_t value)
+std::uint16_t weakened(std::uint16_t speed, int percent)
 {
-    const bool resting = value > -kDeadZone && value < kDeadZone;
-    return resting ? 0.0f : static_cast<float>(value) / kStickRange;
+    return static_cast<std::uint16_t>(speed * percent / 100);
 }
 
 } // namespace
 
+XBOXController::XBOXController(int number, GamePads& pads, const ControlOptions& controls)
+    : slot(number - 1), hardware(pads), deadZone(deadZoneOf(controls.deadZone)), rumble(controls.rumble)
+{
+    for (const std::string& word : controls.pads.at(static_cast<std::size_t>(slot))) inputs.emplace_back(word);
+}
+
 bool XBOXController::isPressed(int button)
 {
-    return button >= 0 && button < kButtonCount && (state.buttons & kButtons[button]) != 0;
+    if (button < 0 || button >= kButtonCount) return false;
+    if (button <= kSteerRight) return state.isHeld(kDirections[button]);
+    return amount(button) >= kPressed;
+}
+
+float XBOXController::amount(int button) const
+{
+    return inputs[static_cast<std::size_t>(button)].amount(state, deadZone);
 }
 
 float XBOXController::getAxis(int axis)
 {
     switch (axis) {
-    case kThrottleAxis: return triggerAmount(state.rightTrigger);
-    case kBrakeAxis: return -triggerAmount(state.leftTrigger);
-    case kSteeringAxis: return stickAmount(state.leftStickX);
-    case kStickVerticalAxis: return stickAmount(state.leftStickY);
+    case kThrottleAxis: return amount(kAccelerate);
+    case kBrakeAxis: return -amount(kBrake);
+    case kSteeringAxis: return amount(kSteerRight) - amount(kSteerLeft);
+    case kStickVerticalAxis: return stickAmount(upwards(state.axis(SDL_CONTROLLER_AXIS_LEFTY)), deadZone);
     default: return 0.0f;
     }
 }
@@ -54,12 +63,17 @@ void XBOXController::vibrate(int milliseconds, std::uint16_t leftMotor, std::uin
 {
     vibrationEnd = FrameTimer::getInstance()->getTimeMs() + milliseconds;
     vibrating = true;
-    hardware.rumble(slot, leftMotor, rightMotor);
+    hardware.rumble(slot, weakened(leftMotor, rumble), weakened(rightMotor, rumble));
 }
 
 void XBOXController::setJoined()
 {
     hardware.setJoined(slot);
+}
+
+void XBOXController::setLight(const glm::vec3& colour)
+{
+    hardware.setLight(slot, colour);
 }
 
 void XBOXController::update()
@@ -84,10 +98,10 @@ std::string XBOXController::getName() const
 
 bool XBOXController::isStartPressed()
 {
-    return (state.buttons & GamePadState::kStart) != 0;
+    return state.isHeld(SDL_CONTROLLER_BUTTON_START);
 }
 
 bool XBOXController::isBackPressed()
 {
-    return (state.buttons & GamePadState::kBack) != 0;
+    return state.isHeld(SDL_CONTROLLER_BUTTON_BACK);
 }

@@ -10,14 +10,15 @@
 
 #include <algorithm>
 
-PlayerRegistration::PlayerRegistration(Match& ownMatch) : match(ownMatch)
+PlayerRegistration::PlayerRegistration(Match& ownMatch, const ControlOptions& controls) : match(ownMatch)
 {
     constexpr int kPadCount = 4;
     constexpr int kKeyboardLayouts = 2;
     std::size_t next = 0;
-    for (int pad = 1; pad <= kPadCount; ++pad) slots[next++].device = std::make_unique<XBOXController>(pad);
+    for (int pad = 1; pad <= kPadCount; ++pad)
+        slots[next++].device = std::make_unique<XBOXController>(pad, gamePads(), controls);
     for (int layout = 1; layout <= kKeyboardLayouts; ++layout)
-        slots[next++].device = std::make_unique<KeyboardController>(layout);
+        slots[next++].device = std::make_unique<KeyboardController>(layout, controls);
 }
 
 void PlayerRegistration::update()

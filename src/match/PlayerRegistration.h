@@ -1,5 +1,6 @@
 #pragma once
 
+#include "input/ControlOptions.h"
 #include "input/InputDevice.h"
 #include "match/StartOptions.h"
 
@@ -17,7 +18,7 @@ public:
     static constexpr int kMaxComputerPlayers = 10;
 
     /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
-    explicit PlayerRegistration(Match& match);
+    explicit PlayerRegistration(Match& match, const ControlOptions& controls = {});
 
     /// Have those join who need not press anything: the devices in their order, then the computer players.
     void admit(const StartOptions& start);

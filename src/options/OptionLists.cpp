@@ -31,11 +31,10 @@ std::vector<std::string> namesOf(const Option& option)
 std::string manualText()
 {
     std::string page, group;
-    for (const Option& option : optionTable()) {
-        if (option.group.empty()) continue;
-        if (option.group != group) page += ".SS " + option.group + "\n";
-        group = option.group;
-        page += ".TP\n.B " + forTroff(option.usage()) + "\n" + forTroff(option.description()) + ".\n";
+    for (const Option* option : shownOptions()) {
+        if (option->group != group) page += ".SS " + option->group + "\n";
+        group = option->group;
+        page += ".TP\n.B " + forTroff(option->usage()) + "\n" + forTroff(option->shownHelp()) + ".\n";
     }
     return page;
 }
@@ -43,13 +42,17 @@ std::string manualText()
 std::string completionText()
 {
     std::vector<std::string> all;
-    std::string cases;
+    std::map<std::string, std::vector<std::string>> namesByList; // of those that something follows
     for (const Option& option : optionTable()) {
         if (option.group.empty()) continue;
         const std::vector<std::string> names = namesOf(option);
         all.insert(all.end(), names.begin(), names.end());
         if (option.value.placeholder.empty()) continue;
-        const std::string& list = option.value.completion;
+        std::vector<std::string>& alike = namesByList[option.value.completion];
+        alike.insert(alike.end(), names.begin(), names.end());
+    }
+    std::string cases;
+    for (const auto& [list, names] : namesByList) {
         cases += "        " + joined(names, " | ") + ") ";
         cases += list.empty() ? ";;\n" : "mapfile -t COMPREPLY < <(compgen " + list + " -- \"$word\") ;;\n";
     }

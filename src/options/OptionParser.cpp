@@ -91,8 +91,8 @@ std::string complaint(const CLI::ParseError& error)
     return option->name + ": expected " + (option->value.placeholder.empty() ? "no value" : option->value.expected);
 }
 
-/// Return what is wrong with a line of the settings file, or nothing.
-std::string parseLine(CLI::App& app, const std::string& line)
+/// Return what is wrong with a line of the settings file, or nothing. name: the option that it is about.
+std::string parseLine(CLI::App& app, const std::string& line, std::string& name)
 {
     std::istringstream first(line), second(line);
     const std::vector<CLI::ConfigItem> items = app.get_config_formatter()->from_config(first);
@@ -100,6 +100,7 @@ std::string parseLine(CLI::App& app, const std::string& line)
     const CLI::ConfigItem& item = items[0];
     const Option* const option = findOption(item.name);
     if (!option) return "there is no option " + quoted(item.name);
+    name = option->name;
     if (!option->value.inFile) return item.name + ": on the command line only";
 
     const bool isBare = line.find('=') == std::string::npos;
@@ -123,7 +124,7 @@ bool saysNothing(const std::string& line)
 
 } // namespace
 
-std::string parseArguments(const std::vector<std::string>& arguments, Options& options)
+std::string parseArguments(const std::vector<std::string>& arguments, Options& options, SetWhere& where)
 {
     const auto app = makeApp(options, "", false);
     try {
@@ -133,12 +134,14 @@ std::string parseArguments(const std::vector<std::string>& arguments, Options& o
     } catch (const CLI::ParseError& error) {
         return "--" + complaint(error);
     }
+    for (const Option& option : optionTable())
+        if (app->get_option("--" + option.name)->count() > 0) where[option.name] = kOnCommandLine;
     const std::vector<std::string> rest = app->remaining();
     if (rest.empty()) return "";
     return (rest[0].starts_with('-') ? "there is no option " : "expected options only, not ") + quoted(rest[0]);
 }
 
-std::vector<std::string> parseSettings(const std::filesystem::path& file, Options& options)
+std::vector<std::string> parseSettings(const std::filesystem::path& file, Options& options, SetWhere& where)
 {
     std::error_code error;
     if (!std::filesystem::exists(file, error) && !error) return {};
@@ -153,8 +156,10 @@ std::vector<std::string> parseSettings(const std::filesystem::path& file, Option
     for (int number = 1; std::getline(input, line); ++number) {
         if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
         if (saysNothing(line)) continue;
-        const std::string fault = parseLine(*app, line);
-        if (!fault.empty()) complaints.push_back(file.string() + ":" + std::to_string(number) + ": " + fault);
+        std::string name;
+        const std::string fault = parseLine(*app, line, name);
+        if (fault.empty()) where[name] = number;
+        else complaints.push_back(file.string() + ":" + std::to_string(number) + ": " + fault);
     }
     return complaints;
 }
@@ -176,6 +181,9 @@ std::string helpText()
 {
     Options unused;
     const auto app = makeApp(unused, "Quackdash: car combat with ducks on one shared screen.", false);
+    for (const Option& option : optionTable()) app->get_option("--" + option.name)->group(""); // not shown
+    for (const Option* option : shownOptions())
+        app->get_option("--" + option->name)->group(option->group)->description(option->shownHelp());
     app->formatter(std::make_shared<HelpFormatter>());
     app->get_formatter()->column_width(kHelpColumn);
     app->footer("They may also stand in $XDG_CONFIG_HOME/quackdash/quackdash.conf, or else in\n"

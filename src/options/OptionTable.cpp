@@ -1,6 +1,7 @@
 #include "options/OptionTable.h"
 
 #include "match/PlayerRegistration.h"
+#include "options/ControlRows.h"
 #include "platform/DataFolder.h"
 
 #include <charconv>
@@ -78,7 +79,7 @@ const Words<JoinDevice> kJoinDevices = {
     {"pad4", JoinDevice::Pad4},
 };
 
-std::vector<Option> makeTable()
+std::vector<Option> rows()
 {
     using Program = ProgramOptions;
     using Sound = SoundOptions;
@@ -136,10 +137,18 @@ std::vector<Option> makeTable()
     // clang-format on
 }
 
+std::vector<Option> makeTable()
+{
+    std::vector<Option> table = rows();
+    for (Option& row : controlRows()) table.push_back(std::move(row));
+    return table;
+}
+
 } // namespace
 
 std::string Option::usage() const
 {
+    if (family) return family->usage;
     std::string usage = letter ? std::string("-") + letter + ", --" : "--";
     if (value.hasOpposite) usage += "[no-]";
     usage += name;
@@ -160,6 +169,18 @@ const std::vector<Option>& optionTable()
 {
     static const std::vector<Option> table = makeTable();
     return table;
+}
+
+std::vector<const Option*> shownOptions()
+{
+    std::vector<const Option*> shown;
+    const OptionFamily* last = nullptr;
+    for (const Option& option : optionTable()) {
+        const bool isFirst = !option.family || option.family != last;
+        if (isFirst && !option.group.empty()) shown.push_back(&option);
+        last = option.family;
+    }
+    return shown;
 }
 
 const Option* findOption(const std::string& name)

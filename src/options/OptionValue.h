@@ -12,6 +12,11 @@
 /// A member of Options, given as the member of Options that holds its struct and the member of that struct.
 template <class T>
 struct Place {
+    Place(std::function<const T&(const Options&)> getter, std::function<void(Options&, T)> setter)
+        : get(std::move(getter)), set(std::move(setter))
+    {
+    }
+
     template <class Base, class Struct>
     Place(Struct Base::*part, T Struct::*member)
         : get([=](const Options& options) -> const T& { return options.*part.*member; }),
@@ -34,6 +39,7 @@ struct OptionValue {
     bool isPlain = false;                             ///< the placeholder says all that is expected
     bool hasOpposite = false;                         ///< --no-NAME is there too
     bool inFile = true;                               ///< may stand in the settings file
+    std::string rivals = {}; ///< no two of the options that share this word may be set to the same; empty: none
 };
 
 /// On, or off by --no-NAME.

@@ -22,13 +22,24 @@ ReadOptions readOptions(const std::vector<std::string>& arguments)
 {
     ReadOptions read;
     Options asked; // by the command line alone, which may name the file
-    read.fault = parseArguments(arguments, asked);
+    SetWhere ignored, where;
+    read.fault = parseArguments(arguments, asked, ignored);
     if (read.fault.empty()) read.fault = findFault(asked.program);
     if (!read.fault.empty()) return read;
 
     read.settingsFile = asked.program.config.empty() ? userFile(UserFolder::Settings, "quackdash.conf")
                                                      : fs::path(asked.program.config);
-    read.complaints = parseSettings(read.settingsFile, read.options);
-    read.fault = parseArguments(arguments, read.options);
+    read.complaints = parseSettings(read.settingsFile, read.options, where);
+    read.fault = parseArguments(arguments, read.options, where);
+    while (read.fault.empty()) {
+        const auto rivalry = findRivalry(read.options, where, read.settingsFile);
+        if (!rivalry) break;
+        if (where.at(rivalry->loser) == kOnCommandLine) {
+            read.fault = rivalry->fault;
+        } else {
+            read.complaints.push_back(rivalry->fault);
+            resetOption(rivalry->loser, read.options, where);
+        }
+    }
     return read;
 }

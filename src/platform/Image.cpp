@@ -1,12 +1,14 @@
 #include "platform/Image.h"
 
+#include <png.h>
 #include <stb/stb_image.h>
 #include <stb/stb_image_resize.h>
 
 #include <algorithm>
 #include <bit>
+#include <cerrno>
 #include <cstdint>
-#include <filesystem>
+#include <cstdio>
 #include <fstream>
 
 namespace {
@@ -65,6 +67,26 @@ std::optional<Image> readTga(const std::string& path, std::string& error)
     stbi_image_free(decoded);
     if (image.pixels.empty()) return std::nullopt;
     return image;
+}
+
+std::error_code writeNewPng(const Image& image, const std::filesystem::path& path)
+{
+    std::FILE* const file = std::fopen(path.c_str(), "wbx");
+    if (!file) return {errno, std::generic_category()};
+    png_image png{};
+    png.version = PNG_IMAGE_VERSION;
+    png.width = static_cast<png_uint_32>(image.width);
+    png.height = static_cast<png_uint_32>(image.height);
+    png.format = PNG_FORMAT_RGB;
+    png.flags = PNG_IMAGE_FLAG_FAST; // somebody waits for the next frame
+    errno = 0;
+    const int upwards = -image.width * image.channels;
+    const bool isEncoded = png_image_write_to_stdio(&png, file, 0, image.pixels.data(), upwards, nullptr) != 0;
+    if (std::fclose(file) == 0 && isEncoded) return {};
+    const std::error_code failure(errno != 0 ? errno : EIO, std::generic_category());
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
+    return failure;
 }
 
 Image resampledToPowersOfTwo(Image image)

@@ -1,5 +1,7 @@
 #include "platform/UserFolders.h"
 
+#include <glib.h>
+
 #include <cstdlib>
 
 namespace fs = std::filesystem;
@@ -35,4 +37,10 @@ fs::path userFile(UserFolder folder, const std::string& name)
         base /= place.belowHome;
     }
     return base / "quackdash" / name;
+}
+
+fs::path picturesFolder()
+{
+    const char* const set = g_get_user_special_dir(G_USER_DIRECTORY_PICTURES);
+    return set ? fs::path(set) : fs::path(g_get_home_dir()) / "Pictures";
 }

@@ -12,3 +12,7 @@ enum class UserFolder {
 /// Return where the game's own file of that name belongs; empty when the user has neither the folder nor a home.
 /// Nothing is made.
 std::filesystem::path userFile(UserFolder folder, const std::string& name);
+
+/// Return the folder of the user's pictures, as the desktop has it (xdg-user-dirs), or else ~/Pictures. Nothing is
+/// made.
+std::filesystem::path picturesFolder();

@@ -79,6 +79,7 @@ void Player::setUp()
     nodes.exhaust = createExhaustNode();
     for (unsigned wheel = 0; wheel < nodes.wheels.size(); ++wheel) nodes.wheels[wheel] = createWheel(wheel);
     models = &presentation.addCar(nodes, getColor());
+    device.setLight(getColor());
     vehicle->forceGear(physx::PxVehicleGearsData::eFIRST);
     if (hasSound()) startEngine();
     respawn();

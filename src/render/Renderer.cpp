@@ -3,6 +3,7 @@
 #include "base/FrameTimer.h"
 #include "base/IGameState.h"
 #include "base/Logger.h"
+#include "platform/Image.h"
 #include "render/DebugRenderer.h"
 #include "render/FrameProbe.h"
 #include "render/GlDebug.h"
@@ -140,6 +141,7 @@ void Renderer::render(IGameState* state)
     renderViewports(state);
     renderText();
     if (!wireframe) postProcess();
+    stepDone("picture");
     window.swapBuffers();
     stepDone("swap");
 }
@@ -239,6 +241,16 @@ void Renderer::postProcess()
     if (usable) post.celPostProc();
     else post.showUnprocessed(targets->scene);
     stepDone("CelPostProc");
+}
+
+Image Renderer::readPicture() const
+{
+    constexpr int kChannels = 3;
+    Image picture{width, height, kChannels, {}};
+    picture.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * kChannels);
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glReadPixels(0, 0, width, height, GL_RGB, GL_UNSIGNED_BYTE, picture.pixels.data());
+    return picture;
 }
 
 void Renderer::stepDone(const char* step)

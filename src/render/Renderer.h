@@ -16,6 +16,7 @@
 class DebugRenderer;
 class IFrameProbe;
 class IGameState;
+struct Image;
 class SceneGraph;
 class TextRenderer;
 class Viewport;
@@ -68,6 +69,9 @@ public:
 
     float getPixelsPerUnit(const glm::vec3& position) const override;
     bool mayBeShaded(const glm::mat4& toWorld, const glm::vec3& min, const glm::vec3& max) const override;
+
+    /// Return the frame as the window will show it, in red, green and blue. At the step "picture" only.
+    Image readPicture() const;
 
     void setBlending(bool on); ///< off whatever `on` says while blending is not allowed
     void cullFrontFaces() override;

@@ -21,7 +21,9 @@ class FullHouse : public StoryGame {
 public:
     static void SetUpTestSuite()
     {
-        StoryGame::SetUpTestSuite();
+        GameOptions options;
+        options.controls.pads[2][InputDevice::kShoot] = "x";
+        begin(options);
         library = std::make_unique<PadLibrary>();
         for (int i = 0; i < kPadCount; ++i) pads.emplace_back();
     }
@@ -47,6 +49,15 @@ protected:
         }
     }
 
+    static void shoot(bool down)
+    {
+        for (std::size_t i = 0; i < kPadCount; ++i) {
+            const auto button = i == 2 ? SDL_CONTROLLER_BUTTON_X : SDL_CONTROLLER_BUTTON_A;
+            if (down) pads[i].press(button);
+            else pads[i].release(button);
+        }
+    }
+
     static inline std::unique_ptr<PadLibrary> library;
     static inline std::deque<VirtualPad> pads;
 };
@@ -55,9 +66,9 @@ TEST_F(FullHouse, StartsByItselfWithTheSixteenth)
 {
     pass({GLFW_KEY_ESCAPE});
     EXPECT_TRUE(game->isQuitting()) << "which ends a loop that isn't running here";
-    for (VirtualPad& pad : pads) pad.press(SDL_CONTROLLER_BUTTON_A);
+    shoot(true);
     pass({GLFW_KEY_K, GLFW_KEY_1});
-    for (VirtualPad& pad : pads) pad.release(SDL_CONTROLLER_BUTTON_A);
+    shoot(false);
     for (int i = 0; i < kComputerPlayers; ++i) {
         EXPECT_EQ(game->getStateName(), "RegisterPlayersGamestate") << i;
         tap(GLFW_KEY_SPACE);
@@ -66,6 +77,11 @@ TEST_F(FullHouse, StartsByItselfWithTheSixteenth)
     EXPECT_EQ(game->getMatch().getActorCount(), 16);
     const char* const devices[kPeople] = {"XBOX 1", "XBOX 2", "XBOX 3", "XBOX 4", "Pfeil", "WASD"};
     for (int i = 0; i < kPeople; ++i) EXPECT_EQ(player(i).getDevice().getName(), devices[i]);
+    for (int i = 0; i < kPadCount; ++i) {
+        const auto& shown = pads[static_cast<std::size_t>(i)].colour;
+        const glm::vec3 light = glm::vec3(shown[0], shown[1], shown[2]) / 255.0f;
+        EXPECT_LT(glm::distance(light, glm::vec3(player(i).getColor())), 0.01f) << "pad " << i;
+    }
     game->pass();
 }
 
@@ -80,7 +96,7 @@ TEST_F(FullHouse, LetsEverybodyDriveTheirOwnCarAndShoot)
 
     keys().hold({GLFW_KEY_UP, GLFW_KEY_W, GLFW_KEY_K, GLFW_KEY_1});
     for (int i = 0; i < kPadCount; ++i) stepOn(i, true);
-    for (VirtualPad& pad : pads) pad.press(SDL_CONTROLLER_BUTTON_A);
+    shoot(true);
     std::set<const Player*> driving, shooting;
     for (int i = 0; i < 2000 && driving.size() + shooting.size() < 32; ++i) {
         game->play();

@@ -13,12 +13,12 @@ public:
 
 } // namespace
 
-void StoryGame::SetUpTestSuite()
+void StoryGame::begin(const GameOptions& options)
 {
     if (game) return;
     auto presentation = std::make_unique<RecordingPresentation>(*Core::getInstance()->getRenderer());
     record = presentation.get();
-    game = std::make_unique<TestGame>(kPassSeconds, std::move(presentation));
+    game = std::make_unique<TestGame>(kPassSeconds, std::move(presentation), options);
     ASSERT_TRUE(game->start()) << "no OpenGL 4.3 core context; is there a display?";
     failTestsOnGlErrors();
 }

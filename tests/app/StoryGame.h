@@ -15,7 +15,8 @@
 /// to a process, and each test goes on where the one before it has ended.
 class StoryGame : public testing::Test {
 public:
-    static void SetUpTestSuite();
+    static void SetUpTestSuite() { begin(); }
+    static void begin(const GameOptions& options = {});
     static void end(); ///< close the window, after the last test
 
 protected:

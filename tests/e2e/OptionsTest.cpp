@@ -1,5 +1,6 @@
 #include "GameSession.h"
 #include "testing/Occurrences.h"
+#include "testing/PngFile.h"
 
 #include <gtest/gtest.h>
 #include <sndfile.h>
@@ -156,6 +157,55 @@ TEST(Options, MakeTheWindowAsLargeAsTheySayAndTheViewsFillIt)
     EXPECT_LT(distance(usual, whole), 20);
     EXPECT_EQ(game.complaints(), "WARNING | There is no monitor quack; the primary one is used\n");
     EXPECT_EQ(game.program().count("The shadow map is cut to 5461x3072: "), 1);
+}
+
+TEST(Options, ChangeTheKeysThatPeopleJoinStartAndTakePicturesWith)
+{
+    GameSession game;
+    const fs::path pictures = fs::current_path() / "my pictures/Quackdash";
+    fs::create_directory("quackdash");
+    std::ofstream("user-dirs.dirs") << "XDG_PICTURES_DIR=\"" << fs::current_path().string() << "/my pictures\"\n";
+    std::ofstream("quackdash/quackdash.conf")
+        << "arrows.shoot = q\nwasd.shoot = leftshift\nwasd.start = Q\nkey.screenshot = f10\n";
+    const auto saved = [&] { return game.program().count("Picture saved: " + pictures.string() + "/20"); };
+
+    EXPECT_EQ(game.ask({"--arrows.start", "f10"}), 2);
+    EXPECT_EQ(game.program().output(),
+        "quackdash: --arrows.start: \"f10\" is taken by key.screenshot (" + fs::current_path().string() +
+            "/quackdash/quackdash.conf:4); see --help\n");
+
+    game.start({}, {"--arrows.start", "f", "--seed", "5"});
+    EXPECT_EQ(game.program().count("quackdash.conf:3: wasd.start: \"q\" is taken by arrows.shoot ("), 1);
+    for (const char* key : {"k", "1", "Return", "f"}) { // nobody's, or of nobody who has joined
+        game.screen().press({key});
+        std::this_thread::sleep_for(300ms);
+        game.screen().release({key});
+    }
+    EXPECT_EQ(game.program().count("Player registered"), 0);
+    for (const char* shoot : {"q", "Shift_L"}) game.holdUntil(shoot, "Player registered");
+    game.screen().press({"F10"});
+    game.program().waitFor("a picture", [&] { return saved() == 1; });
+    std::this_thread::sleep_for(300ms);
+    game.screen().release({"F10"});
+    EXPECT_EQ(saved(), 1) << "one for each press";
+    game.holdUntil("f", "Enter PlayGamestate");
+    game.holdUntil("F10", "Picture saved: ");
+    std::vector<fs::path> files(fs::directory_iterator(pictures), {});
+    std::sort(files.begin(), files.end(),
+        [](const fs::path& a, const fs::path& b) { return fs::last_write_time(a) < fs::last_write_time(b); });
+    ASSERT_EQ(files.size(), 2);
+    const Picture first = readPng(files[0].string()), second = readPng(files[1].string());
+    EXPECT_EQ(std::pair(second.width, second.height), std::pair(1024, 768));
+    EXPECT_GT(changedShare(first, second), 0.5);
+    game.program().waitFor(
+        "it in the window", [&] { return changedShare(second, game.screen().look()) < 0.2; }, 5);
+    EXPECT_EQ(game.quit(), 0);
+
+    fs::remove_all("my pictures");
+    std::ofstream("my pictures") << "no folder";
+    game.start();
+    game.holdUntil("F10", "WARNING | Cannot save the picture " + pictures.string());
+    EXPECT_EQ(game.quit(), 0);
 }
 
 /// What a run was heard as: samples of both sides in turn, from the first that is not silent.

@@ -36,4 +36,25 @@ TEST(KeyboardController, EachKeyIsOneButtonOfOneHalfAndPushesItsAxisTheRightWay)
     EXPECT_EQ(keys.polls, 1) << "an update takes in key events";
 }
 
+TEST(KeyboardController, HasTheKeysThatItWasGiven)
+{
+    ScriptedKeyboard keys;
+    ControlOptions controls;
+    controls.halves[1] = {"kp8", "z", "leftshift", "semicolon", "f10", "9", "graveaccent"};
+    KeyboardController arrows(1, controls), wasd(2, controls);
+    constexpr int kKeys[] = {GLFW_KEY_KP_8, GLFW_KEY_Z, GLFW_KEY_LEFT_SHIFT, GLFW_KEY_SEMICOLON, GLFW_KEY_F10,
+        GLFW_KEY_9, GLFW_KEY_GRAVE_ACCENT};
+    for (int button = 0; button < InputDevice::kButtonCount; ++button) {
+        keys.reset();
+        keys.hold({kKeys[button]});
+        EXPECT_TRUE(wasd.isPressed(button)) << button;
+        keys.reset();
+        keys.hold({GLFW_KEY_W, GLFW_KEY_S, GLFW_KEY_A, GLFW_KEY_D, GLFW_KEY_1, GLFW_KEY_2, GLFW_KEY_TAB});
+        EXPECT_FALSE(wasd.isPressed(button)) << button;
+    }
+    keys.hold({GLFW_KEY_LEFT_SHIFT, GLFW_KEY_UP});
+    EXPECT_EQ(wasd.getAxis(InputDevice::kSteeringAxis), -1);
+    EXPECT_EQ(arrows.getAxis(InputDevice::kThrottleAxis), 1);
+}
+
 } // namespace

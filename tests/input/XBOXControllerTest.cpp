@@ -94,6 +94,55 @@ TEST_F(XBOXControllerTest, TriggersAndStickMoveTheirAxesOutsideTheDeadZone)
     }
 }
 
+TEST_F(XBOXControllerTest, DoesAsItsOptionsSay)
+{
+    ControlOptions controls;
+    controls.pads[1] = {"+righty", "x", "dpleft", "leftshoulder", "lefttrigger", "-lefty", "guide"};
+    controls.rumble = 50;
+    controls.deadZone = 60;
+    XBOXController changed(2, pads, controls);
+    VirtualPad one(1), two(2);
+    const auto read = [&] {
+        pass();
+        changed.update();
+    };
+    read();
+    two.move(SDL_CONTROLLER_AXIS_RIGHTY, 32767);
+    two.move(SDL_CONTROLLER_AXIS_LEFTY, -20000);
+    for (const auto button : {SDL_CONTROLLER_BUTTON_X, SDL_CONTROLLER_BUTTON_DPAD_LEFT, SDL_CONTROLLER_BUTTON_GUIDE})
+        two.press(button);
+    two.move(SDL_CONTROLLER_AXIS_TRIGGERLEFT, -1000); // not half its way
+    read();
+    EXPECT_EQ(changed.getAxis(InputDevice::kThrottleAxis), 32767 / 32768.0f);
+    EXPECT_EQ(changed.getAxis(InputDevice::kBrakeAxis), -1);
+    EXPECT_EQ(changed.getAxis(InputDevice::kSteeringAxis), -1);
+    EXPECT_FALSE(changed.isPressed(InputDevice::kShoot));
+    EXPECT_TRUE(changed.isPressed(InputDevice::kHandBrake) && changed.isPressed(InputDevice::kStart));
+    two.move(SDL_CONTROLLER_AXIS_TRIGGERLEFT, 1000);
+    two.move(SDL_CONTROLLER_AXIS_LEFTY, -18000); // within the dead zone
+    two.press(SDL_CONTROLLER_BUTTON_LEFTSHOULDER);
+    two.press(SDL_CONTROLLER_BUTTON_A);
+    two.move(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, 32767);
+    read();
+    EXPECT_EQ(changed.getAxis(InputDevice::kSteeringAxis), 0) << "both ways";
+    EXPECT_EQ(changed.getAxis(InputDevice::kThrottleAxis), 32767 / 32768.0f) << "by nothing else";
+    EXPECT_TRUE(changed.isPressed(InputDevice::kShoot));
+    EXPECT_FALSE(changed.isPressed(InputDevice::kHandBrake));
+
+    changed.vibrate(300, 60001, 1);
+    EXPECT_EQ(two.rumbles, std::vector<Motors>({{30000, 0}}));
+    changed.setLight({0.2f, 1, 0});
+    const std::array<int, 3> kColour{51, 255, 0};
+    EXPECT_EQ(two.colour, kColour);
+    two.unplug();
+    pass();
+    two.plugIn();
+    two.colour = {};
+    pass();
+    EXPECT_EQ(two.colour, kColour) << "a pad that comes shows the colour of its slot";
+    EXPECT_EQ(one.colour, (std::array<int, 3>{}));
+}
+
 TEST_F(XBOXControllerTest, ARumbleStopsOnTheFirstUpdateAfterItsEndAndANewOneReplacesIt)
 {
     VirtualPad pad;

@@ -2,6 +2,7 @@
 #include "options/OptionParser.h"
 #include "options/OptionTable.h"
 #include "options/ReadOptions.h"
+#include "platform/KeyWords.h"
 #include "testing/ChildProcess.h"
 #include "testing/DataScratch.h"
 
@@ -136,6 +137,61 @@ TEST_F(OptionsTest, ThatAreWrongOnTheCommandLineAreNamedWithWhatIsExpected)
     }
 }
 
+TEST_F(OptionsTest, ThatNameKeysTakeEachOfThemOnceAndNameBothWhoWantIt)
+{
+    const struct {
+        std::string settings;
+        std::vector<std::string> arguments;
+        std::vector<std::string> complaints; // @: the settings file
+        std::string fault;
+        std::string keys; // of the arrow half's and the WASD half's shots, and of the first pad's
+    } rows[] = {
+        {"arrows.shoot = 1\nwasd.shoot = K\n", {"--pad1.shoot", "RightShoulder"}, {}, "", "1 k rightshoulder"},
+        {"arrows.shoot = q\nwasd.handbrake = q\n", {}, {"@:2: wasd.handbrake: \"q\" is taken by arrows.shoot (@:1)"},
+            "", "q 1 a"},
+        {"arrows.handbrake = k\narrows.handbrake = q\n", {}, {}, "", "k 1 a"},
+        {"arrows.shoot = l\n", {}, {"@:1: arrows.shoot: \"l\" is taken by arrows.handbrake (by default)"}, "", "k 1 a"},
+        {"arrows.shoot = l\n", {"--arrows.handbrake=f10"}, {}, "", "l 1 a"},
+        {"wasd.shoot = x\n", {"--key.screenshot", "x"}, {}, "--key.screenshot: \"x\" is taken by wasd.shoot (@:1)", ""},
+        {"", {"--key.screenshot=x", "--wasd.left=x"}, {}, "--key.screenshot: \"x\" is taken by --wasd.left", ""},
+        {"pad1.shoot = b\npad2.shoot = x\npad3.shoot = x", {},
+            {"@:1: pad1.shoot: \"b\" is taken by pad1.handbrake (by default)"}, "", "k 1 a"},
+        {"pad1.shoot = b\npad1.handbrake = a\narrows.start = f1\n", {},
+            {"@:3: arrows.start: expected a free key such as k, 7, leftshift or f10, not \"f1\""}, "", "k 1 b"},
+        // One that goes back to its own key turns out who has it since.
+        {"arrows.handbrake = k\nwasd.shoot = q\narrows.shoot = q\n", {},
+            {"@:3: arrows.shoot: \"q\" is taken by wasd.shoot (@:2)",
+                "@:1: arrows.handbrake: \"k\" is taken by arrows.shoot (by default)"},
+            "", "k q a"},
+        {"pad1.shoot =\n", {},
+            {"@:1: pad1.shoot: expected a button such as x, rightshoulder, dpup or +rightx, not \"\""}, "", "k 1 a"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.settings);
+        const ReadOptions read = readWith(row.settings, row.arguments);
+        const auto named = [&](std::string text) {
+            for (std::size_t at; (at = text.find('@')) != std::string::npos;) text.replace(at, 1, file);
+            return text;
+        };
+        std::vector<std::string> complaints;
+        for (const std::string& complaint : row.complaints) complaints.push_back(named(complaint));
+        EXPECT_EQ(read.complaints, complaints);
+        EXPECT_EQ(read.fault, named(row.fault));
+        const ControlOptions& controls = read.options.controls;
+        const auto shot = [](const ControlOptions::Words& words) { return words[InputDevice::kShoot]; };
+        if (row.fault.empty()) {
+            EXPECT_EQ(shot(controls.halves[0]) + ' ' + shot(controls.halves[1]) + ' ' + shot(controls.pads[0]),
+                row.keys);
+        }
+    }
+    std::map<int, std::string> words;
+    for (const std::string& word : keyWords()) {
+        const auto [other, isNew] = words.try_emplace(keyOf(word), word);
+        EXPECT_TRUE(isNew && other->first != kNoKey) << word << " is " << other->second;
+    }
+    EXPECT_EQ(words.size(), 120) << "as many keys as GLFW knows";
+}
+
 // What a new row can get wrong.
 TEST_F(OptionsTest, EachHasAWordOfHelpAndADefaultThatItTakes)
 {
@@ -163,7 +219,8 @@ TEST_F(OptionsTest, AreTheOnesThatHelpManualAndPagesName)
         EXPECT_EQ(helpText().find("  " + option.usage() + " ") != std::string::npos, !option.group.empty());
         EXPECT_EQ(manual.find("\n.B " + option.usage() + "\n") != std::string::npos, !option.group.empty());
     }
-    const std::regex name("(?:^|[^-a-z])--([a-z][-a-z]*)"), others("cmake|ctest|test\\.sh|check\\.sh|apt |tar |\\$");
+    const std::regex name("(?:^|[^-a-z])--([a-z](?:[-.a-z0-9]*[a-z0-9])?)"),
+        others("cmake|ctest|test\\.sh|check\\.sh|apt |tar |\\$");
     int count = 0;
     for (const char* page : {"README.md", "CHANGELOG.md", "CONTRIBUTING.md", "docs/architecture.md",
              "packaging/quackdash.6.in", "packaging/quackdash.desktop"}) {
@@ -188,6 +245,9 @@ TEST_F(OptionsTest, AreCompletedByBash)
         {"--seed = r", "random"},
         {"--data dat", "data#1"},
         {"--volume 1", ""},
+        {"--pad4.s", "--pad4.shoot --pad4.start"},
+        {"--wasd.left rightb", "rightbracket"},
+        {"--pad2.shoot +r", "+rightx +righty"},
         {"--print", ""},
     };
     for (const auto& [typed, completed] : rows) {
