@@ -2,9 +2,13 @@
 
 #include "audio/SoundOptions.h"
 #include "match/StartOptions.h"
+#include "players/PlayerColours.h"
+#include "render/TextOptions.h"
 
 /// What the game can be told before it starts, part by part as the modules have it.
 struct GameOptions {
     SoundOptions sound;
     StartOptions start;
+    TextOptions text;
+    ColourOptions colours;
 };

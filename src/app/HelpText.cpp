@@ -1,17 +1,25 @@
 #include "app/HelpText.h"
 
-#include "render/TextRenderer.h"
+#include <algorithm>
 
 namespace {
 
-// Normalised device coordinates.
-constexpr double kLeft = -0.975;
-constexpr double kFirstLine = 0.875;
-constexpr double kLineSpacing = 0.1;
+constexpr TextRoom kWindow{-0.975, 0.875, 0.975, -1};
 
 } // namespace
 
-void writeHelp(TextRenderer& text, std::span<const HelpLine> lines)
+void addControls(std::vector<TextLine>& lines, int number, const std::string& indent, std::span<const Control> controls)
 {
-    for (const HelpLine& line : lines) text.addText(line.text, kLeft, kFirstLine - line.number * kLineSpacing);
+    std::size_t width = 0;
+    for (const Control& control : controls) width = std::max(width, control.first.size());
+    for (const auto& [what, key] : controls) {
+        std::string line = indent + what;
+        line.append(width - what.size(), ' ').append(" > ").append(key);
+        lines.push_back({number++, line});
+    }
+}
+
+void writeHelp(TextRenderer& text, std::span<const TextLine> lines)
+{
+    text.addLines(lines, kWindow);
 }

@@ -1,14 +1,18 @@
 #pragma once
 
+#include "render/TextRenderer.h"
+
 #include <span>
+#include <string>
+#include <utility>
+#include <vector>
 
-class TextRenderer;
+/// What is done, and the key that does it.
+using Control = std::pair<std::string, std::string>;
 
-/// A line of a help screen and its number from the top; numbers that are left out stay empty.
-struct HelpLine {
-    int number;
-    const char* text;
-};
+/// Append a line for each control, from that number on: "Fahren     > WASD", the keys one below the other.
+void addControls(std::vector<TextLine>& lines, int number, const std::string& indent,
+    std::span<const Control> controls);
 
 /// Write the lines for this frame, from the window's upper-left corner on.
-void writeHelp(TextRenderer& text, std::span<const HelpLine> lines);
+void writeHelp(TextRenderer& text, std::span<const TextLine> lines);

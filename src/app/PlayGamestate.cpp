@@ -5,6 +5,7 @@
 #include "app/HelpText.h"
 #include "app/QKD_Game.h"
 #include "base/Logger.h"
+#include "base/Translation.h"
 #include "platform/Keyboard.h"
 #include "players/Player.h"
 #include "render/Renderer.h"
@@ -14,27 +15,36 @@
 
 namespace {
 
-constexpr HelpLine kHelp[] = {
-    {0, "Quackdash!"},
-    {2, " Steuerung Pfeiltasten"},
-    {3, "   Fahren     > Pfeiltasten"},
-    {4, "   Schiessen  > K"},
-    {5, "   Handbremse > L"},
-    {7, " Steuerung WASD"},
-    {8, "   Fahren     > WASD"},
-    {9, "   Schiessen  > 1"},
-    {10, "   Handbremse > 2"},
-    {12, " Steuerung XBOX"},
-    {13, "   Gas        > Rechter Trigger"},
-    {14, "   Bremsen    > Linker Trigger"},
-    {15, "   Lenken     > Linker Joystick"},
-    {16, "   Schiessen  > A"},
-    {17, "   Handbremse > B"},
-};
+std::vector<TextLine> helpLines()
+{
+    const std::string drive = translated("Fahren"), shoot = translated("Schiessen"), stop = translated("Handbremse");
+    const Control arrows[] = {{drive, translated("Pfeiltasten")}, {shoot, "K"}, {stop, "L"}};
+    const Control wasd[] = {{drive, "WASD"}, {shoot, "1"}, {stop, "2"}};
+    const Control pad[] = {
+        {translated("Gas"), translated("Rechter Trigger")},
+        {translated("Bremsen"), translated("Linker Trigger")},
+        {translated("Lenken"), translated("Linker Joystick")},
+        {shoot, "A"},
+        {stop, "B"},
+    };
+    std::vector<TextLine> lines = {
+        {0, "Quackdash!"},
+        {2, translated(" Steuerung Pfeiltasten")},
+        {7, translated(" Steuerung WASD")},
+        {12, translated(" Steuerung XBOX")},
+    };
+    addControls(lines, 3, "   ", arrows);
+    addControls(lines, 8, "   ", wasd);
+    addControls(lines, 13, "   ", pad);
+    return lines;
+}
 
 } // namespace
 
-PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame) : IGameState(stateName), game(ownGame) {}
+PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame)
+    : IGameState(stateName), game(ownGame), help(helpLines())
+{
+}
 
 void PlayGamestate::enter()
 {
@@ -72,7 +82,14 @@ void PlayGamestate::update()
     if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
 }
 
+void PlayGamestate::renderCamera(Camera* camera)
+{
+    if (isKeyDown(GLFW_KEY_F1)) return; // help alone
+    for (const Viewport* viewport : viewports)
+        if (viewport->camera == camera) game.getMatch().writeSigns(*viewport);
+}
+
 void PlayGamestate::drawText(TextRenderer* text)
 {
-    writeHelp(*text, kHelp);
+    writeHelp(*text, help);
 }

@@ -2,6 +2,7 @@
 
 #include "app/OverviewViewport.h"
 #include "base/IGameState.h"
+#include "render/TextRenderer.h"
 
 #include <memory>
 #include <vector>
@@ -17,7 +18,7 @@ public:
     void enter() override;
     void leave() override;
     void update() override;
-    void renderCamera(Camera*) override {}
+    void renderCamera(Camera* camera) override;
     void drawText(TextRenderer* text) override;
 
 private:
@@ -25,6 +26,7 @@ private:
     void fillFreeCell();
 
     QKD_Game& game;
+    const std::vector<TextLine> help;
     std::vector<Viewport*> viewports;
     std::vector<std::unique_ptr<OverviewViewport>>
         overviews; // one more for each entry that leaves a cell free: their node keeps its cameras

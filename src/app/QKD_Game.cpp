@@ -5,6 +5,7 @@
 #include "app/DebugGamestate.h"
 #include "app/GameStateManager.h"
 #include "app/PlayGamestate.h"
+#include "app/PlayerLabels.h"
 #include "app/Presentation.h"
 #include "app/RegisterPlayersGamestate.h"
 #include "assets/Library.h"
@@ -31,7 +32,7 @@ std::vector<std::string> filesOf(std::span<const Asset> assets)
 } // namespace
 
 QKD_Game::QKD_Game(const GameOptions& ownOptions)
-    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer()), ownOptions)
+    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer(), ownOptions.text), ownOptions)
 {
 }
 
@@ -72,6 +73,7 @@ void QKD_Game::loadTextures()
 
 void QKD_Game::init()
 {
+    chooseLanguage(options.text.language);
     createWorld();
     setUpText();
     scenery->addSky();
@@ -87,7 +89,7 @@ void QKD_Game::init()
 
 void QKD_Game::createWorld()
 {
-    world = std::make_unique<MatchWorld>(*presentation);
+    world = std::make_unique<MatchWorld>(*presentation, options.colours.people);
     scenery = std::make_unique<Scenery>(getScene());
     renderer.setSceneGraph(&getScene());
 }
@@ -97,11 +99,14 @@ void QKD_Game::setUpText()
     TextRenderer* text = renderer.getTextRenderer();
     text->setShader(Library::getInstance()->getShaderprogram("TextShader"));
     text->setFont(Library::getInstance()->getTexture("Font"));
+    text->setScale(options.text.scale / 100.0); // percent
+    renderer.setCulledText(makeCulledText(renderer, options.text));
 }
 
 void QKD_Game::createStates()
 {
-    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this);
+    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options.start.names,
+        options.text.hint);
     playState = std::make_unique<PlayGamestate>("PlayGamestate", *this);
     debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
 

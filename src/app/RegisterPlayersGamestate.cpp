@@ -5,6 +5,7 @@
 #include "app/HelpText.h"
 #include "app/QKD_Game.h"
 #include "base/Logger.h"
+#include "base/Translation.h"
 #include "platform/Keyboard.h"
 #include "render/Renderer.h"
 #include "scene/Node.h"
@@ -15,19 +16,33 @@
 
 namespace {
 
-constexpr HelpLine kHelp[] = {
-    {0, "Quackdash!"},
-    {2, "  Schiesse deine Gegner ab ohne"},
-    {3, "  selbst abgeschossen zu werden"},
-    {4, "  und werde der Punkte-Champion"},
-    {6, "Bitte registriere deine Spieler"},
-    {8, "Steuerung:"},
-    {9, "  Pfeiltasten > K"},
-    {10, "  WASD        > 1"},
-    {11, "  XBOX        > A"},
-    {13, "Um das Spiel zu starten:"},
-    {14, "  Enter oder Start"},
-};
+std::vector<Control> joinKeys()
+{
+    return {{translated("Pfeiltasten"), "K"}, {"WASD", "1"}, {"XBOX", "A"}};
+}
+
+std::vector<TextLine> helpLines()
+{
+    std::vector<TextLine> lines = {
+        {0, "Quackdash!"},
+        {2, translated("  Schiesse deine Gegner ab ohne")},
+        {3, translated("  selbst abgeschossen zu werden")},
+        {4, translated("  und werde der Punkte-Champion")},
+        {6, translated("Bitte registriere deine Spieler")},
+        {8, translated("Steuerung:")},
+        {13, translated("Um das Spiel zu starten:")},
+        {14, translated("  Enter oder Start")},
+    };
+    addControls(lines, 9, "  ", joinKeys());
+    return lines;
+}
+
+std::vector<TextLine> hintLines()
+{
+    std::vector<TextLine> lines = {{0, "Quackdash!"}, {2, translated("Mitspielen:")}, {7, translated("Hilfe: F1")}};
+    addControls(lines, 3, "  ", joinKeys());
+    return lines;
+}
 
 /// High above the field's edge, looking down onto it.
 Node& createPanoramaNode(QKD_Game& game)
@@ -42,10 +57,12 @@ Node& createPanoramaNode(QKD_Game& game)
 
 } // namespace
 
-RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame)
+RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame,
+    const PlayerNames& names, bool withHint)
     : IGameState(stateName), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)),
-      registration(ownGame.getMatch())
+      registration(ownGame.getMatch(), names), help(helpLines())
 {
+    if (withHint) hint = hintLines();
 }
 
 void RegisterPlayersGamestate::enter()
@@ -63,6 +80,7 @@ void RegisterPlayersGamestate::leave()
 void RegisterPlayersGamestate::update()
 {
     registration.update();
+    if (game.getMatch().getHumanPlayerCount() == 0) writeHelp(*game.getCore()->getRenderer()->getTextRenderer(), hint);
     if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
     if (registration.shouldStart()) game.getCore()->getStateManager()->changeState("PlayGamestate");
 }
@@ -77,5 +95,5 @@ void RegisterPlayersGamestate::admit(const StartOptions& start)
 
 void RegisterPlayersGamestate::drawText(TextRenderer* text)
 {
-    writeHelp(*text, kHelp);
+    writeHelp(*text, help);
 }

@@ -3,6 +3,9 @@
 #include "app/OverviewViewport.h"
 #include "base/IGameState.h"
 #include "match/PlayerRegistration.h"
+#include "render/TextRenderer.h"
+
+#include <vector>
 
 class QKD_Game;
 
@@ -10,8 +13,8 @@ class QKD_Game;
 /// the game.
 class RegisterPlayersGamestate final : public IGameState {
 public:
-    /// Add the node "PanoramaCamera" to the game's scene.
-    RegisterPlayersGamestate(const std::string& stateName, QKD_Game& game);
+    /// Add the node "PanoramaCamera" to the game's scene. With a hint, the screen says how to join until somebody has.
+    RegisterPlayersGamestate(const std::string& stateName, QKD_Game& game, const PlayerNames& names, bool withHint);
 
     /// Have those join who need not press anything; with start.atOnce, go on to the match, unless (with a log line) too
     /// few take part. Once, when world and sounds are there.
@@ -27,4 +30,6 @@ private:
     QKD_Game& game;
     OverviewViewport view;
     PlayerRegistration registration;
+    const std::vector<TextLine> help;
+    std::vector<TextLine> hint; // empty for none
 };

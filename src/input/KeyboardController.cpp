@@ -1,5 +1,6 @@
 #include "input/KeyboardController.h"
 
+#include "base/Translation.h"
 #include "platform/Keyboard.h"
 
 #include <GLFW/glfw3.h>
@@ -13,8 +14,6 @@ constexpr int kKeys[2][kButtonCount] = {
     {GLFW_KEY_UP, GLFW_KEY_DOWN, GLFW_KEY_LEFT, GLFW_KEY_RIGHT, GLFW_KEY_K, GLFW_KEY_L, GLFW_KEY_ENTER},
     {GLFW_KEY_W, GLFW_KEY_S, GLFW_KEY_A, GLFW_KEY_D, GLFW_KEY_1, GLFW_KEY_2, GLFW_KEY_TAB},
 };
-
-constexpr const char* kNames[2] = {"Pfeil", "WASD"};
 
 } // namespace
 
@@ -40,7 +39,7 @@ void KeyboardController::update()
 
 std::string KeyboardController::getName() const
 {
-    return kNames[keySet];
+    return keySet == 0 ? translated("Pfeil") : "WASD";
 }
 
 bool KeyboardController::isStartPressed()

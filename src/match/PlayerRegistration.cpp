@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-PlayerRegistration::PlayerRegistration(Match& ownMatch) : match(ownMatch)
+PlayerRegistration::PlayerRegistration(Match& ownMatch, const PlayerNames& names) : match(ownMatch)
 {
     constexpr int kPadCount = 4;
     constexpr int kKeyboardLayouts = 2;
@@ -18,6 +18,7 @@ PlayerRegistration::PlayerRegistration(Match& ownMatch) : match(ownMatch)
     for (int pad = 1; pad <= kPadCount; ++pad) slots[next++].device = std::make_unique<XBOXController>(pad);
     for (int layout = 1; layout <= kKeyboardLayouts; ++layout)
         slots[next++].device = std::make_unique<KeyboardController>(layout);
+    for (std::size_t i = 0; i < names.size(); ++i) slots.at(i).name = names.at(i);
 }
 
 void PlayerRegistration::update()
@@ -62,7 +63,7 @@ void PlayerRegistration::join(Slot& slot)
 {
     slot.registered = true;
     slot.device->setJoined();
-    match.addPlayer(*slot.device);
+    match.addPlayer(*slot.device, slot.name);
     logLine(2) << "Player registered" << std::endl;
 }
 
