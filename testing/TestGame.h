@@ -18,6 +18,9 @@ public:
     /// passLength: see SteppedClock; nothing for passes of real time.
     explicit TestGame(std::optional<double> passLength = 1.0 / 60.0) : passSeconds(passLength) {}
 
+    /// As it is with options.
+    TestGame(double passLength, const GameOptions& given) : QKD_Game(given), passSeconds(passLength) {}
+
     /// Seen and heard by way of another presentation.
     TestGame(double passLength, std::unique_ptr<IPresentation> shown)
         : QKD_Game(std::move(shown)), passSeconds(passLength)
