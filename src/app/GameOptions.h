@@ -5,6 +5,8 @@
 #include "input/ControlOptions.h"
 #include "match/StartOptions.h"
 #include "platform/WindowOptions.h"
+#include "players/PlayerColours.h"
+#include "render/TextOptions.h"
 #include "render/ViewOptions.h"
 
 /// What the game can be told before it starts, part by part as the modules have it.
@@ -15,4 +17,6 @@ struct GameOptions {
     ViewOptions view;
     ControlOptions controls;
     KeyOptions keys;
+    TextOptions text;
+    ColourOptions colours;
 };

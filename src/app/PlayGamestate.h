@@ -4,6 +4,7 @@
 #include "app/OverviewViewport.h"
 #include "base/IGameState.h"
 #include "input/ControlOptions.h"
+#include "render/TextRenderer.h"
 
 #include <memory>
 #include <vector>
@@ -20,7 +21,7 @@ public:
     void layOut() override;
     void leave() override;
     void update() override;
-    void renderCamera(Camera*) override {}
+    void renderCamera(Camera* camera) override;
     void drawText(TextRenderer* text) override;
 
 private:
@@ -28,7 +29,7 @@ private:
     void fillFreeCell();
 
     QKD_Game& game;
-    const std::vector<HelpLine> help;
+    const std::vector<TextLine> help;
     std::vector<Viewport*> viewports;
     std::vector<std::unique_ptr<OverviewViewport>>
         overviews; // one more for each entry that leaves a cell free: their node keeps its cameras

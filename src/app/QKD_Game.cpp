@@ -5,6 +5,7 @@
 #include "app/DebugGamestate.h"
 #include "app/GameStateManager.h"
 #include "app/PlayGamestate.h"
+#include "app/PlayerLabels.h"
 #include "app/Presentation.h"
 #include "app/RegisterPlayersGamestate.h"
 #include "assets/Library.h"
@@ -32,7 +33,7 @@ std::vector<std::string> filesOf(std::span<const Asset> assets)
 } // namespace
 
 QKD_Game::QKD_Game(const GameOptions& ownOptions)
-    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer()), ownOptions)
+    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer(), ownOptions.text), ownOptions)
 {
 }
 
@@ -73,6 +74,7 @@ void QKD_Game::loadTextures()
 
 void QKD_Game::init()
 {
+    chooseLanguage(options.text.language);
     createWorld();
     setUpText();
     scenery->addSky();
@@ -88,7 +90,7 @@ void QKD_Game::init()
 
 void QKD_Game::createWorld()
 {
-    world = std::make_unique<MatchWorld>(*presentation);
+    world = std::make_unique<MatchWorld>(*presentation, options.colours.people);
     scenery = std::make_unique<Scenery>(getScene());
     renderer.setSceneGraph(&getScene());
 }
@@ -98,11 +100,13 @@ void QKD_Game::setUpText()
     TextRenderer* text = renderer.getTextRenderer();
     text->setShader(Library::getInstance()->getShaderprogram("TextShader"));
     text->setFont(Library::getInstance()->getTexture("Font"));
+    text->setScale(options.text.scale / 100.0); // percent
+    renderer.setCulledText(makeCulledText(renderer, options.text));
 }
 
 void QKD_Game::createStates()
 {
-    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options.controls);
+    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options);
     playState = std::make_unique<PlayGamestate>("PlayGamestate", *this, options.controls);
     debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
 

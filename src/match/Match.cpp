@@ -25,16 +25,18 @@ const physx::PxVec3 kVehicleGravity(0, -9.81f, 0); // units per second squared, 
 
 } // namespace
 
-Match::Match(SceneGraph& ownScene, IPresentation& ownPresentation, const Terrain& ownGround, HitRecorder& ownHits)
-    : scene(ownScene), presentation(ownPresentation), ground(ownGround), hits(ownHits)
+Match::Match(SceneGraph& ownScene, IPresentation& ownPresentation, const Terrain& ownGround, HitRecorder& ownHits,
+    const PlayerColours& ownColours)
+    : scene(ownScene), presentation(ownPresentation), ground(ownGround), hits(ownHits), colours(ownColours)
 {
 }
 
 Match::~Match() = default;
 
-void Match::addPlayer(InputDevice& device)
+void Match::addPlayer(InputDevice& device, const std::string& name)
 {
-    Player* player = new Player(*this, presentation, device);
+    const std::size_t index = players.size();
+    Player* player = new Player(*this, presentation, device, {name, colours.at(index), std::to_string(index + 1)});
     player->setUp();
     players.push_back(player);
     actors.push_back(player);
@@ -122,6 +124,11 @@ void Match::stepPhysics()
     PhysxManager* physx = PhysxManager::instance();
     physx->updateVehicles(dt, kVehicleGravity);
     physx->step(dt);
+}
+
+void Match::writeSigns(const Viewport& view)
+{
+    for (const Player* player : actors) presentation.addSign(player->getSign(), player->getPosition(), view);
 }
 
 void Match::layoutViewports()

@@ -10,7 +10,8 @@
 
 #include <algorithm>
 
-PlayerRegistration::PlayerRegistration(Match& ownMatch, const ControlOptions& controls) : match(ownMatch)
+PlayerRegistration::PlayerRegistration(Match& ownMatch, const ControlOptions& controls, const PlayerNames& names)
+    : match(ownMatch)
 {
     constexpr int kPadCount = 4;
     constexpr int kKeyboardLayouts = 2;
@@ -19,6 +20,7 @@ PlayerRegistration::PlayerRegistration(Match& ownMatch, const ControlOptions& co
         slots[next++].device = std::make_unique<XBOXController>(pad, gamePads(), controls);
     for (int layout = 1; layout <= kKeyboardLayouts; ++layout)
         slots[next++].device = std::make_unique<KeyboardController>(layout, controls);
+    for (std::size_t i = 0; i < names.size(); ++i) slots.at(i).name = names.at(i);
 }
 
 void PlayerRegistration::update()
@@ -63,7 +65,7 @@ void PlayerRegistration::join(Slot& slot)
 {
     slot.registered = true;
     slot.device->setJoined();
-    match.addPlayer(*slot.device);
+    match.addPlayer(*slot.device, slot.name);
     logLine(2) << "Player registered" << std::endl;
 }
 

@@ -18,7 +18,7 @@ public:
     static constexpr int kMaxComputerPlayers = 10;
 
     /// Four game-pads, the arrow keys, W/A/S/D: the order in which simultaneous joiners come. The match is borrowed.
-    explicit PlayerRegistration(Match& match, const ControlOptions& controls = {});
+    explicit PlayerRegistration(Match& match, const ControlOptions& controls = {}, const PlayerNames& names = {});
 
     /// Have those join who need not press anything: the devices in their order, then the computer players.
     void admit(const StartOptions& start);
@@ -40,6 +40,7 @@ public:
 private:
     struct Slot {
         std::unique_ptr<InputDevice> device;
+        std::string name; // of who joins with it
         bool registered = false;
         bool startPressed = false; // in this frame
     };

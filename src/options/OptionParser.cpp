@@ -49,6 +49,7 @@ void addTo(CLI::App& app, const Option& option, Options& options, bool inFile)
     if (!inFile) added->disable_flag_override();
     added->group(option.group)->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     added->trigger_on_parse(); // in the order given: of two options for one thing the later counts
+    if (value.isRepeatable) added->delimiter(',')->multi_option_policy(CLI::MultiOptionPolicy::Join);
 }
 
 /// Shows an option as its row has it.

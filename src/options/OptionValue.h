@@ -36,6 +36,7 @@ struct OptionValue {
     std::string expected;                             ///< in words, as in "0 to 100"
     std::string placeholder = {};                     ///< in capitals; empty for what stands alone, as --mute does
     std::string completion = {};                      ///< arguments of bash's compgen that list what can follow
+    bool isRepeatable = false;                        ///< what is given again comes after a comma
     bool isPlain = false;                             ///< the placeholder says all that is expected
     bool hasOpposite = false;                         ///< --no-NAME is there too
     bool inFile = true;                               ///< may stand in the settings file
@@ -80,6 +81,25 @@ using Words = std::vector<std::pair<std::string, T>>;
 
 std::vector<std::string> splitAtCommas(const std::string& text); ///< nothing of an empty one
 std::string joined(const std::vector<std::string>& words, const std::string& between);
+
+/// One of these words.
+template <class T>
+OptionValue oneOf(Place<T> place, const Words<T>& words)
+{
+    std::vector<std::string> names;
+    for (const auto& word : words) names.push_back(word.first);
+    const auto parse = [=](const std::string& given) -> std::optional<T> {
+        const auto word = std::find_if(words.begin(), words.end(), [&](const auto& w) { return w.first == given; });
+        return word == words.end() ? std::nullopt : std::optional<T>(word->second);
+    };
+    const auto format = [=](const T& value) {
+        return std::find_if(words.begin(), words.end(), [&](const auto& w) { return w.second == value; })->first;
+    };
+    OptionValue value = parsed(place, joined(names, "|"), joined(names, ", "), parse, format);
+    value.isPlain = true;
+    value.completion = "-W '" + joined(names, " ") + "'";
+    return value;
+}
 
 /// Some of these words in any order, each once, with commas between them; or nothing.
 template <class T>

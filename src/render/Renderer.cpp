@@ -4,6 +4,7 @@
 #include "base/IGameState.h"
 #include "base/Logger.h"
 #include "platform/Image.h"
+#include "platform/Keyboard.h"
 #include "render/DebugRenderer.h"
 #include "render/FrameProbe.h"
 #include "render/GlDebug.h"
@@ -190,7 +191,7 @@ void Renderer::renderViewports(IGameState* state)
         apply(*viewport);
         currentCamera = viewport->camera;
         currentHeight = viewport->getRect().height;
-        renderModels();
+        renderModels(*viewport);
         if (state) state->renderCamera(currentCamera);
         if (isKeyDown(GLFW_KEY_F6)) renderDebugOverlay();
     }
@@ -198,11 +199,12 @@ void Renderer::renderViewports(IGameState* state)
     stepDone("model passes");
 }
 
-void Renderer::renderModels()
+void Renderer::renderModels(const Viewport& viewport)
 {
     if (!sceneGraph) return;
     sceneGraph->accept(&modelRenderer);
-    modelRenderer.render(currentCamera);
+    const unsigned culled = modelRenderer.render(currentCamera);
+    if (writeCulled && !isKeyDown(GLFW_KEY_F1)) writeCulled("culled: " + std::to_string(culled), viewport);
 }
 
 void Renderer::renderDebugOverlay()

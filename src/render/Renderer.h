@@ -3,6 +3,7 @@
 #include "assets/IRenderServices.h"
 #include "platform/AppWindow.h"
 #include "render/CameraUniforms.h"
+#include "render/CulledText.h"
 #include "render/ModelRenderer.h"
 #include "render/ShadowMappingRender.h"
 #include "render/TextureFilters.h"
@@ -11,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class DebugRenderer;
@@ -60,6 +62,9 @@ public:
 
     ModelRenderer* getModelRenderer() { return &modelRenderer; }
     ShadowMappingRender* getShadowRenderer() { return &shadowRenderer; }
+    /// Tell what writes how many models a view leaves out, once for each view; none at first.
+    void setCulledText(CulledText write) { writeCulled = std::move(write); }
+
     TextRenderer* getTextRenderer() { return textRenderer.get(); } ///< null before initialize()
     Camera* getCurrentCamera() const override { return currentCamera; }
     unsigned getLightDepthTexture() const; ///< GL name
@@ -94,7 +99,7 @@ private:
     void renderLightDepth();
     void renderLightDepthAnew();
     void renderViewports(IGameState* state);
-    void renderModels();
+    void renderModels(const Viewport& viewport);
     void renderDebugOverlay();
     void renderText();
     void updateFpsText();
@@ -112,6 +117,7 @@ private:
     TextureFilters filters;
 
     AppWindow window;
+    CulledText writeCulled;
     Camera* currentCamera = nullptr;
     int currentHeight = 0; // of the viewport being drawn, pixels
     ModelRenderer modelRenderer{this};

@@ -208,6 +208,32 @@ TEST(Options, ChangeTheKeysThatPeopleJoinStartAndTakePicturesWith)
     EXPECT_EQ(game.quit(), 0);
 }
 
+TEST(Options, ChooseTheLanguageByThemselvesOrByTheLocale)
+{
+    GameSession game;
+    const struct {
+        std::vector<std::string> arguments;
+        const char *locale, *languages, *device;
+    } rows[] = {
+        {{}, "en_GB.UTF-8", "en", "Pfeil"},
+        {{"--language", "en"}, "de_DE.UTF-8", "de", "Arrows"},
+        {{"--language", "auto"}, "en_GB.UTF-8", "", "Arrows"},
+        {{"--language", "auto"}, "fr_FR.UTF-8", "fr:it", "Arrows"},
+        {{"--language", "auto"}, "fr_FR.UTF-8", "fr:de_AT:en", "Pfeil"},
+        {{"--language", "auto"}, "C.UTF-8", "en", "Pfeil"},
+    };
+    for (const auto& row : rows) {
+        std::vector<std::string> arguments = row.arguments;
+        arguments.insert(arguments.end(), {"--join", "arrows"});
+        game.start({{"LC_ALL", row.locale}, {"LANGUAGE", row.languages}}, arguments);
+        EXPECT_EQ(game.quit(), 0);
+        EXPECT_EQ(game.complaints(), "");
+        EXPECT_EQ(game.program().count(std::string("Player 0, ") + row.device + "\n"), 1)
+            << row.locale << ' ' << row.languages << '\n'
+            << game.program().output();
+    }
+}
+
 /// What a run was heard as: samples of both sides in turn, from the first that is not silent.
 class Recording {
 public:

@@ -39,8 +39,10 @@ TEST_F(OptionsTest, ComeFromTheFileUnlessTheCommandLineSaysOtherwise)
 {
     const ReadOptions read =
         readWith("volume = 40\r\nmusic-volume=\"7\"\n\n  # effects-volume = 1\n; join = pad1\nmute\n"
-                 "mute-unfocused = on\njoin = wasd,pad4\nsound-device = 'My \"big\", loud = one'\n",
-            {"--volume=30", "--volume", "20", "--no-mute", "--seed", "random", "--data", "data#1"});
+                 "mute-unfocused = on\njoin = wasd,pad4\nname = pad1=Oma Erna,arrows=Opa\n"
+                 "colours=#ff8800,000000,0a0b0c,010203,040506,ffffff\nsound-device = 'My \"big\", loud = one'\n",
+            {"--volume=30", "--volume", "20", "--no-mute", "--seed", "random", "--data", "data#1", "--name", "wasd=Kai",
+                "--name=arrows=B"});
     EXPECT_EQ(read.fault, "");
     EXPECT_EQ(read.complaints, std::vector<std::string>());
     const Options& options = read.options;
@@ -52,6 +54,8 @@ TEST_F(OptionsTest, ComeFromTheFileUnlessTheCommandLineSaysOtherwise)
     EXPECT_EQ(options.sound.device, "My \"big\", loud = one");
     EXPECT_EQ(options.start.join, (std::vector{JoinDevice::Wasd, JoinDevice::Pad4}));
     EXPECT_EQ(options.start.seed, std::nullopt);
+    EXPECT_EQ(options.start.names, (PlayerNames{"Oma Erna", "", "", "", "B", "Kai"}));
+    EXPECT_EQ(options.colours.people[0], glm::vec4(1, 136 / 255.0f, 0, 1));
 
     const ReadOptions again = readWith(settingsText(options));
     EXPECT_EQ(again.complaints, std::vector<std::string>());
@@ -92,6 +96,14 @@ TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
         {"size = 1920x1080x1", "size: expected 320x240 to 16384x16384, not \"1920x1080x1\""},
         {"windowed", "windowed: on the command line only"},
         {"data = /nowhere", "data: expected a folder that holds Shader and Textures, not \"/nowhere\""},
+        {"name = Oma", "name: expected DEVICE=NAME as in pad1=Granny, a device of --join and up to 9 letters without "},
+        {"name = pad5=Oma", "accents, not \"pad5=Oma\""},
+        {"name = pad1=J\xC3\xBCrgen", "accents, not \"pad1="},
+        {"name = pad1=Oma,wasd=Bartholomew", "accents, not \"pad1=Oma,wasd=Bartholomew\""},
+        {"colours = ff8800", "colours: expected default, safe, or six as in ff8800 with commas between, not "},
+        {"colours = 0,1,2,3,4,5", "between, not \"0,1,2,3,4,5\""},
+        {"language = fr", "language: expected de, en, auto, not \"fr\""},
+        {"text-scale = 99", "text-scale: expected 100 to 300, not \"99\""},
         {"write-settings", "write-settings: on the command line only"},
         {"[Sound]", "expected NAME = VALUE, not \"[Sound]\""},
         {"= 3", "expected NAME = VALUE, not \"= 3\""},
@@ -106,6 +118,7 @@ TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
         EXPECT_NE(read.complaints[0].find(what), std::string::npos) << read.complaints[0];
         EXPECT_LT(read.complaints[0].size(), 250);
         EXPECT_EQ(read.options.sound.volume, 100);
+        EXPECT_EQ(read.options.start.names, PlayerNames());
         EXPECT_EQ(read.options.sound.musicVolume, 1) << "what follows is read";
     }
     fs::remove(file);
