@@ -34,7 +34,10 @@ constexpr HelpLine kHelp[] = {
 
 } // namespace
 
-PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame) : IGameState(stateName), game(ownGame) {}
+PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame, std::unique_ptr<ScreenSaver> ownSaver)
+    : IGameState(stateName), game(ownGame), screenSaver(std::move(ownSaver))
+{
+}
 
 void PlayGamestate::enter()
 {
@@ -43,6 +46,7 @@ void PlayGamestate::enter()
     collectPlayerViewports();
     fillFreeCell();
     game.getCore()->getRenderer()->setViewports(viewports);
+    screenSaver->inhibit();
 }
 
 void PlayGamestate::collectPlayerViewports()
@@ -63,11 +67,13 @@ void PlayGamestate::fillFreeCell()
 void PlayGamestate::leave()
 {
     logLine(2) << "Leave PlayGamestate" << std::endl;
+    screenSaver->release();
 }
 
 void PlayGamestate::update()
 {
     game.getMatch().updateMatch();
+    screenSaver->update();
     if (isKeyDown(GLFW_KEY_F12)) game.getCore()->getStateManager()->changeState("DebugGamestate");
     if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
 }

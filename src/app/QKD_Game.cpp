@@ -102,7 +102,7 @@ void QKD_Game::setUpText()
 void QKD_Game::createStates()
 {
     registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this);
-    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this);
+    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this, makeScreenSaver(options.screenSaver));
     debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
 
     GameStateManager* states = getCore()->getStateManager();

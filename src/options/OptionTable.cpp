@@ -72,6 +72,9 @@ std::vector<Option> makeTable()
         {"Settings", "write-settings", 0, request(Request::WriteSettings),
             "write all options, as they are set now, to the settings file"},
 
+        {"Window", "keep-awake", 0, toggle({&Options::screenSaver, &ScreenSaverOptions::keepAwake}),
+            "keep the screen from going dark while a match runs"},
+
         {"Sound", "volume", 0, number({&Options::sound, &Sound::volume}, 0, 100), "how loud everything is"},
         {"Sound", "music-volume", 0, number({&Options::sound, &Sound::musicVolume}, 0, 100), "how loud the music is"},
         {"Sound", "effects-volume", 0, number({&Options::sound, &Sound::effectsVolume}, 0, 100),
