@@ -4,6 +4,7 @@
 #include "audio/SoundOptions.h"
 #include "input/ControlOptions.h"
 #include "match/StartOptions.h"
+#include "platform/ScreenSaver.h"
 #include "platform/WindowOptions.h"
 #include "players/PlayerColours.h"
 #include "render/TextOptions.h"
@@ -19,4 +20,5 @@ struct GameOptions {
     KeyOptions keys;
     TextOptions text;
     ColourOptions colours;
+    ScreenSaverOptions screenSaver;
 };

@@ -60,8 +60,9 @@ std::vector<TextLine> helpLines(const ControlOptions& controls)
 
 } // namespace
 
-PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame, const ControlOptions& controls)
-    : IGameState(stateName), game(ownGame), help(helpLines(controls))
+PlayGamestate::PlayGamestate(const std::string& stateName, QKD_Game& ownGame, const ControlOptions& controls,
+    std::unique_ptr<ScreenSaver> ownSaver)
+    : IGameState(stateName), game(ownGame), help(helpLines(controls)), screenSaver(std::move(ownSaver))
 {
 }
 
@@ -71,6 +72,7 @@ void PlayGamestate::enter()
     collectPlayerViewports();
     fillFreeCell();
     layOut();
+    screenSaver->inhibit();
 }
 
 void PlayGamestate::layOut()
@@ -98,11 +100,13 @@ void PlayGamestate::fillFreeCell()
 void PlayGamestate::leave()
 {
     logLine(2) << "Leave PlayGamestate" << std::endl;
+    screenSaver->release();
 }
 
 void PlayGamestate::update()
 {
     game.getMatch().updateMatch();
+    screenSaver->update();
     if (isKeyDown(GLFW_KEY_F12)) game.getCore()->getStateManager()->changeState("DebugGamestate");
     if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
 }

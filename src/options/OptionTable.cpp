@@ -190,6 +190,8 @@ std::vector<Option> rows()
         {"Window", "vsync", 0, toggle({&Options::window, &Window::vsync}), "have frames wait for the monitor"},
         {"Window", "wide-views", 0, toggle({&Options::view, &ViewOptions::wide}),
             "show more to the sides where a view is wide, and less where it is tall, instead of stretching it"},
+        {"Window", "keep-awake", 0, toggle({&Options::screenSaver, &ScreenSaverOptions::keepAwake}),
+            "keep the screen from going dark while a match runs"},
 
         {"Sound", "volume", 0, number({&Options::sound, &Sound::volume}, 0, 100), "how loud everything is"},
         {"Sound", "music-volume", 0, number({&Options::sound, &Sound::musicVolume}, 0, 100), "how loud the music is"},
