@@ -1,5 +1,7 @@
 #include "platform/AppWindow.h"
 
+#include "platform/WindowLibrary.h"
+
 #include <GLFW/glfw3.h>
 
 #include <chrono>
@@ -11,7 +13,7 @@ constexpr int kDepthBits = 32;
 
 bool AppWindow::initialize()
 {
-    return glfwInit() == GLFW_TRUE;
+    return startWindowLibrary();
 }
 
 bool AppWindow::open(int width, int height, const char* title)
