@@ -107,8 +107,8 @@ void QKD_Game::setUpText()
 void QKD_Game::createStates()
 {
     registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options);
-    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this, options.controls,
-        makeScreenSaver(options.screenSaver));
+    playState =
+        std::make_unique<PlayGamestate>("PlayGamestate", *this, options.controls, makeScreenSaver(options.screenSaver));
     debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
 
     GameStateManager* states = getCore()->getStateManager();

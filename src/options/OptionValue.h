@@ -9,6 +9,9 @@
 #include <utility>
 #include <vector>
 
+template <class Base, class T>
+using MemberOf = T Base::*;
+
 /// A member of Options, given as the member of Options that holds its struct and the member of that struct.
 template <class T>
 struct Place {
@@ -18,7 +21,7 @@ struct Place {
     }
 
     template <class Base, class Struct>
-    Place(Struct Base::*part, T Struct::*member)
+    Place(MemberOf<Base, Struct> part, MemberOf<Struct, T> member)
         : get([=](const Options& options) -> const T& { return options.*part.*member; }),
           set([=](Options& options, T value) { options.*part.*member = std::move(value); })
     {

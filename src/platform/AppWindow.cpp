@@ -1,6 +1,7 @@
 #include "platform/AppWindow.h"
 
 #include "base/Logger.h"
+#include "platform/WindowLibrary.h"
 
 #include <GLFW/glfw3.h>
 
@@ -43,7 +44,7 @@ int distanceFor(int usual, int usualSide, int side, int monitorSide)
 
 bool AppWindow::initialize()
 {
-    return glfwInit() == GLFW_TRUE;
+    return startWindowLibrary();
 }
 
 bool AppWindow::open(const WindowOptions& asked, const char* title)
