@@ -21,9 +21,6 @@ public:
     {
     }
 
-    /// As it is with options.
-    TestGame(double passLength, const GameOptions& given) : QKD_Game(given), passSeconds(passLength) {}
-
     /// Seen and heard by way of another presentation.
     TestGame(double passLength, std::unique_ptr<IPresentation> shown, const GameOptions& told = {})
         : QKD_Game(std::move(shown), told), passSeconds(passLength)

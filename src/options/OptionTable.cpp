@@ -1,6 +1,7 @@
 #include "options/OptionTable.h"
 
 #include "match/PlayerRegistration.h"
+#include "options/Comfort.h"
 #include "options/ControlRows.h"
 #include "platform/DataFolder.h"
 #include "render/TextRenderer.h"
@@ -175,6 +176,9 @@ std::vector<Option> rows()
             "name the versions of game and libraries, and the data folder"},
         {"Information", "list-devices", 0, request(Request::ListDevices), "name monitors, sound devices and game-pads"},
 
+        {"Settings", "comfort", 0, comfort(),
+            "full screen, --wide-views, --own-labels, --hint, --keep-awake, --mute-unfocused, --no-culled-text, "
+            "--language auto, --key.screenshot f10; what stands after it counts"},
         {"Settings", "config", 0, onCommandLineOnly(file({&Options::program, &Program::config})),
             "read the settings from another file"},
         {"Settings", "write-settings", 0, request(Request::WriteSettings),

@@ -234,6 +234,26 @@ TEST(Options, ChooseTheLanguageByThemselvesOrByTheLocale)
     }
 }
 
+TEST(Options, GiveComfort)
+{
+    GameSession game("1280x720x24");
+    std::ofstream("user-dirs.dirs") << "XDG_PICTURES_DIR=\"" << fs::current_path().string() << "\"\n";
+    const GameSession::Environment british{{"LC_ALL", "en_GB.UTF-8"}, {"LANGUAGE", "en"}};
+    game.start(british, {"--comfort", "--join", "arrows,wasd", "--start"});
+    game.program().waitForOutput("WARNING | The screen may go dark during the match: ");
+    EXPECT_EQ(game.screen().look().width, 1280);
+    game.holdUntil("F10", "Picture saved: " + fs::current_path().string() + "/Quackdash/20");
+    const Picture whole = readPng(fs::directory_iterator("Quackdash")->path().string());
+    EXPECT_EQ(std::pair(whole.width, whole.height), std::pair(1280, 720));
+    EXPECT_EQ(game.quit(), 0);
+    EXPECT_EQ(game.program().count("Player 0, Arrows\n"), 1);
+
+    game.start(british, {"--comfort", "--windowed", "--size", "640x480", "--language", "de", "--join", "arrows"});
+    EXPECT_EQ(game.screen().look().width, 640);
+    EXPECT_EQ(game.quit(), 0);
+    EXPECT_EQ(game.program().count("Player 0, Pfeil\n"), 1);
+}
+
 /// What a run was heard as: samples of both sides in turn, from the first that is not silent.
 class Recording {
 public:

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -73,6 +74,29 @@ TEST_F(OptionsTest, SayWhatTheWindowFillsByTheLastOfTheirNames)
         const Options options = readWith("fullscreen\nsize = 320x16384", arguments).options;
         EXPECT_EQ(options.window.fullscreen, fills) << arguments.size();
         EXPECT_EQ(options.window.size, (WindowSize{320, 16384}));
+    }
+}
+
+TEST_F(OptionsTest, GiveComfortOverWhatWasSetBeforeAndLeaveTheRest)
+{
+    const std::string set = settingsText(readWith("", {"--comfort"}).options);
+    std::string usual = settingsText(Options());
+    for (const char* line : {"fullscreen=true", "wide-views=true", "own-labels=true", "hint=true", "keep-awake=true",
+             "mute-unfocused=true", "culled-text=false", "language=\"auto\"", "key.screenshot=\"f10\""}) {
+        const std::string name(line, std::strchr(line, '='));
+        usual = std::regex_replace(usual, std::regex("\n" + name + "=.*"), std::string("\n") + line);
+    }
+    EXPECT_EQ(set, usual);
+
+    for (const auto& [settings, key] : {std::pair<std::string, std::string>{"key.screenshot = q\nvolume = 3\n", "q"},
+             {"wasd.shoot = f10\nvolume = 3\n", ""}, {"volume = 3\nkey.fullscreen = f10\n", ""}}) {
+        const ReadOptions read = readWith(settings, {"--hint", "--comfort", "--no-hint", "-w"});
+        EXPECT_EQ(read.fault, "");
+        EXPECT_EQ(read.complaints, std::vector<std::string>());
+        EXPECT_EQ(read.options.keys.screenshot, key);
+        EXPECT_EQ(read.options.sound.volume, 3);
+        EXPECT_TRUE(read.options.text.ownLabels);
+        EXPECT_FALSE(read.options.text.hint || read.options.window.fullscreen);
     }
 }
 
