@@ -1,11 +1,12 @@
 // What a frame costs: the real renderer over the real world, in a match with smoke, hats and balls in flight. Run by
 // hand, on the (virtual) display that is to be measured:
-//     xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench_frame [FRAMES [CARS [VIEWS]]]
+//     xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench_frame [FRAMES [CARS [VIEWS [WIDTH HEIGHT]]]]
 // FRAMES: of each measurement, 100 unless given. CARS: participants, 16 unless given; at least one for each viewport
-// takes part. VIEWS: that many viewports (1 to 6) only; 1, 2, 4 and 6 unless given.
+// takes part. VIEWS: that many viewports (1 to 6) only; 1, 2, 4 and 6 unless given, or 0. WIDTH and HEIGHT: of the
+// window, 1024 and 768 unless given; the screen must hold it.
 //
 // For each number of viewports it prints a table of the steps of a frame (medians of wall and processor time; each step
-// ended by a GL finish) and then two lines for scripts.
+// ended by a GL finish) and then three lines for scripts.
 //
 // `views 2 draws 205 lookups 566 own_ms 0.45 own_cpu_ms 0.31`: medians of what a frame hands to the driver, draw calls
 // and look-ups of uniforms, and of what our own code takes: own_ms by the wall clock, the wait for the physics thread
@@ -16,6 +17,8 @@
 // `views 2 frame_ms 43.1 p95_ms 50.2 rss_growth_kib 120`: frames measured as a whole, without finishes between the
 // steps. rss_growth_kib: of resident memory from the first of all frames to the last that the driver draws: shots leave
 // a scene node of some 300 bytes each.
+//
+// `views 2 rss_mib 320`: resident memory at the end.
 //
 // On a busy machine the processor time is the steadier figure: a software driver's threads count in it.
 
@@ -139,10 +142,10 @@ struct OwnTime {
 };
 
 /// Measure, in a process of its own: participants cannot leave a match. Return the exit status.
-int measure(int views, int frames, int cars)
+int measure(int views, int frames, int cars, const GameOptions& options)
 {
     muteLog();
-    BenchGame game;
+    BenchGame game(1.0 / 60.0, options);
     if (!game.start()) return noDisplay();
     game.startMatch(views, std::max(cars, views));
     for (int i = 0; i < kWarmUpFrames; ++i) game.pass();
@@ -182,6 +185,7 @@ int measure(int views, int frames, int cars)
         submissions.medianLookUps(), own.wall, own.processor);
     std::printf("views %d frame_ms %.1f p95_ms %.1f rss_growth_kib %ld\n", views, percentile(whole, 0.5),
         percentile(whole, 0.95), growth);
+    std::printf("views %d rss_mib %.0f\n", views, static_cast<double>(residentKib()) / 1024);
     std::fflush(stdout);
     return 0;
 }
@@ -193,9 +197,11 @@ int main(int argc, char** argv)
     const int frames = argc > 1 ? std::max(1, std::atoi(argv[1])) : kDefaultFrames;
     const int cars = argc > 2 ? std::clamp(std::atoi(argv[2]), 0, 16) : kDefaultCars;
     std::vector<int> viewCounts{1, 2, 4, 6};
-    if (argc > 3) viewCounts = {std::clamp(std::atoi(argv[3]), 1, 6)};
+    if (argc > 3 && std::atoi(argv[3]) > 0) viewCounts = {std::min(std::atoi(argv[3]), 6)};
+    GameOptions options;
+    if (argc > 5) options.window.size = {std::atoi(argv[4]), std::atoi(argv[5])};
     for (const int views : viewCounts) {
-        if (inOwnProcess([&] { return measure(views, frames, cars); }) != 0) return EXIT_FAILURE;
+        if (inOwnProcess([&] { return measure(views, frames, cars, options); }) != 0) return EXIT_FAILURE;
     }
     return 0;
 }

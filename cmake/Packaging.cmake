@@ -3,7 +3,7 @@
 # (platform/DataFolder), wherever both are put.
 include(GNUInstallDirs)
 
-set(QUACKDASH_APP_ID org.quackdash.Quackdash)
+set(QUACKDASH_APP_ID org.quackdash.quackdash)
 set(CPACK_PACKAGE_CONTACT "Quackdash developers <developers@quackdash.example>")
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

@@ -9,11 +9,11 @@ project_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 play_packages=(g++ cmake ninja-build pkg-config ca-certificates
     libglfw3-dev libglew-dev libgl-dev libgl1-mesa-dri libglm-dev libboost-dev libassimp-dev libstb-dev
     libsdl2-dev libopenal-dev libsndfile1-dev libcli11-dev libpng-dev libglib2.0-dev libprotobuf-dev
-    protobuf-compiler dpkg-dev file)
+    protobuf-compiler gettext dpkg-dev file)
 # What the tests need besides:
 # shellcheck disable=SC2034
-test_packages=(libgtest-dev libx11-dev libxtst-dev xvfb xauth lintian desktop-file-utils appstream
-    clang-format)
+test_packages=(libgtest-dev libx11-dev libxtst-dev xvfb xauth dbus python3-dbusmock
+    lintian desktop-file-utils appstream clang-format)
 
 die() {
     printf '%s\n' "$*" >&2

@@ -14,7 +14,7 @@ public:
     void open(int side)
     {
         glewExperimental = GL_TRUE;
-        if (!window.initialize() || !window.open(side, side, "test") || glewInit() != GLEW_OK)
+        if (!window.initialize() || !window.open({.size = {side, side}}, "test") || glewInit() != GLEW_OK)
             throw std::runtime_error("no OpenGL 4.3 core context; is there a display?");
         failTestsOnGlErrors();
 

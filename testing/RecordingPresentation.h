@@ -26,10 +26,10 @@ public:
         ++updates;
         Presentation::update();
     }
-    void addText(const std::string& text, double x, double y) override
+    void addLabel(const PlayerLabel& label, const Viewport::Rect& view) override
     {
-        texts.push_back(text);
-        Presentation::addText(text, x, y);
+        texts.insert(texts.end(), {label.standing, label.name});
+        Presentation::addLabel(label, view);
     }
 
     int updates = 0;

@@ -4,6 +4,7 @@
 #include "app/GameStateManager.h"
 #include "base/Logger.h"
 #include "input/AIController.h"
+#include "options/OptionTable.h"
 #include "physics/PhysicNode.h"
 #include "physics/Terrain.h"
 #include "physics/VehicleHandle.h"
@@ -44,6 +45,7 @@ constexpr Snapshot kSnapshots[] = {
     {"help", View::kHelp, 2, 6, 170},
     {"debug", View::kDebug, 2, 6, 170},
     {"horizon", View::kHorizon, 1, 2, 30},
+    {"comfort", View::kMatch, 2, 6, 170, true},
 };
 
 /// A person's device whose buttons the computer presses.
@@ -61,10 +63,21 @@ private:
     int seat;
 };
 
+GameOptions optionsFor(const Snapshot& snapshot)
+{
+    Options options;
+    if (!snapshot.comfort) return options;
+    findOption("comfort")->value.read(options, "");
+    options.window = {.size = {1280, 720}};
+    options.text.language = Language::En;
+    options.start.names = {"", "", "", "", "Granny", "Kim"};
+    return options;
+}
+
 /// The game and the people who play it.
 class Scene : public TestGame {
 public:
-    Scene() : TestGame(kPassSeconds) {}
+    explicit Scene(const GameOptions& given) : TestGame(kPassSeconds, given) {}
 
     /// Draw the snapshot into its file. Return the exit status.
     int take(const Snapshot& snapshot, const std::string& folder)
@@ -90,7 +103,8 @@ private:
     {
         Match& match = getMatch();
         for (int i = 0; i < snapshot.people; ++i) {
-            match.addPlayer(devices.emplace_back(i));
+            match.addPlayer(devices.emplace_back(i),
+                options.start.names.at(static_cast<std::size_t>((i + 4) % kPeople)));
             devices.back().setPlayer(*match.getPlayers().back(), match);
             place(*match.getActors().back(), kInnerRadius, i, kPeople);
         }
@@ -155,5 +169,5 @@ std::span<const Snapshot> snapshots()
 
 bool take(const Snapshot& snapshot, const std::string& folder)
 {
-    return inOwnProcess([&] { return Scene().take(snapshot, folder); }) == EXIT_SUCCESS;
+    return inOwnProcess([&] { return Scene(optionsFor(snapshot)).take(snapshot, folder); }) == EXIT_SUCCESS;
 }

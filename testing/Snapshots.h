@@ -19,7 +19,8 @@ struct Snapshot {
     View view;
     int people;
     int participants;
-    int passes; ///< of 1/30 s before the picture
+    int passes;           ///< of 1/30 s before the picture
+    bool comfort = false; ///< with --comfort, in a wide window and in English
 };
 
 /// All of them, as the documents show them and the tests compare them.

@@ -16,7 +16,10 @@
 class TestGame : public QKD_Game {
 public:
     /// passLength: see SteppedClock; nothing for passes of real time.
-    explicit TestGame(std::optional<double> passLength = 1.0 / 60.0) : passSeconds(passLength) {}
+    explicit TestGame(std::optional<double> passLength = 1.0 / 60.0, const GameOptions& given = {})
+        : QKD_Game(given), passSeconds(passLength)
+    {
+    }
 
     /// Seen and heard by way of another presentation.
     TestGame(double passLength, std::unique_ptr<IPresentation> shown, const GameOptions& told = {})

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr const char* kScreen = "1400x900x24"; // pixels and depth: holds the whole window at its place, (300, 30)
-
 /// A window may vanish between two requests about it; the library's own handler would end the test program.
 int ignoreError(Display*, XErrorEvent*)
 {
@@ -19,8 +17,8 @@ int ignoreError(Display*, XErrorEvent*)
 
 } // namespace
 
-VirtualDisplay::VirtualDisplay()
-    : server({.command = {"Xvfb", "-displayfd", "1", "-screen", "0", kScreen, "-nolisten", "tcp", "-noreset"},
+VirtualDisplay::VirtualDisplay(const char* screen)
+    : server({.command = {"Xvfb", "-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp", "-noreset"},
           .output = folder.path() / "xvfb.txt"})
 {
     server.waitFor("a virtual display", [this] {
@@ -73,6 +71,12 @@ void VirtualDisplay::closeWindow()
     event.xclient = {ClientMessage, 0, False, connection, windowId, protocols, 32, {}};
     event.xclient.data.l[0] = static_cast<long>(XInternAtom(connection, "WM_DELETE_WINDOW", False));
     XSendEvent(connection, windowId, False, NoEventMask, &event);
+    XFlush(connection);
+}
+
+void VirtualDisplay::resizeWindow(int width, int height)
+{
+    XResizeWindow(connection, windowId, static_cast<unsigned>(width), static_cast<unsigned>(height));
     XFlush(connection);
 }
 

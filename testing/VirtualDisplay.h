@@ -17,7 +17,8 @@ struct _XDisplay;
 /// std::runtime_error.
 class VirtualDisplay {
 public:
-    VirtualDisplay();
+    /// A screen of that width, height and depth: the usual one holds the usual window at its place, (300, 30).
+    explicit VirtualDisplay(const char* screen = "1400x900x24");
     ~VirtualDisplay();
     VirtualDisplay(const VirtualDisplay&) = delete;
     VirtualDisplay& operator=(const VirtualDisplay&) = delete;
@@ -33,6 +34,9 @@ public:
 
     /// Ask the window to close, as the button in its title bar would.
     void closeWindow();
+
+    /// Give the window another size, as a mouse at its corner would.
+    void resizeWindow(int width, int height);
 
     /// Have keys go nowhere, as if another window had them, until the window takes them again.
     void takeKeysAway();

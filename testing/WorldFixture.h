@@ -26,8 +26,7 @@ public:
     WorldFixture& operator=(const WorldFixture&) = delete;
 
     /// Make the ground from a picture of that many pixels; flat at height 0 by default.
-    Terrain& ground(
-        const Heights& heights = [](int, int) { return 0; }, int width = 512, int height = 512)
+    Terrain& ground(const Heights& heights = flat, int width = 512, int height = 512)
     {
         const DataScratch folder;
         folder.writeTga("Textures/map.tga", width, height, 1, [&heights](int x, int y, int) { return heights(x, y); });
@@ -50,8 +49,7 @@ public:
     }
 
     /// Make passes, for that many seconds by the clock on the wall. `each` runs before every pass.
-    void run(
-        float seconds, const std::function<void()>& each = [] {})
+    void run(float seconds, const std::function<void()>& each = doNothing)
     {
         constexpr float kPassSeconds = 1.0f / 120.0f;
         for (long passes = std::lround(seconds / kPassSeconds); passes > 0; --passes) {
@@ -62,4 +60,8 @@ public:
     }
 
     PhysxManager& manager;
+
+private:
+    static int flat(int, int) { return 0; }
+    static void doNothing() {}
 };

@@ -1,5 +1,6 @@
 #include "app/Core.h"
 
+#include "app/GameOptions.h"
 #include "app/GameStateManager.h"
 #include "assets/Library.h"
 #include "render/Renderer.h"
@@ -12,8 +13,8 @@ Core* Core::getInstance()
     return instance;
 }
 
-bool Core::init()
+bool Core::init(const GameOptions& options)
 {
     Library::getInstance()->loadModels();
-    return renderer->initialize();
+    return renderer->initialize(options.window, options.view);
 }

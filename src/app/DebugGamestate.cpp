@@ -37,7 +37,7 @@ DebugGamestate::DebugGamestate(const std::string& stateName, QKD_Game& ownGame)
 void DebugGamestate::enter()
 {
     logLine(2) << "Enter TestState1" << std::endl;
-    game.getCore()->getRenderer()->setViewports({view.getViewport()});
+    layOut();
     window.captureCursor(true);
     flight.start(mouse()); // a mouse that moved since the last visit does not make the view jump
 }
@@ -46,6 +46,12 @@ FreeFlight::Mouse DebugGamestate::mouse() const
 {
     const AppWindow::Position position = game.getOutside().readMouse(window);
     return {position.x, position.y};
+}
+
+void DebugGamestate::layOut()
+{
+    view.getViewport()->setRect(game.getWindowRect());
+    game.getCore()->getRenderer()->setViewports({view.getViewport()});
 }
 
 void DebugGamestate::leave()

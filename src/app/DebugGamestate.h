@@ -15,6 +15,7 @@ public:
     DebugGamestate(const std::string& stateName, QKD_Game& game);
 
     void enter() override;
+    void layOut() override;
     void leave() override;
     void update() override;
     void renderCamera(Camera*) override {}

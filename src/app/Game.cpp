@@ -7,7 +7,10 @@
 #include "render/Renderer.h"
 #include "render/TextRenderer.h"
 
-Game::Game() : timer(FrameTimer::getInstance()), core(Core::getInstance()) {}
+Game::Game(const GameOptions& ownOptions)
+    : options(ownOptions), timer(FrameTimer::getInstance()), core(Core::getInstance())
+{
+}
 
 bool Game::run()
 {
@@ -20,7 +23,7 @@ bool Game::run()
 bool Game::start()
 {
     readAhead();
-    if (!core->init()) return false;
+    if (!core->init(options)) return false;
     loadResources();
     core->getRenderer()->setDebugRenderer(new DebugRenderer());
     init();
@@ -40,6 +43,7 @@ bool Game::updatePass()
     if (isPassTooLong()) return false;
 
     frameState = core->getStateManager()->getCurrentState();
+    if (core->getRenderer()->followWindow() && frameState) frameState->layOut();
     if (frameState) frameState->update();
     update();
     return true;

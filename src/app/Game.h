@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/GameOptions.h"
+
 class Core;
 class FrameTimer;
 class IGameState;
@@ -8,7 +10,7 @@ class IGameState;
 /// hands calls start(), then pass() as often as it likes, or updatePass() and drawPass() by themselves.
 class Game {
 public:
-    Game();
+    explicit Game(const GameOptions& options = {});
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
 
@@ -43,6 +45,8 @@ protected:
     virtual void beginPass() = 0;     ///< the pass has its length; nobody has done anything in it yet
     virtual void update() = 0;        ///< do the game's own work once a drawn frame, after the state's
     virtual void cleanup() = 0;       ///< put something away; the loop never calls it
+
+    const GameOptions options;
 
 private:
     FrameTimer* timer;

@@ -1,16 +1,10 @@
 #include "app/HelpText.h"
 
-#include "render/TextRenderer.h"
-
 #include <algorithm>
 
 namespace {
 
-// Normalised device coordinates.
-constexpr double kLeft = -0.975;
-constexpr double kFirstLine = 0.875;
-constexpr double kLastLine = -0.975;
-constexpr double kLineSpacing = 0.1;
+constexpr TextRoom kWindow{-0.975, 0.875, 0.975, -1};
 
 constexpr std::size_t kColumns = 31; // glyphs from there to the window's right edge
 
@@ -25,11 +19,22 @@ std::size_t endOfRow(const std::string& text)
 
 } // namespace
 
-std::vector<HelpLine> wrapped(const std::vector<HelpLine>& lines)
+void addControls(std::vector<TextLine>& lines, int number, const std::string& indent, std::span<const Control> controls)
 {
-    std::vector<HelpLine> rows;
+    std::size_t width = 0;
+    for (const Control& control : controls) width = std::max(width, control.first.size());
+    for (const auto& [what, key] : controls) {
+        std::string line = indent + what;
+        line.append(width - what.size(), ' ').append(" > ").append(key);
+        lines.push_back({number++, line});
+    }
+}
+
+std::vector<TextLine> wrapped(const std::vector<TextLine>& lines)
+{
+    std::vector<TextLine> rows;
     int next = 0;
-    for (const HelpLine& line : lines) {
+    for (const TextLine& line : lines) {
         const std::size_t arrow = line.text.find("> ");
         const std::size_t indent = arrow == std::string::npos ? line.text.find_first_not_of(' ') : arrow + 2;
         next = std::max(next, line.number);
@@ -43,8 +48,7 @@ std::vector<HelpLine> wrapped(const std::vector<HelpLine>& lines)
     return rows;
 }
 
-void writeHelp(TextRenderer& text, const std::vector<HelpLine>& lines)
+void writeHelp(TextRenderer& text, std::span<const TextLine> lines)
 {
-    const double spacing = std::min(kLineSpacing, (kFirstLine - kLastLine) / lines.back().number);
-    for (const HelpLine& line : lines) text.addText(line.text, kLeft, kFirstLine - line.number * spacing);
+    text.addLines(lines, kWindow);
 }

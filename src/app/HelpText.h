@@ -1,19 +1,22 @@
 #pragma once
 
+#include "render/TextRenderer.h"
+
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
-class TextRenderer;
+/// What is done, and the key that does it.
+using Control = std::pair<std::string, std::string>;
 
-/// A line of a help screen and its number from the top; numbers that are left out stay empty.
-struct HelpLine {
-    int number;
-    std::string text;
-};
+/// Append a line for each control, from that number on: "Fahren     > WASD", the keys one below the other.
+void addControls(std::vector<TextLine>& lines, int number, const std::string& indent,
+    std::span<const Control> controls);
 
 /// Return the lines as they find room: of one that is too long, the words after the last commas that still fit go on
 /// below, under what follows its ">". Lines that come after move down where they must.
-std::vector<HelpLine> wrapped(const std::vector<HelpLine>& lines);
+std::vector<TextLine> wrapped(const std::vector<TextLine>& lines);
 
-/// Write the lines for this frame, from the window's upper-left corner on; more than a window's full, closer together.
-void writeHelp(TextRenderer& text, const std::vector<HelpLine>& lines);
+/// Write the lines for this frame, from the window's upper-left corner on; more than a window's full, smaller.
+void writeHelp(TextRenderer& text, std::span<const TextLine> lines);

@@ -1,5 +1,6 @@
 #include "app/Presentation.h"
 
+#include "app/PlayerLabels.h"
 #include "assets/BallModel.h"
 #include "assets/DriverModel.h"
 #include "assets/Library.h"
@@ -8,7 +9,7 @@
 #include "gpu/Uniform_Texture.h"
 #include "render/ParticleSystem.h"
 #include "render/Renderer.h"
-#include "render/TextRenderer.h"
+#include "render/TextOptions.h"
 #include "scene/Mesh.h"
 #include "scene/MeshGenerators.h"
 #include "scene/Node.h"
@@ -56,7 +57,12 @@ private:
     Uniform_Texture smokeTexture;
 };
 
-Presentation::Presentation(Renderer& ownRenderer) : renderer(ownRenderer) {}
+Presentation::Presentation(Renderer& ownRenderer) : Presentation(ownRenderer, TextOptions()) {}
+
+Presentation::Presentation(Renderer& ownRenderer, const TextOptions& options)
+    : renderer(ownRenderer), labels(makePlayerLabels(ownRenderer, options))
+{
+}
 
 Presentation::~Presentation() = default;
 
@@ -93,9 +99,14 @@ void Presentation::update()
     AudioSystem::getInstance()->update();
 }
 
-void Presentation::addText(const std::string& text, double x, double y)
+void Presentation::addLabel(const PlayerLabel& label, const Viewport::Rect& view)
 {
-    renderer.getTextRenderer()->addText(text, x, y);
+    labels->write(label, view);
+}
+
+void Presentation::addSign(const std::string& sign, const glm::vec3& place, const Viewport& view)
+{
+    labels->writeSign(sign, place, view);
 }
 
 glm::ivec2 Presentation::getWindowSize() const

@@ -5,6 +5,7 @@
 #include "app/DebugGamestate.h"
 #include "app/GameStateManager.h"
 #include "app/PlayGamestate.h"
+#include "app/PlayerLabels.h"
 #include "app/Presentation.h"
 #include "app/RegisterPlayersGamestate.h"
 #include "assets/Library.h"
@@ -35,12 +36,13 @@ std::vector<std::string> filesOf(std::span<const Asset> assets)
 } // namespace
 
 QKD_Game::QKD_Game(const GameOptions& ownOptions, Outside& ownOutside)
-    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer()), ownOptions, ownOutside)
+    : QKD_Game(std::make_unique<Presentation>(*Core::getInstance()->getRenderer(), ownOptions.text), ownOptions,
+          ownOutside)
 {
 }
 
 QKD_Game::QKD_Game(std::unique_ptr<IPresentation> ownPresentation, const GameOptions& ownOptions, Outside& ownOutside)
-    : options(ownOptions), outside(ownOutside), renderer(*getCore()->getRenderer()),
+    : Game(ownOptions), outside(ownOutside), renderer(*getCore()->getRenderer()),
       presentation(std::move(ownPresentation))
 {
 }
@@ -77,6 +79,7 @@ void QKD_Game::loadTextures()
 
 void QKD_Game::init()
 {
+    chooseLanguage(options.text.language);
     setUpText();
     buildWorld();
     startSound(); // last: it waits for the music
@@ -119,7 +122,7 @@ void QKD_Game::restart(const std::function<void()>& between)
 
 void QKD_Game::createWorld()
 {
-    world = std::make_unique<MatchWorld>(*presentation);
+    world = std::make_unique<MatchWorld>(*presentation, options.colours.people);
     scenery = std::make_unique<Scenery>(getScene());
     renderer.setSceneGraph(&getScene());
 }
@@ -129,12 +132,15 @@ void QKD_Game::setUpText()
     TextRenderer* text = renderer.getTextRenderer();
     text->setShader(Library::getInstance()->getShaderprogram("TextShader"));
     text->setFont(Library::getInstance()->getTexture("Font"));
+    text->setScale(options.text.scale / 100.0); // percent
+    renderer.setCulledText(makeCulledText(renderer, options.text));
 }
 
 void QKD_Game::createStates()
 {
-    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options.controls);
-    playState = std::make_unique<PlayGamestate>("PlayGamestate", *this, options.controls);
+    registerState = std::make_unique<RegisterPlayersGamestate>("RegisterPlayersGamestate", *this, options);
+    playState =
+        std::make_unique<PlayGamestate>("PlayGamestate", *this, options.controls, makeScreenSaver(options.screenSaver));
     debugState = std::make_unique<DebugGamestate>("DebugGamestate", *this);
 
     GameStateManager* states = getCore()->getStateManager();
@@ -175,6 +181,7 @@ void QKD_Game::bindFunctionKeys()
     functionKeys.bind(1, When::kHeld, [this] { showHelp(); });
     functionKeys.bindKey(keyOf(options.keys.screenshot), [this] { screenshot.takeNext(); });
     functionKeys.bindKey(keyOf(options.keys.mark), [this] { outside.mark(); });
+    functionKeys.bindKey(keyOf(options.keys.fullscreen), [this] { renderer.getWindow().toggleFullscreen(); });
 }
 
 void QKD_Game::showHelp()

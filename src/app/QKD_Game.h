@@ -2,7 +2,6 @@
 
 #include "app/FunctionKeys.h"
 #include "app/Game.h"
-#include "app/GameOptions.h"
 #include "app/Outside.h"
 #include "app/Scenery.h"
 #include "app/Screenshot.h"
@@ -69,7 +68,6 @@ private:
     void showHelp();
     void logRanking();
 
-    const GameOptions options;
     Outside& outside;
     Renderer& renderer;
     FunctionKeys functionKeys;

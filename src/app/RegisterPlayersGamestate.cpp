@@ -6,6 +6,7 @@
 #include "app/QKD_Game.h"
 #include "app/ShownKeys.h"
 #include "base/Logger.h"
+#include "base/Translation.h"
 #include "platform/Keyboard.h"
 #include "render/Renderer.h"
 #include "scene/Node.h"
@@ -16,22 +17,38 @@
 
 namespace {
 
-std::vector<HelpLine> helpLines(const ControlOptions& controls)
+std::vector<Control> joinKeys(const ControlOptions& controls)
 {
     const Buttons shoot{InputDevice::kShoot};
     return {
-        {0, "Quackdash!"},
-        {2, "  Schiesse deine Gegner ab ohne"},
-        {3, "  selbst abgeschossen zu werden"},
-        {4, "  und werde der Punkte-Champion"},
-        {6, "Bitte registriere deine Spieler"},
-        {8, "Steuerung:"},
-        {9, "  Pfeiltasten > " + shownKeys(controls, 0, shoot, "K")},
-        {10, "  WASD        > " + shownKeys(controls, 1, shoot, "1")},
-        {11, "  XBOX        > " + shownPadButtons(controls, shoot, "A")},
-        {13, "Um das Spiel zu starten:"},
-        {14, "  " + shownStart(controls, "Enter oder Start")},
+        {translated("Pfeiltasten"), shownKeys(controls, 0, shoot, "K")},
+        {"WASD", shownKeys(controls, 1, shoot, "1")},
+        {"XBOX", shownPadButtons(controls, shoot, "A")},
     };
+}
+
+std::vector<TextLine> helpLines(const ControlOptions& controls)
+{
+    std::vector<TextLine> lines = {
+        {0, "Quackdash!"},
+        {2, translated("  Schiesse deine Gegner ab ohne")},
+        {3, translated("  selbst abgeschossen zu werden")},
+        {4, translated("  und werde der Punkte-Champion")},
+        {6, translated("Bitte registriere deine Spieler")},
+        {8, translated("Steuerung:")},
+    };
+    addControls(lines, 9, "  ", joinKeys(controls));
+    lines.push_back({13, translated("Um das Spiel zu starten:")});
+    lines.push_back({14, "  " + shownStart(controls, translated("Enter oder Start"))});
+    return wrapped(lines);
+}
+
+std::vector<TextLine> hintLines(const ControlOptions& controls)
+{
+    std::vector<TextLine> lines = {{0, "Quackdash!"}, {2, translated("Mitspielen:")}};
+    addControls(lines, 3, "  ", joinKeys(controls));
+    lines.push_back({7, translated("Hilfe: F1")});
+    return wrapped(lines);
 }
 
 /// High above the field's edge, looking down onto it.
@@ -48,17 +65,25 @@ Node& createPanoramaNode(QKD_Game& game)
 } // namespace
 
 RegisterPlayersGamestate::RegisterPlayersGamestate(const std::string& stateName, QKD_Game& ownGame,
-    const ControlOptions& controls)
+    const GameOptions& options)
     : IGameState(stateName), game(ownGame), view(ownGame.getWindowRect(), createPanoramaNode(ownGame)),
-      registration(ownGame.getMatch(), ownGame.getOutside().makeDevices(controls)), help(wrapped(helpLines(controls)))
+      registration(ownGame.getMatch(), ownGame.getOutside().makeDevices(options.controls), options.start.names),
+      help(helpLines(options.controls))
 {
+    if (options.text.hint) hint = hintLines(options.controls);
 }
 
 void RegisterPlayersGamestate::enter()
 {
     logLine(2) << "Enter RegisterPlayersGamestate" << std::endl;
-    game.getCore()->getRenderer()->setViewports({view.getViewport()});
+    layOut();
     registration.restart();
+}
+
+void RegisterPlayersGamestate::layOut()
+{
+    view.getViewport()->setRect(game.getWindowRect());
+    game.getCore()->getRenderer()->setViewports({view.getViewport()});
 }
 
 void RegisterPlayersGamestate::leave()
@@ -69,6 +94,7 @@ void RegisterPlayersGamestate::leave()
 void RegisterPlayersGamestate::update()
 {
     registration.update();
+    if (game.getMatch().getHumanPlayerCount() == 0) writeHelp(*game.getCore()->getRenderer()->getTextRenderer(), hint);
     if (isKeyDown(GLFW_KEY_ESCAPE)) game.quit();
     if (registration.shouldStart()) game.getCore()->getStateManager()->changeState("PlayGamestate");
 }

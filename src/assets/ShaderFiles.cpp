@@ -42,8 +42,8 @@ std::optional<GLenum> stageOf(const std::string& keyword)
 std::string quotable(std::string word)
 {
     if (word.size() > kQuotedCharacters) word.resize(kQuotedCharacters);
-    std::replace_if(
-        word.begin(), word.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
+    const auto isUnprintable = [](char c) { return c < ' ' || c > '~'; };
+    std::replace_if(word.begin(), word.end(), isUnprintable, '?');
     return word;
 }
 

@@ -15,6 +15,7 @@ public:
     const std::string& getName() const { return name; }
 
     virtual void enter() = 0;                        ///< the state becomes current
+    virtual void layOut() {}                         ///< current, and the window has another size
     virtual void leave() = 0;                        ///< another state replaces it
     virtual void update() = 0;                       ///< once per drawn frame, before the game's own update
     virtual void renderCamera(Camera* camera) = 0;   ///< once per viewport, after its models are drawn

@@ -1,17 +1,12 @@
 #include "input/KeyboardController.h"
 
+#include "base/Translation.h"
 #include "platform/KeyWords.h"
 #include "platform/Keyboard.h"
 
 #include <GLFW/glfw3.h>
 
 #include <algorithm>
-
-namespace {
-
-constexpr const char* kNames[2] = {"Pfeil", "WASD"};
-
-} // namespace
 
 KeyboardController::KeyboardController(int layout, const ControlOptions& controls) : keySet(layout - 1)
 {
@@ -41,7 +36,7 @@ void KeyboardController::update()
 
 std::string KeyboardController::getName() const
 {
-    return kNames[keySet];
+    return keySet == 0 ? translated("Pfeil") : "WASD";
 }
 
 bool KeyboardController::isStartPressed()

@@ -25,16 +25,18 @@ const physx::PxVec3 kVehicleGravity(0, -9.81f, 0); // units per second squared, 
 
 } // namespace
 
-Match::Match(SceneGraph& ownScene, IPresentation& ownPresentation, const Terrain& ownGround, HitRecorder& ownHits)
-    : scene(ownScene), presentation(ownPresentation), ground(ownGround), hits(ownHits)
+Match::Match(SceneGraph& ownScene, IPresentation& ownPresentation, const Terrain& ownGround, HitRecorder& ownHits,
+    const PlayerColours& ownColours)
+    : scene(ownScene), presentation(ownPresentation), ground(ownGround), hits(ownHits), colours(ownColours)
 {
 }
 
 Match::~Match() = default;
 
-void Match::addPlayer(InputDevice& device)
+void Match::addPlayer(InputDevice& device, const std::string& name)
 {
-    Player* player = new Player(*this, presentation, device);
+    const std::size_t index = players.size();
+    Player* player = new Player(*this, presentation, device, {name, colours.at(index), std::to_string(index + 1)});
     player->setUp();
     players.push_back(player);
     actors.push_back(player);
@@ -124,12 +126,17 @@ void Match::stepPhysics()
     physx->step(dt);
 }
 
+void Match::writeSigns(const Viewport& view)
+{
+    for (const Player* player : actors) presentation.addSign(player->getSign(), player->getPosition(), view);
+}
+
 void Match::layoutViewports()
 {
     const glm::ivec2 window = presentation.getWindowSize();
     for (int i = 0; i < getHumanPlayerCount(); ++i) {
-        const Viewport::Rect cell = viewportCell(getHumanPlayerCount(), i, window.x, window.y);
-        players[static_cast<std::size_t>(i)]->getViewport()->setRect(cell.x, cell.y, cell.width, cell.height);
+        players[static_cast<std::size_t>(i)]->getViewport()->setRect(viewportCell(getHumanPlayerCount(), i, window.x,
+            window.y));
     }
 }
 

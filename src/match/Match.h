@@ -3,10 +3,12 @@
 #include "match/Hats.h"
 #include "match/Ranking.h"
 #include "players/IMatch.h"
+#include "players/PlayerColours.h"
 #include "scene/Viewport.h"
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 class AIPlayer;
@@ -24,13 +26,15 @@ class Match final : public IMatch {
 public:
     /// All borrowed: the scene that cars and balls join, how the match is seen and heard, the ground that is played on,
     /// whose size is how far shots may fly, and the receiver of the physics world's contacts.
-    Match(SceneGraph& scene, IPresentation& presentation, const Terrain& ground, HitRecorder& hits);
+    Match(SceneGraph& scene, IPresentation& presentation, const Terrain& ground, HitRecorder& hits,
+        const PlayerColours& colours);
     ~Match();
     Match(const Match&) = delete;
     Match& operator=(const Match&) = delete;
 
-    /// Have a human player join, driven by the device (borrowed). At most six.
-    void addPlayer(InputDevice& device);
+    /// Have a human player join, driven by the device (borrowed), who is called by that name, or else by the device's.
+    /// At most six.
+    void addPlayer(InputDevice& device, const std::string& name = {});
 
     /// Have a computer player join. People add at most ten; the physics world has room for sixteen cars in all.
     void addComputerPlayer();
@@ -41,6 +45,9 @@ public:
 
     /// Advance vehicles and bodies by one frame of game time.
     void stepPhysics();
+
+    /// Write every car's sign into a view, after the scene's update.
+    void writeSigns(const Viewport& view);
 
     /// Give each human player's viewport its cell of the split screen.
     void layoutViewports();
@@ -76,6 +83,7 @@ private:
     IPresentation& presentation;
     const Terrain& ground;
     HitRecorder& hits;
+    const PlayerColours colours;
     std::vector<Player*> actors;
     std::vector<Player*> players;
     std::vector<AIPlayer*> computerPlayers;

@@ -2,7 +2,7 @@
 
 #include "physics/PhysxManager.h"
 
-MatchWorld::MatchWorld(IPresentation& presentation)
-    : ground(*PhysxManager::getInstance(&hits)->createTerrain()), match(scene, presentation, ground, hits)
+MatchWorld::MatchWorld(IPresentation& presentation, const PlayerColours& colours)
+    : ground(*PhysxManager::getInstance(&hits)->createTerrain()), match(scene, presentation, ground, hits, colours)
 {
 }

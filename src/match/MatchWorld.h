@@ -12,7 +12,7 @@ class Terrain;
 class MatchWorld {
 public:
     /// Create the physics world, with the ground of "Textures/map.tga", and an empty match. presentation is borrowed.
-    explicit MatchWorld(IPresentation& presentation);
+    explicit MatchWorld(IPresentation& presentation, const PlayerColours& colours = kDefaultColours);
 
     Match& getMatch() { return match; }
     SceneGraph& getScene() { return scene; }

@@ -23,9 +23,10 @@ InputDevices makeInputDevices(const ControlOptions& controls)
     return devices;
 }
 
-PlayerRegistration::PlayerRegistration(Match& ownMatch, InputDevices devices) : match(ownMatch)
+PlayerRegistration::PlayerRegistration(Match& ownMatch, InputDevices devices, const PlayerNames& names)
+    : match(ownMatch)
 {
-    for (std::size_t i = 0; i < slots.size(); ++i) slots[i].device = std::move(devices[i]);
+    for (std::size_t i = 0; i < slots.size(); ++i) slots[i] = {.device = std::move(devices[i]), .name = names.at(i)};
 }
 
 void PlayerRegistration::update()
@@ -70,7 +71,7 @@ void PlayerRegistration::join(Slot& slot)
 {
     slot.registered = true;
     slot.device->setJoined();
-    match.addPlayer(*slot.device);
+    match.addPlayer(*slot.device, slot.name);
     logLine(2) << "Player registered" << std::endl;
 }
 

@@ -22,8 +22,8 @@ public:
     static constexpr int kMaxParticipants = 16;
     static constexpr int kMaxComputerPlayers = 10;
 
-    /// The match is borrowed. Simultaneous joiners come in the order of the devices.
-    explicit PlayerRegistration(Match& match, InputDevices devices = makeInputDevices());
+    /// The match is borrowed. Simultaneous joiners come in the order of the devices; names go by that order too.
+    explicit PlayerRegistration(Match& match, InputDevices devices = makeInputDevices(), const PlayerNames& names = {});
 
     /// Have those join who need not press anything: the devices in their order, then the computer players.
     void admit(const StartOptions& start);
@@ -45,6 +45,7 @@ public:
 private:
     struct Slot {
         std::unique_ptr<InputDevice> device;
+        std::string name; // of who joins with it
         bool registered = false;
         bool startPressed = false; // in this frame
     };

@@ -135,6 +135,8 @@ std::vector<Option> controlRows()
     rows.insert(rows.end(), {
         {kGroup, "key.screenshot", 0, key({&Options::keys, &Keys::screenshot}, true),
             "save a picture of the window"},
+        {kGroup, "key.fullscreen", 0, key({&Options::keys, &Keys::fullscreen}, true),
+            "fill the monitor with the window, or no longer"},
         {kGroup, "key.mark", 0, key({&Options::keys, &Keys::mark}, true), "mark a moment in the recording"},
         {kGroup, "rumble", 0, number({&Options::controls, &Controls::rumble}, 0, 100), "how strongly game-pads rumble"},
         {kGroup, "deadzone", 0, number({&Options::controls, &Controls::deadZone}, 0, 100),

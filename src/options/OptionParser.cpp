@@ -38,7 +38,10 @@ void addTo(CLI::App& app, const Option& option, Options& options, bool inFile)
 
     CLI::Option* added = nullptr;
     if (value.placeholder.empty()) {
-        const auto take = [&](std::int64_t on) { value.read(options, on > 0 ? "true" : "false"); };
+        // CLI11 2.4 hands on a word that it does not know as 0; asked for a truth value, every version refuses it.
+        const auto take = [&](std::int64_t) {
+            value.read(options, app.get_option("--" + option.name)->as<bool>() ? "true" : "false");
+        };
         added = app.add_flag_function(names, take, option.description());
     } else {
         const auto take = [&](const std::string& given) {
@@ -48,6 +51,8 @@ void addTo(CLI::App& app, const Option& option, Options& options, bool inFile)
     }
     if (!inFile) added->disable_flag_override();
     added->group(option.group)->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    added->trigger_on_parse(); // in the order given: of two options for one thing the later counts
+    if (value.isRepeatable) added->delimiter(',')->multi_option_policy(CLI::MultiOptionPolicy::Join);
 }
 
 /// Shows an option as its row has it.
@@ -95,7 +100,9 @@ std::string parseLine(CLI::App& app, const std::string& line, std::string& name)
 {
     std::istringstream first(line), second(line);
     const std::vector<CLI::ConfigItem> items = app.get_config_formatter()->from_config(first);
-    if (items.size() != 1 || items[0].name.empty()) return "expected NAME = VALUE, not " + quoted(line);
+    // Where nothing stands before the =, CLI11 2.4 takes the whole line for a name.
+    if (items.size() != 1 || items[0].name.empty() || items[0].name.starts_with('='))
+        return "expected NAME = VALUE, not " + quoted(line);
     const CLI::ConfigItem& item = items[0];
     const Option* const option = findOption(item.name);
     if (!option) return "there is no option " + quoted(item.name);

@@ -1,12 +1,16 @@
 #include "options/OptionTable.h"
 
 #include "match/PlayerRegistration.h"
+#include "options/Comfort.h"
 #include "options/ControlRows.h"
 #include "platform/DataFolder.h"
+#include "render/TextRenderer.h"
 #include "replay/RecordingLimits.h"
 
 #include <charconv>
 #include <filesystem>
+#include <iomanip>
+#include <sstream>
 
 namespace {
 
@@ -49,6 +53,30 @@ OptionValue folder(Place<std::string> place)
     return value;
 }
 
+constexpr WindowSize kMost{16384, 16384}; // of many a driver; the one at hand may take less
+
+OptionValue windowSize(Place<WindowSize> place)
+{
+    const auto format = [](const WindowSize& size) {
+        return std::to_string(size.width) + "x" + std::to_string(size.height);
+    };
+    const auto parse = [](const std::string& given) -> std::optional<WindowSize> {
+        WindowSize size;
+        const char* const end = given.data() + given.size();
+        const auto [times, widthError] = std::from_chars(given.data(), end, size.width);
+        if (widthError != std::errc() || times == end || *times != 'x') return std::nullopt;
+        const auto [stop, heightError] = std::from_chars(times + 1, end, size.height);
+        if (heightError != std::errc() || stop != end) return std::nullopt;
+        const bool isTooSmall = size.width < kLeastWindow.width || size.height < kLeastWindow.height;
+        if (isTooSmall || size.width > kMost.width || size.height > kMost.height) return std::nullopt;
+        return size;
+    };
+    const std::string expected = format(kLeastWindow) + " to " + format(kMost);
+    OptionValue value = parsed(place, "WIDTHxHEIGHT", expected, parse, format);
+    value.completion = "-W '640x480 1024x768 1280x720 1920x1080 2560x1440'";
+    return value;
+}
+
 OptionValue onCommandLineOnly(OptionValue value)
 {
     value.inFile = false;
@@ -64,13 +92,93 @@ const Words<JoinDevice> kJoinDevices = {
     {"pad4", JoinDevice::Pad4},
 };
 
+/// Names of devices and of the people there; those that are not mentioned stay as they are.
+OptionValue names(Place<PlayerNames> place, const Words<JoinDevice>& devices)
+{
+    const auto read = [=](Options& options, const std::string& given) {
+        PlayerNames all = place.get(options);
+        for (const std::string& entry : splitAtCommas(given)) {
+            const std::size_t end = std::min(entry.find('='), entry.size());
+            const auto device = std::find_if(devices.begin(), devices.end(),
+                [&](const auto& word) { return word.first == entry.substr(0, end); });
+            if (end == entry.size() || device == devices.end()) return false;
+            const std::string name = entry.substr(end + 1);
+            if (name.size() > kLongestName || !TextRenderer::canWrite(name)) return false;
+            all.at(static_cast<std::size_t>(device->second)) = name;
+        }
+        place.set(options, all);
+        return true;
+    };
+    const auto write = [=](const Options& options) {
+        std::vector<std::string> entries;
+        for (const auto& [word, device] : devices) {
+            const std::string& name = place.get(options).at(static_cast<std::size_t>(device));
+            if (!name.empty()) entries.push_back(joined({word, name}, "="));
+        }
+        return joined(entries, ",");
+    };
+    return {.read = read,
+        .write = write,
+        .expected = "DEVICE=NAME as in pad1=Granny, a device of --join and up to " + std::to_string(kLongestName) +
+            " letters without accents",
+        .placeholder = "DEVICE=NAME",
+        .isRepeatable = true};
+}
+
+std::optional<PlayerColours> hexColours(const std::string& given)
+{
+    PlayerColours colours;
+    const std::vector<std::string> parts = splitAtCommas(given);
+    if (parts.size() != colours.size()) return std::nullopt;
+    for (std::size_t i = 0; i < colours.size(); ++i) {
+        constexpr std::size_t kDigits = 6;
+        constexpr int kBase = 16, kChannel = 255;
+        const char* const begin = parts[i].data() + (parts[i].starts_with('#') ? 1 : 0);
+        const char* const end = parts[i].data() + parts[i].size();
+        int value = -1;
+        const auto [stop, error] = std::from_chars(begin, end, value, kBase);
+        if (error != std::errc() || stop != end || end - begin != kDigits || value < 0) return std::nullopt;
+        const glm::vec3 rgb(value >> 16, value >> 8 & kChannel, value & kChannel);
+        colours[i] = glm::vec4(rgb / static_cast<float>(kChannel), 1);
+    }
+    return colours;
+}
+
+OptionValue colours(Place<PlayerColours> place)
+{
+    const auto parse = [](const std::string& given) -> std::optional<PlayerColours> {
+        if (given == "default") return kDefaultColours;
+        if (given == "safe") return kSafeColours;
+        return hexColours(given);
+    };
+    const auto format = [](const PlayerColours& value) -> std::string {
+        if (value == kDefaultColours) return "default";
+        if (value == kSafeColours) return "safe";
+        std::ostringstream list;
+        for (const glm::vec4& colour : value) {
+            const glm::ivec3 rgb(glm::round(glm::vec3(colour) * 255.0f));
+            list << (list.tellp() > 0 ? "," : "") << std::hex << std::setfill('0');
+            for (int i = 0; i < 3; ++i) list << std::setw(2) << rgb[i];
+        }
+        return list.str();
+    };
+    OptionValue value =
+        parsed(place, "COLOURS", "default, safe, or six as in ff8800 with commas between", parse, format);
+    value.completion = "-W 'default safe'";
+    return value;
+}
+
+const Words<Language> kLanguages = {{"de", Language::De}, {"en", Language::En}, {"auto", Language::Auto}};
+
 std::vector<Option> rows()
 {
+    using Text = TextOptions;
     using Program = ProgramOptions;
     using Sound = SoundOptions;
     using Replay = ReplayOptions;
     using Start = StartOptions;
     constexpr int kTopSpeed = 16;
+    using Window = WindowOptions;
     constexpr int kMostComputers = PlayerRegistration::kMaxComputerPlayers;
     // clang-format off
     return {
@@ -79,10 +187,26 @@ std::vector<Option> rows()
             "name the versions of game and libraries, and the data folder"},
         {"Information", "list-devices", 0, request(Request::ListDevices), "name monitors, sound devices and game-pads"},
 
+        {"Settings", "comfort", 0, comfort(),
+            "full screen, --wide-views, --own-labels, --hint, --keep-awake, --mute-unfocused, --no-culled-text, "
+            "--language auto, --key.screenshot f10; what stands after it counts"},
         {"Settings", "config", 0, onCommandLineOnly(file({&Options::program, &Program::config})),
             "read the settings from another file"},
         {"Settings", "write-settings", 0, request(Request::WriteSettings),
             "write all options, as they are set now, to the settings file"},
+
+        {"Window", "size", 0, windowSize({&Options::window, &Window::size}), "how large the window is, in pixels"},
+        {"Window", "fullscreen", 'f', toggle({&Options::window, &Window::fullscreen}), "fill the monitor"},
+        {"Window", "windowed", 'w', switchOff({&Options::window, &Window::fullscreen}),
+            "leave room for other windows, as --no-fullscreen"},
+        {"Window", "monitor", 0, text({&Options::window, &Window::monitor}, "NAME", "as --list-devices names it"),
+            "where the window opens, and what it fills"},
+        {"Window", "resizable", 0, toggle({&Options::window, &Window::resizable}), "let the mouse change the size"},
+        {"Window", "vsync", 0, toggle({&Options::window, &Window::vsync}), "have frames wait for the monitor"},
+        {"Window", "wide-views", 0, toggle({&Options::view, &ViewOptions::wide}),
+            "show more to the sides where a view is wide, and less where it is tall, instead of stretching it"},
+        {"Window", "keep-awake", 0, toggle({&Options::screenSaver, &ScreenSaverOptions::keepAwake}),
+            "keep the screen from going dark while a match runs"},
 
         {"Sound", "volume", 0, number({&Options::sound, &Sound::volume}, 0, 100), "how loud everything is"},
         {"Sound", "music-volume", 0, number({&Options::sound, &Sound::musicVolume}, 0, 100), "how loud the music is"},
@@ -118,6 +242,21 @@ std::vector<Option> rows()
             "without a window, as fast as it goes: the replay, or a match among computer players"},
         {"Recording", "passes", 0, onCommandLineOnly(number({&Options::replay, &Replay::passes}, 1, kMostPasses)),
             "how long that match is, in passes of 1/120 s"},
+        {"Text", "language", 0, oneOf({&Options::text, &Text::language}, kLanguages),
+            "what the screen is written in; auto: the language of the locale"},
+        {"Text", "text-scale", 0, number({&Options::text, &Text::scale}, 100, 300),
+            "how large text is, in percent, where there is room"},
+        {"Text", "own-labels", 0, toggle({&Options::text, &Text::ownLabels}),
+            "write each player's text into the player's own view, and a number above each car"},
+        {"Text", "culled-text", 0, toggle({&Options::text, &Text::culledText}),
+            "write at the lower left how many models each view leaves out"},
+        {"Text", "hint", 0, toggle({&Options::text, &Text::hint}),
+            "say on the first screen how to join until somebody has"},
+        {"Text", "name", 0, names({&Options::start, &Start::names}, kJoinDevices),
+            "who plays there; again or with commas for more"},
+
+        {"Colours", "colours", 0, colours({&Options::colours, &ColourOptions::people}),
+            "of the people's ducks and balls; safe ones are told apart by colour-blind people too"},
 
         {"", "print-manual", 0, request(Request::PrintManual), ""},
         {"", "print-completion", 0, request(Request::PrintCompletion), ""},

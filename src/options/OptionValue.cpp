@@ -14,6 +14,15 @@ OptionValue toggle(Place<bool> place)
     return {.read = read, .write = write, .expected = "true or false", .hasOpposite = true};
 }
 
+OptionValue switchOff(Place<bool> place)
+{
+    const auto read = [=](Options& options, const std::string&) {
+        place.set(options, false);
+        return true;
+    };
+    return {.read = read, .write = {}, .expected = "no value", .inFile = false};
+}
+
 OptionValue number(Place<int> place, int least, int most)
 {
     const auto parse = [=](const std::string& given) -> std::optional<int> {

@@ -9,6 +9,9 @@
 #include <utility>
 #include <vector>
 
+template <class Base, class T>
+using MemberOf = T Base::*;
+
 /// A member of Options, given as the member of Options that holds its struct and the member of that struct.
 template <class T>
 struct Place {
@@ -18,7 +21,7 @@ struct Place {
     }
 
     template <class Base, class Struct>
-    Place(Struct Base::*part, T Struct::*member)
+    Place(MemberOf<Base, Struct> part, MemberOf<Struct, T> member)
         : get([=](const Options& options) -> const T& { return options.*part.*member; }),
           set([=](Options& options, T value) { options.*part.*member = std::move(value); })
     {
@@ -36,6 +39,7 @@ struct OptionValue {
     std::string expected;                             ///< in words, as in "0 to 100"
     std::string placeholder = {};                     ///< in capitals; empty for what stands alone, as --mute does
     std::string completion = {};                      ///< arguments of bash's compgen that list what can follow
+    bool isRepeatable = false;                        ///< what is given again comes after a comma
     bool isPlain = false;                             ///< the placeholder says all that is expected
     bool hasOpposite = false;                         ///< --no-NAME is there too
     bool inFile = true;                               ///< may stand in the settings file
@@ -44,6 +48,9 @@ struct OptionValue {
 
 /// On, or off by --no-NAME.
 OptionValue toggle(Place<bool> place);
+
+/// Another name for the --no-NAME of a switch in the same place; on the command line only.
+OptionValue switchOff(Place<bool> place);
 
 /// A whole number between two bounds, inclusive.
 OptionValue number(Place<int> place, int least, int most);
@@ -77,6 +84,25 @@ using Words = std::vector<std::pair<std::string, T>>;
 
 std::vector<std::string> splitAtCommas(const std::string& text); ///< nothing of an empty one
 std::string joined(const std::vector<std::string>& words, const std::string& between);
+
+/// One of these words.
+template <class T>
+OptionValue oneOf(Place<T> place, const Words<T>& words)
+{
+    std::vector<std::string> names;
+    for (const auto& word : words) names.push_back(word.first);
+    const auto parse = [=](const std::string& given) -> std::optional<T> {
+        const auto word = std::find_if(words.begin(), words.end(), [&](const auto& w) { return w.first == given; });
+        return word == words.end() ? std::nullopt : std::optional<T>(word->second);
+    };
+    const auto format = [=](const T& value) {
+        return std::find_if(words.begin(), words.end(), [&](const auto& w) { return w.second == value; })->first;
+    };
+    OptionValue value = parsed(place, joined(names, "|"), joined(names, ", "), parse, format);
+    value.isPlain = true;
+    value.completion = "-W '" + joined(names, " ") + "'";
+    return value;
+}
 
 /// Some of these words in any order, each once, with commas between them; or nothing.
 template <class T>

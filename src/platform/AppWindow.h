@@ -2,9 +2,12 @@
 
 #include "base/FrameTimer.h"
 #include "platform/Keyboard.h"
+#include "platform/WindowOptions.h"
 
 #include <functional>
+#include <limits>
 
+struct GLFWmonitor;
 struct GLFWwindow;
 
 /// The application's one window with its OpenGL 4.3 core debug context, by GLFW 3; also the program's clock and
@@ -17,12 +20,23 @@ public:
     /// Start the window library. Return false when it cannot start (no display).
     bool initialize();
 
-    /// Open the window, make its context current, and put the window's clock and keyboard in place of the defaults.
-    /// Return false when no OpenGL 4.3 core context can be had.
-    bool open(int width, int height, const char* title);
+    /// Open the window, make its context current, and put the window's clock and keyboard in place of the defaults. A
+    /// monitor that is not there is named in the log, and the primary one taken. Return false when no OpenGL 4.3 core
+    /// context can be had.
+    bool open(const WindowOptions& options, const char* title);
 
-    /// Switch vertical synchronisation off, and put the open window's upper-left corner there on the screen.
-    void place(int x, int y);
+    /// Keep the window's sides within what can be drawn, in pixels: it shrinks if it must, with a line in the log, and
+    /// grows no further. From open() on.
+    void limitTo(int side);
+
+    /// Fill the monitor that the options name with the window, as it is set, or give the window back the size and the
+    /// place that it had. The framebuffer has its new size a little later.
+    void toggleFullscreen();
+
+    struct Pixels {
+        int width = 0, height = 0;
+    };
+    Pixels framebufferSize() const { return framebuffer; } ///< as of the last events; more than the window's on some
 
     /// Call this with whether the window has the keys: now, and whenever that changes. From open() on.
     void watchFocus(std::function<void(bool)> changed);
@@ -50,6 +64,19 @@ public:
     void poll() override;
 
 private:
+    struct Placement {
+        int x = 0, y = 0, width = 0, height = 0; // of the window on the screen
+    };
+
+    GLFWmonitor* findMonitor() const;
+    Placement usualPlacement() const;
+    void followFramebuffer();
+    void setFramebufferSize(int width, int height);
+
+    WindowOptions options;
     GLFWwindow* window = nullptr;
+    Placement windowed; // while it fills the monitor: to be gone back to
+    Pixels framebuffer;
+    int longestSide = std::numeric_limits<int>::max(); // that can be drawn, pixels
     std::function<void(bool)> focusChanged;
 };

@@ -1,10 +1,12 @@
 #include "platform/Monitors.h"
 
+#include "platform/WindowLibrary.h"
+
 #include <GLFW/glfw3.h>
 
 std::optional<std::vector<std::string>> monitorNames()
 {
-    if (glfwInit() != GLFW_TRUE) return std::nullopt;
+    if (!startWindowLibrary()) return std::nullopt;
     int count = 0;
     GLFWmonitor** const monitors = glfwGetMonitors(&count);
     std::vector<std::string> names;

@@ -16,10 +16,5 @@ class AIPlayer final : private AIControllerHolder, public Player {
 public:
     AIPlayer(IMatch& match, IPresentation& presentation);
 
-    void setUp() override;
-    glm::vec4 getColor() const override; ///< grey, darker with each computer player
     bool hasSound() const override { return false; }
-
-private:
-    int computerIndex = 0; // the computer players that were there before this one
 };

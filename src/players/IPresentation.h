@@ -1,6 +1,8 @@
 #pragma once
 
 #include "audio/ISound.h"
+#include "players/PlayerLabel.h"
+#include "scene/Viewport.h"
 
 #include <glm/glm.hpp>
 
@@ -48,9 +50,11 @@ public:
     /// Keep what is heard going. Once per frame.
     virtual void update() = 0;
 
-    /// Write a line of text for this frame; x and y in normalised device coordinates of the whole window, at the
-    /// lower-left of the first letter.
-    virtual void addText(const std::string& text, double x, double y) = 0;
+    /// Write what a player is told, for this frame. view: the player's own, pixels.
+    virtual void addLabel(const PlayerLabel& label, const Viewport::Rect& view) = 0;
+
+    /// Write the sign of a car that is at that place, in world space, into one view of this frame; if cars have signs.
+    virtual void addSign(const std::string& sign, const glm::vec3& place, const Viewport& view) = 0;
 
     virtual glm::ivec2 getWindowSize() const = 0; ///< pixels
 };

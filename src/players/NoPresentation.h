@@ -18,6 +18,7 @@ public:
         return std::make_unique<Silence>();
     }
     void update() override {}
-    void addText(const std::string&, double, double) override {}
+    void addLabel(const PlayerLabel&, const Viewport::Rect&) override {}
+    void addSign(const std::string&, const glm::vec3&, const Viewport&) override {}
     glm::ivec2 getWindowSize() const override { return {1024, 768}; }
 };

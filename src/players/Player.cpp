@@ -3,6 +3,7 @@
 #include "base/FrameTimer.h"
 #include "base/Logger.h"
 #include "base/Random.h"
+#include "base/Translation.h"
 #include "input/InputDevice.h"
 #include "physics/PhysicNode.h"
 #include "physics/PhysxManager.h"
@@ -38,15 +39,6 @@ struct Rumble {
 constexpr Rumble kHitRumble{300, 60000};
 constexpr Rumble kRespawnRumble{600, 30000};
 
-const glm::vec4 kColours[] = {
-    {0.9f, 0.2f, 0.1f, 1},
-    {0.2f, 0.9f, 0.1f, 1},
-    {0.1f, 0.2f, 0.9f, 1},
-    {0.9f, 0.9f, 0.2f, 1},
-    {0.2f, 0.9f, 0.9f, 1},
-    {0.9f, 0.2f, 0.9f, 1},
-};
-
 void rumble(InputDevice& device, const Rumble& request)
 {
     device.vibrate(request.milliseconds, request.motorSpeed, request.motorSpeed);
@@ -60,16 +52,16 @@ float randomPlace()
 
 } // namespace
 
-Player::Player(IMatch& ownMatch, IPresentation& ownPresentation, InputDevice& ownDevice)
-    : Actor(ownMatch, ownDevice), presentation(ownPresentation), lastShotTime(FrameTimer::getInstance()->getTimeMs()),
-      health(kFullHealth)
+Player::Player(IMatch& ownMatch, IPresentation& ownPresentation, InputDevice& ownDevice, PlayerLook ownLook)
+    : Actor(ownMatch, ownDevice), presentation(ownPresentation), look(std::move(ownLook)),
+      lastShotTime(FrameTimer::getInstance()->getTimeMs()), health(kFullHealth)
 {
+    if (look.name.empty()) look.name = device.getName();
 }
 
 void Player::setUp()
 {
     playerNumber = match.getActorCount();
-    colourIndex = match.getHumanPlayerCount();
     logLine(2) << "Registering " << getName() << std::endl;
 
     createCar();
@@ -139,14 +131,9 @@ Node* Player::createWheel(unsigned wheel) const
     return tire;
 }
 
-glm::vec4 Player::getColor() const
-{
-    return kColours[colourIndex];
-}
-
 std::string Player::getName() const
 {
-    return "(" + std::to_string(score) + ") Player " + std::to_string(playerNumber) + ", " + device.getName();
+    return "(" + std::to_string(score) + ") Player " + std::to_string(playerNumber) + ", " + look.name;
 }
 
 void Player::update()
@@ -212,16 +199,9 @@ void Player::respawn()
 
 void Player::drawLabel() const
 {
-    constexpr double kMargin = 0.05;
-    constexpr double kHighest = 0.9;
-    constexpr double kLineSpacing = 0.1;
-
-    const Viewport::Rect& rect = getViewport()->getRect();
-    const glm::dvec2 window(presentation.getWindowSize());
-    const double x = 2 * rect.x / window.x - 1 + kMargin;
-    const double y = std::min(1 - (2 * rect.y / window.y - 1), kHighest);
-    presentation.addText("Pl. " + std::to_string(match.getRank(*this)) + " (" + std::to_string(score) + ")", x, y);
-    presentation.addText(device.getName(), x, y - kLineSpacing);
+    const std::string place = std::to_string(match.getRank(*this)), points = std::to_string(score);
+    presentation.addLabel({look.sign, translated("Pl. ") + place + " (" + points + ")", look.name},
+        getViewport()->getRect());
 }
 
 glm::mat4 Player::getLaunchTransform() const

@@ -13,21 +13,29 @@ class IPresentation;
 class PhysicNode;
 class VehicleHandle;
 
+/// How everybody sees a player.
+struct PlayerLook {
+    std::string name; ///< empty: the device's
+    glm::vec4 colour; ///< red, green, blue, alpha
+    std::string sign; ///< that stands for the player in little room: "1" to "6" for people
+};
+
 /// A driver with a car, steered by an input device. The match creates it, calls setUp() once, puts it into its lists,
 /// and from then on update() once a frame; it decides hits and points and calls takeDamage(), addScore() and die().
 class Player : public Actor, public IPilot {
 public:
-    Player(IMatch& match, IPresentation& presentation, InputDevice& device);
+    Player(IMatch& match, IPresentation& presentation, InputDevice& device, PlayerLook look);
 
     /// Build the car and its nodes and drop it into the field. To be called before the match counts this player in.
-    virtual void setUp();
+    void setUp();
 
-    virtual glm::vec4 getColor() const; ///< red, green, blue, alpha
+    glm::vec4 getColor() const { return look.colour; }
+    const std::string& getSign() const { return look.sign; }
 
     /// Return whether somebody hears this player: with an engine, effects at full volume and a label on the screen.
     virtual bool hasSound() const { return true; }
 
-    std::string getName() const override; ///< "(3) Player 1, XBOX 2": score, player number, device
+    std::string getName() const override; ///< "(3) Player 1, XBOX 2": score, player number, name
     void update() override;               ///< read the device, drive, shoot, move the smoke
     bool isPlayer() const override { return true; }
     glm::vec3 getPosition() const override; ///< of the chassis
@@ -37,7 +45,7 @@ public:
     void respawn();              ///< stop the car and drop it anywhere from height 50, upright
     void addScore(int points) { score += points; }
 
-    /// Write rank, score and device name at the left edge of the player's viewport.
+    /// Write rank, score and name where this player looks.
     void drawLabel() const;
 
     int getHealth() const { return health; } ///< 0 to 100
@@ -63,6 +71,7 @@ private:
     Node* createWheel(unsigned wheel) const;
 
     IPresentation& presentation;
+    PlayerLook look;
     BodyOwner bodyOwner{this, nullptr};
     PhysicNode* chassisNode = nullptr;
     VehicleHandle* vehicle = nullptr;
@@ -75,5 +84,4 @@ private:
     int score = 0;
     int deaths = 0;
     int playerNumber = 0;
-    int colourIndex = 0;
 };

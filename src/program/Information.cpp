@@ -10,6 +10,7 @@
 #include <PxPhysicsVersion.h>
 #include <SDL.h>
 #include <assimp/version.h>
+#include <glib.h>
 #include <sndfile.h>
 
 #include <iostream>
@@ -47,7 +48,8 @@ void printVersions(const std::filesystem::path& givenData)
               << reinterpret_cast<const char*>(glewGetString(GLEW_VERSION)) << "\nOpenAL " << soundLibraryVersion()
               << '\n'
               << sf_version_string() << "\nSDL " << sdlVersion() << "\nAssimp "
-              << dotted(aiGetVersionMajor(), aiGetVersionMinor(), aiGetVersionPatch()) << '\n'
+              << dotted(aiGetVersionMajor(), aiGetVersionMinor(), aiGetVersionPatch()) << "\nGLib "
+              << dotted(glib_major_version, glib_minor_version, glib_micro_version) << '\n'
               << "Data: " << (data.empty() ? "none found" : data.string()) << '\n';
 }
 

@@ -75,11 +75,12 @@ int playRecorded(const Options& options, unsigned seed, const fs::path& file)
     return playInWindow(options, recorded);
 }
 
-int tell(const ReplayOptions& replay, const SoundOptions& sound)
+int tell(const Options& options)
 {
+    const ReplayOptions& replay = options.replay;
     Source source(replay.replay);
     if (!openForTelling(source, replay.replay)) return kUsageError;
-    return replay.headless ? replayHeadless(source) : tellInWindow(source, sound, replay);
+    return replay.headless ? replayHeadless(source) : tellInWindow(source, options, replay);
 }
 
 int play(const ReadOptions& read)
@@ -91,7 +92,7 @@ int play(const ReadOptions& read)
     const unsigned seed = sow(options.start.seed);
     if (!enterDataFolder(options.program.dataFolder)) return EXIT_FAILURE;
 
-    if (!replay.replay.empty()) return tell(replay, options.sound);
+    if (!replay.replay.empty()) return tell(options);
     const fs::path record = recordingFile(replay.record);
     if (replay.headless) return playHeadless(options.start, seed, replay.passes, record);
     return record.empty() ? playInWindow(options, plainOutside()) : playRecorded(options, seed, record);

@@ -5,14 +5,12 @@
 #include "platform/Keyboard.h"
 #include "render/Light.h"
 #include "render/Renderer.h"
-#include "render/TextRenderer.h"
 #include "scene/Camera.h"
 #include "scene/Node.h"
 
 #include <GLFW/glfw3.h>
 
 #include <algorithm>
-#include <string>
 #include <tuple>
 
 namespace {
@@ -21,7 +19,7 @@ constexpr int kShadowUnit = 2; // texture unit
 
 } // namespace
 
-void ModelRenderer::render(Camera* camera)
+unsigned ModelRenderer::render(Camera* camera)
 {
     const bool culling = !isKeyDown(GLFW_KEY_F8);
     unsigned culled = 0;
@@ -39,8 +37,8 @@ void ModelRenderer::render(Camera* camera)
         }
         drawModel(*model);
     }
-    if (!isKeyDown(GLFW_KEY_F1)) renderer->getTextRenderer()->addText("culled: " + std::to_string(culled), -1.0, -1.0);
     Shaderprogram::unuse();
+    return culled;
 }
 
 /// Return the models by render order; then near things before the ground and the ground before the sky, so that hidden

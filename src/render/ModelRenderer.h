@@ -14,9 +14,9 @@ class ModelRenderer final : public ModelRegistry {
 public:
     explicit ModelRenderer(Renderer* owner) : renderer(owner) {}
 
-    /// Draw what the camera may see, by render order, into the framebuffer and viewport that are set, and queue the
-    /// text "culled: " with the number of models left out.
-    void render(Camera* camera);
+    /// Draw what the camera may see, by render order, into the framebuffer and viewport that are set. Return the
+    /// number of models left out.
+    unsigned render(Camera* camera);
 
 private:
     std::vector<Model*> sorted() const;

@@ -4,6 +4,7 @@
 #include "base/IGameState.h"
 #include "base/Logger.h"
 #include "platform/Image.h"
+#include "platform/Keyboard.h"
 #include "render/DebugRenderer.h"
 #include "render/FrameProbe.h"
 #include "render/GlDebug.h"
@@ -22,10 +23,18 @@
 namespace {
 
 constexpr const char* kTitle = "Quackdash";
-constexpr int kWindowX = 300, kWindowY = 30; // pixels from the screen's upper-left corner
 constexpr int kFpsInterval = 1000;           // milliseconds between two texts
 constexpr float kNearest = 0.1f;             // world units from the eye: what is nearer is not drawn
 constexpr double kFpsX = -0.8, kFpsY = -0.8; // normalised device coordinates
+
+/// Return how long a side of what is drawn may be, in pixels.
+int longestSide()
+{
+    GLint texture = 0, viewport[2] = {};
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &texture);
+    glGetIntegerv(GL_MAX_VIEWPORT_DIMS, viewport);
+    return std::min({texture, viewport[0], viewport[1]});
+}
 
 void setArea(int x, int y, int width, int height)
 {
@@ -57,32 +66,49 @@ Renderer::~Renderer()
     if (IRenderServices::current() == this) IRenderServices::setCurrent(nullptr);
 }
 
-bool Renderer::initialize()
+bool Renderer::initialize(const WindowOptions& windowOptions, const ViewOptions& viewOptions)
 {
     logLine(2) << "Initialize Renderer" << std::endl;
-    if (!openWindow() || !loadEntryPoints()) {
+    views = viewOptions;
+    if (!openWindow(windowOptions) || !loadEntryPoints()) {
         window.terminate();
         return false;
     }
     setFixedState();
     textRenderer = std::make_unique<TextRenderer>();
-    targets = std::make_unique<RenderTargets>(glm::ivec2(width, height));
+    window.limitTo(longestSide());
+    makeTargets();
     return true;
 }
 
-bool Renderer::openWindow()
+void Renderer::makeTargets()
+{
+    width = window.framebufferSize().width;
+    height = window.framebufferSize().height;
+    targets.reset(); // so that no two stand in memory at a time
+    targets = std::make_unique<RenderTargets>(glm::ivec2(width, height));
+}
+
+bool Renderer::followWindow()
+{
+    const AppWindow::Pixels size = window.framebufferSize();
+    if (size.width == width && size.height == height) return false;
+    makeTargets();
+    return true;
+}
+
+bool Renderer::openWindow(const WindowOptions& options)
 {
     if (!window.initialize()) {
         logLine(0) << "Glfw initialization failed" << std::endl;
         return false;
     }
     logLine(2) << "Glfw initialized" << std::endl;
-    if (!window.open(width, height, kTitle)) {
+    if (!window.open(options, kTitle)) {
         logLine(0) << "Opengl 4.3 not available" << std::endl;
         return false;
     }
     logLine(2) << "Create Window" << std::endl;
-    window.place(kWindowX, kWindowY);
     return true;
 }
 
@@ -121,6 +147,16 @@ void Renderer::render(IGameState* state)
     stepDone("swap");
 }
 
+void Renderer::setViewports(const std::vector<Viewport*>& list)
+{
+    viewports = list;
+    if (!views.wide) return;
+    for (const Viewport* viewport : viewports) {
+        const Viewport::Rect& rect = viewport->getRect();
+        viewport->camera->fit(static_cast<float>(rect.width) / static_cast<float>(rect.height));
+    }
+}
+
 void Renderer::updateScene()
 {
     if (sceneGraph) sceneGraph->update();
@@ -155,7 +191,7 @@ void Renderer::renderViewports(IGameState* state)
         apply(*viewport);
         currentCamera = viewport->camera;
         currentHeight = viewport->getRect().height;
-        renderModels();
+        renderModels(*viewport);
         if (state) state->renderCamera(currentCamera);
         if (isKeyDown(GLFW_KEY_F6)) renderDebugOverlay();
     }
@@ -163,11 +199,12 @@ void Renderer::renderViewports(IGameState* state)
     stepDone("model passes");
 }
 
-void Renderer::renderModels()
+void Renderer::renderModels(const Viewport& viewport)
 {
     if (!sceneGraph) return;
     sceneGraph->accept(&modelRenderer);
-    modelRenderer.render(currentCamera);
+    const unsigned culled = modelRenderer.render(currentCamera);
+    if (writeCulled && !isKeyDown(GLFW_KEY_F1)) writeCulled("culled: " + std::to_string(culled), viewport);
 }
 
 void Renderer::renderDebugOverlay()

@@ -3,13 +3,16 @@
 #include "assets/IRenderServices.h"
 #include "platform/AppWindow.h"
 #include "render/CameraUniforms.h"
+#include "render/CulledText.h"
 #include "render/ModelRenderer.h"
 #include "render/ShadowMappingRender.h"
 #include "render/TextureFilters.h"
+#include "render/ViewOptions.h"
 
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class DebugRenderer;
@@ -33,7 +36,10 @@ public:
 
     /// Open the window and create everything that frames need. Return false, with a log line at level 0, when there is
     /// no display, no OpenGL 4.3 or no entry points; then nothing else may be called but terminate().
-    [[nodiscard]] bool initialize();
+    [[nodiscard]] bool initialize(const WindowOptions& windowOptions = {}, const ViewOptions& viewOptions = {});
+
+    /// Make the targets anew if the window's size has changed. Return whether it has: then the viewports no longer fit.
+    [[nodiscard]] bool followWindow();
 
     /// Draw and present one frame. The state (or null) gets its per-camera call after each viewport's models.
     void render(IGameState* state);
@@ -41,20 +47,25 @@ public:
     bool shouldClose() const;
     void terminate();
 
-    int getWidth() const { return width; }   ///< pixels
-    int getHeight() const { return height; } ///< pixels
+    int getWidth() const { return width; }   ///< of the window's framebuffer, pixels
+    int getHeight() const { return height; } ///< likewise
     AppWindow& getWindow() { return window; }
 
     void setSceneGraph(SceneGraph* graph) { sceneGraph = graph; }
     SceneGraph* getSceneGraph() const { return sceneGraph; }
-    void addViewport(Viewport* viewport) { viewports.push_back(viewport); }
+
+    /// Draw these from now on, in their order. Again after their rectangles have changed: cameras may follow them.
+    void setViewports(const std::vector<Viewport*>& list);
     const std::vector<Viewport*>& getViewports() const { return viewports; }
-    void setViewports(const std::vector<Viewport*>& list) { viewports = list; }
+
     void setDebugRenderer(DebugRenderer* renderer) { debugRenderer = renderer; }
     void setFrameProbe(IFrameProbe* newProbe) { probe = newProbe; } ///< null for none
 
     ModelRenderer* getModelRenderer() { return &modelRenderer; }
     ShadowMappingRender* getShadowRenderer() { return &shadowRenderer; }
+    /// Tell what writes how many models a view leaves out, once for each view; none at first.
+    void setCulledText(CulledText write) { writeCulled = std::move(write); }
+
     TextRenderer* getTextRenderer() { return textRenderer.get(); } ///< null before initialize()
     Camera* getCurrentCamera() const override { return currentCamera; }
     unsigned getLightDepthTexture() const; ///< GL name
@@ -81,23 +92,25 @@ public:
     void resetSwitches(); ///< to what they are at the start
 
 private:
-    bool openWindow();
+    bool openWindow(const WindowOptions& options);
     bool loadEntryPoints();
     void setFixedState();
+    void makeTargets();
 
     void updateScene();
     void renderLightDepth();
     void renderLightDepthAnew();
     void renderViewports(IGameState* state);
-    void renderModels();
+    void renderModels(const Viewport& viewport);
     void renderDebugOverlay();
     void renderText();
     void updateFpsText();
     void postProcess();
     void stepDone(const char* step);
 
-    int width = 1024;
-    int height = 768;
+    int width = 0;
+    int height = 0;
+    ViewOptions views;
     bool wireframe = false;
     bool blendingAllowed = true;
     bool showFps = false;
@@ -106,6 +119,7 @@ private:
     TextureFilters filters;
 
     AppWindow window;
+    CulledText writeCulled;
     Camera* currentCamera = nullptr;
     int currentHeight = 0; // of the viewport being drawn, pixels
     ModelRenderer modelRenderer{this};

@@ -49,8 +49,9 @@ void tell(Source& source, Comparison& comparison)
     source.begin();
     NoPresentation nobody;
     BareMatch match(nobody);
-    PlayerRegistration registration(match.getMatch(), source.makeDevices());
-    registration.admit(startOf(source.getRecording().getHeader()));
+    const StartOptions start = startOf(source.getRecording().getHeader());
+    PlayerRegistration registration(match.getMatch(), source.makeDevices(), start.names);
+    registration.admit(start);
     while (source.nextPass()) {
         FrameTimer::getInstance()->tick();
         if (isPassTooLong()) continue;

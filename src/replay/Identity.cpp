@@ -80,6 +80,7 @@ recording::Header describeThisPlay(unsigned seed, const StartOptions& start, con
     header.set_start_ms(static_cast<int>(FrameTimer::getInstance()->getTimeMs()));
     header.set_computer_players(start.computerPlayers);
     for (const JoinDevice device : start.join) header.add_join(static_cast<int>(device));
+    for (const std::string& name : start.names) header.add_names(name);
     forEachWord(controls, [&header](const std::string& word) { header.add_controls(word); });
     return header;
 }
@@ -105,6 +106,7 @@ StartOptions startOf(const recording::Header& header)
     start.seed = header.seed();
     start.computerPlayers = header.computer_players();
     for (const int device : header.join()) start.join.push_back(static_cast<JoinDevice>(device));
+    std::ranges::copy(header.names(), start.names.begin());
     return start;
 }
 

@@ -46,7 +46,7 @@ public:
     std::string getName() const override
     {
         std::string name = device->getName();
-        state.name = name.substr(0, kLongestName);
+        state.name = name.substr(0, kLongestDeviceName);
         return name;
     }
     bool isStartPressed() override

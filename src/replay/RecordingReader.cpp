@@ -26,7 +26,7 @@ bool isSound(const recording::Device& device)
 {
     return device.number() < kDevices && device.buttons() <= kAllButtons && isAxis(device.axis_0()) &&
         isAxis(device.axis_1()) && isAxis(device.axis_2()) && isAxis(device.axis_3()) &&
-        device.name().size() <= kLongestName;
+        device.name().size() <= kLongestDeviceName;
 }
 
 bool isSound(const recording::Sample& sample)
@@ -51,12 +51,14 @@ bool isLine(const std::string& text)
 bool isSound(const recording::Header& header)
 {
     const auto isDevice = [](int device) { return device >= 0 && device < kDevices; };
+    const auto isName = [](const std::string& name) { return isLine(name) && name.size() <= kLongestName; };
     std::vector<int> join(header.join().begin(), header.join().end());
     std::ranges::sort(join);
     return std::ranges::all_of(join, isDevice) && std::ranges::adjacent_find(join) == join.end() &&
         header.computer_players() >= 0 && header.computer_players() <= PlayerRegistration::kMaxComputerPlayers &&
         header.start_ms() >= 0 && isLine(header.game()) && isLine(header.sdk()) && isLine(header.compiler()) &&
-        header.controls_size() == kControlWords && std::ranges::all_of(header.controls(), isLine);
+        header.controls_size() == kControlWords && std::ranges::all_of(header.controls(), isLine) &&
+        header.names_size() == kDevices && std::ranges::all_of(header.names(), isName);
 }
 
 } // namespace

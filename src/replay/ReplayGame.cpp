@@ -25,9 +25,14 @@ constexpr auto kIdle = std::chrono::milliseconds(2);      // between two looks a
 constexpr double kBarX = -0.97, kBarY = -0.9;             // normalised device coordinates
 constexpr std::size_t kBarWidth = 31;                     // characters, from edge to edge
 
-GameOptions optionsOf(const recording::Header& header, const SoundOptions& sound)
+/// Who plays comes from the recording, how it is seen and heard from the viewer, whose keys are not the game's.
+GameOptions optionsOf(const recording::Header& header, const GameOptions& viewer)
 {
-    return {sound, startOf(header), controlsOf(header), {}};
+    GameOptions options = viewer;
+    options.start = startOf(header);
+    options.controls = controlsOf(header);
+    options.keys = {};
+    return options;
 }
 
 /// Writes a frame into a file.
@@ -61,8 +66,8 @@ double millisecondsIn(std::chrono::steady_clock::duration duration)
 } // namespace
 
 ReplayGame::ReplayGame(Source& ownSource, ReplayedPlay& play, std::unique_ptr<IPresentation> ownPresentation,
-    ReplayPresentation& ownShown, const SoundOptions& sound)
-    : QKD_Game(std::move(ownPresentation), optionsOf(ownSource.getRecording().getHeader(), sound), play),
+    ReplayPresentation& ownShown, const GameOptions& viewer)
+    : QKD_Game(std::move(ownPresentation), optionsOf(ownSource.getRecording().getHeader(), viewer), play),
       source(ownSource), shown(ownShown), view(*getCore()->getRenderer()), keys(view.getWindow())
 {
 }
@@ -234,12 +239,12 @@ bool ReplayGame::writePictures(const fs::path& folder)
     return written;
 }
 
-int tellInWindow(Source& source, const SoundOptions& sound, const ReplayOptions& options)
+int tellInWindow(Source& source, const GameOptions& viewer, const ReplayOptions& options)
 {
-    auto presentation = std::make_unique<ReplayPresentation>(*Core::getInstance()->getRenderer());
+    auto presentation = std::make_unique<ReplayPresentation>(*Core::getInstance()->getRenderer(), viewer.text);
     ReplayPresentation& shown = *presentation;
     ReplayedPlay play(source);
-    ReplayGame game(source, play, std::move(presentation), shown, sound);
+    ReplayGame game(source, play, std::move(presentation), shown, viewer);
     const bool told = options.pictures.empty() ? game.show(options.speed) : game.writePictures(options.pictures);
     return told ? EXIT_SUCCESS : EXIT_FAILURE;
 }

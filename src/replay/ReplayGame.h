@@ -18,7 +18,7 @@ class ReplayGame : public QKD_Game {
 public:
     /// All borrowed; the source is open. `shown` is what is given away with it.
     ReplayGame(Source& source, ReplayedPlay& play, std::unique_ptr<IPresentation> ownPresentation,
-        ReplayPresentation& shown, const SoundOptions& sound);
+        ReplayPresentation& shown, const GameOptions& viewer);
 
     /// Show it until the viewer leaves. Return false when no window could be opened.
     [[nodiscard]] bool show(int timesAsFast);
@@ -63,4 +63,4 @@ private:
 };
 
 /// Show an opened recording in the window, or write pictures of it. Return the program's exit status.
-int tellInWindow(Source& source, const SoundOptions& sound, const ReplayOptions& options);
+int tellInWindow(Source& source, const GameOptions& viewer, const ReplayOptions& options);

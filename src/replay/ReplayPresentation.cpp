@@ -16,14 +16,14 @@ private:
     OwnSound& own;
 };
 
-ReplayPresentation::ReplayPresentation(Renderer& ownRenderer)
-    : renderer(ownRenderer), real(std::make_unique<Presentation>(renderer))
+ReplayPresentation::ReplayPresentation(Renderer& ownRenderer, const TextOptions& options)
+    : renderer(ownRenderer), text(options), real(std::make_unique<Presentation>(renderer, text))
 {
 }
 
 void ReplayPresentation::startOver()
 {
-    real = std::make_unique<Presentation>(renderer);
+    real = std::make_unique<Presentation>(renderer, text);
     ownSoundsMade = 0;
 }
 

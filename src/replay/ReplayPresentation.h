@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Presentation.h"
+#include "render/TextOptions.h"
 
 #include <deque>
 #include <memory>
@@ -9,7 +10,7 @@
 /// that participants have of their own play on from one time to the next.
 class ReplayPresentation : public IPresentation {
 public:
-    explicit ReplayPresentation(Renderer& ownRenderer); ///< borrowed
+    ReplayPresentation(Renderer& ownRenderer, const TextOptions& options); ///< the renderer is borrowed
 
     /// Forget the cars of before, whose world is gone.
     void startOver();
@@ -22,7 +23,11 @@ public:
     void playSound(const std::string& name, bool loop, float volume) override;
     std::unique_ptr<ISound> createSound(const std::string& name, const std::string& file) override;
     void update() override { real->update(); }
-    void addText(const std::string& text, double x, double y) override { real->addText(text, x, y); }
+    void addLabel(const PlayerLabel& label, const Viewport::Rect& view) override { real->addLabel(label, view); }
+    void addSign(const std::string& sign, const glm::vec3& place, const Viewport& view) override
+    {
+        real->addSign(sign, place, view);
+    }
     glm::ivec2 getWindowSize() const override { return real->getWindowSize(); }
 
 private:
@@ -33,6 +38,7 @@ private:
     class Handle;
 
     Renderer& renderer;
+    const TextOptions text;
     std::unique_ptr<Presentation> real;
     std::deque<OwnSound> ownSounds; // in the order in which they are made, each time
     std::size_t ownSoundsMade = 0;  // this time

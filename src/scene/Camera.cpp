@@ -36,6 +36,17 @@ Camera::Camera(float fov, float aspect, float near, float far, const glm::vec3& 
     };
 }
 
+void Camera::fit(float aspect)
+{
+    const float k = glm::radians(kProjectionFovDegrees) / 2;
+    const float h = std::atan(aspect * std::tan(k));
+    projection = glm::perspective(2 * k, aspect, kProjectionNear, kProjectionFar);
+    planes[2] = glm::vec4(std::cos(h), 0, -std::sin(h), 0);
+    planes[3] = glm::vec4(-std::cos(h), 0, -std::sin(h), 0);
+    planes[4] = glm::vec4(0, std::cos(k), -std::sin(k), 0);
+    planes[5] = glm::vec4(0, -std::cos(k), -std::sin(k), 0);
+}
+
 void Camera::update()
 {
     view = eyeOffset * glm::inverse(getNode()->getWorldTransform());

@@ -11,9 +11,13 @@
 class Camera final : public Attachable {
 public:
     /// Make a camera from fov in degrees, near and far in world units. They shape the culling planes only: the
-    /// projection is the same for every camera (45 degrees, 1.3333334, 0.1, 1000). position is the initial view's
-    /// translation, until the first update().
+    /// projection is the same for every camera (45 degrees, 1.3333334, 0.1, 1000), until it is fitted. position is the
+    /// initial view's translation, until the first update().
     Camera(float fov, float aspect, float near, float far, const glm::vec3& position);
+
+    /// Have projection and culling planes show a view of that width to height without distortion: as much up and down
+    /// as ever, more or less to the sides.
+    void fit(float aspect);
 
     void update() override; ///< take the view from the node's world transform
     void accept(INodeVisitor* visitor) override { visitor->visitCamera(this); }

@@ -17,7 +17,7 @@ public:
 
     Viewport(int x, int y, int width, int height) : rect{x, y, width, height} {}
 
-    void setRect(int x, int y, int width, int height) { rect = {x, y, width, height}; }
+    void setRect(const Rect& newRect) { rect = newRect; }
     const Rect& getRect() const { return rect; }
 
     Camera* camera = nullptr;

@@ -215,6 +215,45 @@ TEST_F(Drawing, DeletesGlObjectsWithTheirOwnersAndLeavesThemAloneOnceTheirContex
     EXPECT_EQ(objectCount(), most);
 }
 
+TEST_F(Drawing, FollowsItsWindowThroughAHundredSizesAndFillsTheMonitorWithoutKeepingAnythingOfThem)
+{
+    Renderer& renderer = game->getRenderer();
+    GLFWwindow* const window = glfwGetCurrentContext();
+    const auto isFilled = [](const Picture& picture) { // the corners, each with something in it
+        const std::size_t row = 3 * static_cast<std::size_t>(picture.width);
+        const std::size_t end = picture.pixels.size();
+        const auto isSeen = [&](std::size_t at) { return picture.pixels[at] + picture.pixels[at + 1] > 0; };
+        return isSeen(0) && isSeen(row - 30) && isSeen(end - row) && isSeen(end - 30);
+    };
+    const auto expectSize = [&](int width, int height) {
+        for (int tries = 0; tries < 1000 && (renderer.getWidth() != width || renderer.getHeight() != height); ++tries)
+            game->pass();
+        const Picture picture = game->draw();
+        EXPECT_EQ(std::pair(picture.width, picture.height), std::pair(width, height));
+        EXPECT_TRUE(isFilled(picture)) << width;
+    };
+    game->draw();
+    const int before = objectCount();
+    for (int i = 1; i <= 100; ++i) {
+        glfwSetWindowSize(window, 320 + i, 420 - i);
+        expectSize(320 + i, 420 - i);
+    }
+    glfwSetWindowSize(window, 1024, 768);
+    expectSize(1024, 768);
+
+    const GLFWvidmode& screen = *glfwGetVideoMode(glfwGetPrimaryMonitor());
+    renderer.getWindow().toggleFullscreen();
+    expectSize(screen.width, screen.height);
+    int x = 1, y = 1;
+    glfwGetWindowPos(window, &x, &y);
+    EXPECT_EQ(std::pair(x, y), std::pair(0, 0));
+    renderer.getWindow().toggleFullscreen();
+    expectSize(1024, 768);
+    glfwGetWindowPos(window, &x, &y);
+    EXPECT_EQ(std::pair(x, y), std::pair(300, 30));
+    EXPECT_LT(objectCount(), before + 50) << "more than shots that are in flight";
+}
+
 TEST_F(Drawing, LogsWhatTheDriverHasToSay)
 {
     CapturedLog log;

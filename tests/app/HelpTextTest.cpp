@@ -9,10 +9,10 @@ namespace {
 
 using Device = InputDevice;
 
-std::string screenOf(const std::vector<HelpLine>& lines)
+std::string screenOf(const std::vector<TextLine>& lines)
 {
     std::ostringstream screen;
-    for (const HelpLine& line : wrapped(lines)) screen << line.number << ": " << line.text << '\n';
+    for (const TextLine& line : wrapped(lines)) screen << line.number << ": " << line.text << '\n';
     return screen.str();
 }
 

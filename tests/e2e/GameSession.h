@@ -18,6 +18,8 @@ public:
 
     GameSession() { data.copyGameData(); }
 
+    explicit GameSession(const char* screen) : display(screen) { data.copyGameData(); } ///< see VirtualDisplay
+
     /// Start the program with these variables beside the test's own, and these arguments, without waiting. Its user has
     /// no settings but those that the test puts into the folder quackdash.
     void launch(Environment environment, std::vector<std::string> arguments = {})

@@ -102,6 +102,63 @@ TEST(Options, LeadStraightIntoAMatchWithItsOwnDataPlacesAndLog)
     EXPECT_EQ(game.program().count("WARNING | Not started at once: "), 1);
 }
 
+/// Return how far two pictures of any size lie apart, 0 to 255: as much as any sixteenth by twelfth of them does on an
+/// average.
+double distance(const Picture& one, const Picture& other)
+{
+    constexpr int kColumns = 16, kRows = 12;
+    const auto meanOf = [](const Picture& picture, int column, int row, int channel) {
+        const int left = picture.width * column / kColumns, right = picture.width * (column + 1) / kColumns;
+        const int top = picture.height * row / kRows, bottom = picture.height * (row + 1) / kRows;
+        double sum = 0;
+        for (int y = top; y < bottom; ++y)
+            for (int x = left; x < right; ++x)
+                sum += picture.pixels[static_cast<std::size_t>(3 * (y * picture.width + x) + channel)];
+        return sum / ((right - left) * (bottom - top));
+    };
+    double most = 0;
+    for (int cell = 0; cell < kColumns * kRows * 3; ++cell) {
+        const int column = cell % kColumns, row = cell / kColumns % kRows, channel = cell / kColumns / kRows;
+        most = std::max(most, std::abs(meanOf(one, column, row, channel) - meanOf(other, column, row, channel)));
+    }
+    return most;
+}
+
+TEST(Options, MakeTheWindowAsLargeAsTheySayAndTheViewsFillIt)
+{
+    using Size = std::pair<int, int>;
+    const auto show = [](GameSession& game, std::vector<std::string> arguments, const Size& resized = {}) {
+        game.start({}, arguments);
+        if (resized.first > 0) game.screen().resizeWindow(resized.first, resized.second);
+        std::this_thread::sleep_for(1s);
+        EXPECT_TRUE(game.screen().findWindow("Quackdash"));
+        const Picture picture = game.screen().look();
+        EXPECT_EQ(game.quit(), 0);
+        return picture;
+    };
+    const auto sizeOf = [](const Picture& picture) { return Size(picture.width, picture.height); };
+    Picture usual;
+    {
+        GameSession game;
+        usual = show(game, {});
+        EXPECT_EQ(sizeOf(usual), Size(1024, 768));
+        const Picture little = show(game, {"--size", "640x480"});
+        EXPECT_EQ(sizeOf(little), Size(640, 480));
+        EXPECT_LT(distance(usual, little), 20);
+        const Picture grown = show(game, {"--size", "500x700", "--resizable", "--vsync"}, {640, 480});
+        EXPECT_LT(changedShare(little, grown), 0.1);
+        const Picture tall = show(game, {"--size", "500x700", "--wide-views"});
+        EXPECT_GT(distance(usual, tall), 40);
+        EXPECT_EQ(game.complaints(), "");
+    }
+    GameSession game("1920x1080x24");
+    const Picture whole = show(game, {"-f", "--monitor", "quack"});
+    EXPECT_EQ(sizeOf(whole), Size(1920, 1080));
+    EXPECT_LT(distance(usual, whole), 20) << "views are stretched";
+    EXPECT_EQ(game.complaints(), "WARNING | There is no monitor quack; the primary one is used\n");
+    EXPECT_EQ(game.program().count("The shadow map is cut to 5461x3072: "), 1);
+}
+
 TEST(Options, ChangeTheKeysThatPeopleJoinStartAndTakePicturesWith)
 {
     GameSession game;
@@ -149,6 +206,52 @@ TEST(Options, ChangeTheKeysThatPeopleJoinStartAndTakePicturesWith)
     game.start();
     game.holdUntil("F10", "WARNING | Cannot save the picture " + pictures.string());
     EXPECT_EQ(game.quit(), 0);
+}
+
+TEST(Options, ChooseTheLanguageByThemselvesOrByTheLocale)
+{
+    GameSession game;
+    const struct {
+        std::vector<std::string> arguments;
+        const char *locale, *languages, *device;
+    } rows[] = {
+        {{}, "en_GB.UTF-8", "en", "Pfeil"},
+        {{"--language", "en"}, "de_DE.UTF-8", "de", "Arrows"},
+        {{"--language", "auto"}, "en_GB.UTF-8", "", "Arrows"},
+        {{"--language", "auto"}, "fr_FR.UTF-8", "fr:it", "Arrows"},
+        {{"--language", "auto"}, "fr_FR.UTF-8", "fr:de_AT:en", "Pfeil"},
+        {{"--language", "auto"}, "C.UTF-8", "en", "Pfeil"},
+    };
+    for (const auto& row : rows) {
+        std::vector<std::string> arguments = row.arguments;
+        arguments.insert(arguments.end(), {"--join", "arrows"});
+        game.start({{"LC_ALL", row.locale}, {"LANGUAGE", row.languages}}, arguments);
+        EXPECT_EQ(game.quit(), 0);
+        EXPECT_EQ(game.complaints(), "");
+        EXPECT_EQ(game.program().count(std::string("Player 0, ") + row.device + "\n"), 1)
+            << row.locale << ' ' << row.languages << '\n'
+            << game.program().output();
+    }
+}
+
+TEST(Options, GiveComfort)
+{
+    GameSession game("1280x720x24");
+    std::ofstream("user-dirs.dirs") << "XDG_PICTURES_DIR=\"" << fs::current_path().string() << "\"\n";
+    const GameSession::Environment british{{"LC_ALL", "en_GB.UTF-8"}, {"LANGUAGE", "en"}};
+    game.start(british, {"--comfort", "--join", "arrows,wasd", "--start"});
+    game.program().waitForOutput("WARNING | The screen may go dark during the match: ");
+    EXPECT_EQ(game.screen().look().width, 1280);
+    game.holdUntil("F10", "Picture saved: " + fs::current_path().string() + "/Quackdash/20");
+    const Picture whole = readPng(fs::directory_iterator("Quackdash")->path().string());
+    EXPECT_EQ(std::pair(whole.width, whole.height), std::pair(1280, 720));
+    EXPECT_EQ(game.quit(), 0);
+    EXPECT_EQ(game.program().count("Player 0, Arrows\n"), 1);
+
+    game.start(british, {"--comfort", "--windowed", "--size", "640x480", "--language", "de", "--join", "arrows"});
+    EXPECT_EQ(game.screen().look().width, 640);
+    EXPECT_EQ(game.quit(), 0);
+    EXPECT_EQ(game.program().count("Player 0, Pfeil\n"), 1);
 }
 
 /// What a run was heard as: samples of both sides in turn, from the first that is not silent.

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -39,8 +40,10 @@ TEST_F(OptionsTest, ComeFromTheFileUnlessTheCommandLineSaysOtherwise)
 {
     const ReadOptions read =
         readWith("volume = 40\r\nmusic-volume=\"7\"\n\n  # effects-volume = 1\n; join = pad1\nmute\n"
-                 "mute-unfocused = on\njoin = wasd,pad4\nsound-device = 'My \"big\", loud = one'\n",
-            {"--volume=30", "--volume", "20", "--no-mute", "--seed", "random", "--data", "data#1"});
+                 "mute-unfocused = on\njoin = wasd,pad4\nname = pad1=Oma Erna,arrows=Opa\n"
+                 "colours=#ff8800,000000,0a0b0c,010203,040506,ffffff\nsound-device = 'My \"big\", loud = one'\n",
+            {"--volume=30", "--volume", "20", "--no-mute", "--seed", "random", "--data", "data#1", "--name", "wasd=Kai",
+                "--name=arrows=B"});
     EXPECT_EQ(read.fault, "");
     EXPECT_EQ(read.complaints, std::vector<std::string>());
     const Options& options = read.options;
@@ -52,6 +55,8 @@ TEST_F(OptionsTest, ComeFromTheFileUnlessTheCommandLineSaysOtherwise)
     EXPECT_EQ(options.sound.device, "My \"big\", loud = one");
     EXPECT_EQ(options.start.join, (std::vector{JoinDevice::Wasd, JoinDevice::Pad4}));
     EXPECT_EQ(options.start.seed, std::nullopt);
+    EXPECT_EQ(options.start.names, (PlayerNames{"Oma Erna", "", "", "", "B", "Kai"}));
+    EXPECT_EQ(options.colours.people[0], glm::vec4(1, 136 / 255.0f, 0, 1));
 
     const ReadOptions again = readWith(settingsText(options));
     EXPECT_EQ(again.complaints, std::vector<std::string>());
@@ -59,6 +64,40 @@ TEST_F(OptionsTest, ComeFromTheFileUnlessTheCommandLineSaysOtherwise)
     EXPECT_EQ(again.options.program.dataFolder, folder.path() / "data#1");
     EXPECT_NE(settingsText(options).find("# how loud the music is: 0 to 100 (100)\nmusic-volume=7\n"),
         std::string::npos);
+}
+
+TEST_F(OptionsTest, SayWhatTheWindowFillsByTheLastOfTheirNames)
+{
+    const std::pair<std::vector<std::string>, bool> rows[] = {
+        {{}, true}, {{"-w"}, false}, {{"-w", "-f"}, true}, {{"--fullscreen", "--windowed"}, false}, {{"-wf"}, true}};
+    for (const auto& [arguments, fills] : rows) {
+        const Options options = readWith("fullscreen\nsize = 320x16384", arguments).options;
+        EXPECT_EQ(options.window.fullscreen, fills) << arguments.size();
+        EXPECT_EQ(options.window.size, (WindowSize{320, 16384}));
+    }
+}
+
+TEST_F(OptionsTest, GiveComfortOverWhatWasSetBeforeAndLeaveTheRest)
+{
+    const std::string set = settingsText(readWith("", {"--comfort"}).options);
+    std::string usual = settingsText(Options());
+    for (const char* line : {"fullscreen=true", "wide-views=true", "own-labels=true", "hint=true", "keep-awake=true",
+             "mute-unfocused=true", "culled-text=false", "language=\"auto\"", "key.screenshot=\"f10\""}) {
+        const std::string name(line, std::strchr(line, '='));
+        usual = std::regex_replace(usual, std::regex("\n" + name + "=.*"), std::string("\n") + line);
+    }
+    EXPECT_EQ(set, usual);
+
+    for (const auto& [settings, key] : {std::pair<std::string, std::string>{"key.screenshot = q\nvolume = 3\n", "q"},
+             {"wasd.shoot = f10\nvolume = 3\n", ""}, {"volume = 3\nkey.fullscreen = f10\n", ""}}) {
+        const ReadOptions read = readWith(settings, {"--hint", "--comfort", "--no-hint", "-w"});
+        EXPECT_EQ(read.fault, "");
+        EXPECT_EQ(read.complaints, std::vector<std::string>());
+        EXPECT_EQ(read.options.keys.screenshot, key);
+        EXPECT_EQ(read.options.sound.volume, 3);
+        EXPECT_TRUE(read.options.text.ownLabels);
+        EXPECT_FALSE(read.options.text.hint || read.options.window.fullscreen);
+    }
 }
 
 TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
@@ -75,7 +114,20 @@ TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
         {"join = wasd, pad5", "join: expected arrows, wasd, pad1, pad2, pad3, pad4, each once, not \"wasd, pad5\""},
         {"join = wasd,wasd", "join: expected arrows, wasd, pad1, pad2, pad3, pad4, each once, not \"wasd,wasd\""},
         {"seed = -1", "seed: expected 0 to 4294967295 or random, not \"-1\""},
+        {"size = 319x240", "size: expected 320x240 to 16384x16384, not \"319x240\""},
+        {"size = 1920x99999999999", "size: expected 320x240 to 16384x16384, not \"1920x99999999999\""},
+        {"size = 1920", "size: expected 320x240 to 16384x16384, not \"1920\""},
+        {"size = 1920x1080x1", "size: expected 320x240 to 16384x16384, not \"1920x1080x1\""},
+        {"windowed", "windowed: on the command line only"},
         {"data = /nowhere", "data: expected a folder that holds Shader and Textures, not \"/nowhere\""},
+        {"name = Oma", "name: expected DEVICE=NAME as in pad1=Granny, a device of --join and up to 9 letters without "},
+        {"name = pad5=Oma", "accents, not \"pad5=Oma\""},
+        {"name = pad1=J\xC3\xBCrgen", "accents, not \"pad1="},
+        {"name = pad1=Oma,wasd=Bartholomew", "accents, not \"pad1=Oma,wasd=Bartholomew\""},
+        {"colours = ff8800", "colours: expected default, safe, or six as in ff8800 with commas between, not "},
+        {"colours = 0,1,2,3,4,5", "between, not \"0,1,2,3,4,5\""},
+        {"language = fr", "language: expected de, en, auto, not \"fr\""},
+        {"text-scale = 99", "text-scale: expected 100 to 300, not \"99\""},
         {"write-settings", "write-settings: on the command line only"},
         {"[Sound]", "expected NAME = VALUE, not \"[Sound]\""},
         {"= 3", "expected NAME = VALUE, not \"= 3\""},
@@ -90,6 +142,7 @@ TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
         EXPECT_NE(read.complaints[0].find(what), std::string::npos) << read.complaints[0];
         EXPECT_LT(read.complaints[0].size(), 250);
         EXPECT_EQ(read.options.sound.volume, 100);
+        EXPECT_EQ(read.options.start.names, PlayerNames());
         EXPECT_EQ(read.options.sound.musicVolume, 1) << "what follows is read";
     }
     fs::remove(file);

@@ -23,9 +23,10 @@ TEST(InstalledGame, StartsFromTheRootFolderWithAndWithoutAHome)
         ASSERT_EQ(installer.waitForExit(), 0) << installer.output();
 
         const std::string display = "DISPLAY=" + screen.getName(), home = "HOME=" + folder.path().string();
-        for (const char* homeOrNone : {home.c_str(), "HOME=/nonexistent", "NO_HOME=1"}) {
+        for (const char* homeOrNone : {home.c_str(), "HOME=/dev/null", "NO_HOME=1"}) { // no driver makes the second
             ChildProcess game({
-                .command = {"env", "-i", homeOrNone, display, "ALSOFT_DRIVERS=null", folder.path() / program},
+                .command = {"env", "-i", homeOrNone, display, "ALSOFT_DRIVERS=null", folder.path() / program,
+                    "--language", "en", "--join", "arrows"},
                 .output = log,
                 .workingFolder = "/",
             });
@@ -34,6 +35,7 @@ TEST(InstalledGame, StartsFromTheRootFolderWithAndWithoutAHome)
             screen.press({"Escape"});
             EXPECT_EQ(game.waitForExit(), 0) << command << ' ' << homeOrNone;
             screen.release({"Escape"});
+            EXPECT_EQ(game.count("Player 0, Arrows\n"), 1) << "not in English: " << game.output();
             EXPECT_EQ(game.count("ERROR | ") + game.count("WARNING | "), 0) << game.output();
         }
     }

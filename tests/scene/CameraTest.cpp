@@ -54,4 +54,17 @@ TEST(CameraTest, SightReachesFiveUnitsBeyondItsPlanes)
     }
 }
 
+TEST(CameraTest, FittedToAViewShowsItUndistortedAndSeesThatMuch)
+{
+    Camera camera(45, 0.6666667f, 0.1f, 10000, {0, 0, 0});
+    camera.fit(2);
+    const glm::vec4 corner = camera.getProjection() * glm::vec4(82.84f, 41.42f, -100, 1);
+    EXPECT_TRUE(isNear(glm::vec2(corner) / corner.w, glm::vec2(1, 1)));
+    for (const float side : {1.0f, -1.0f}) { // the margin adds 6.5 to the sides, 5.4 to top and bottom
+        EXPECT_TRUE(camera.isVisible(side * glm::vec3(89, 46, -side * 100)));
+        EXPECT_FALSE(camera.isVisible(side * glm::vec3(90, 0, -side * 100)));
+        EXPECT_FALSE(camera.isVisible(side * glm::vec3(0, 47, -side * 100)));
+    }
+}
+
 } // namespace

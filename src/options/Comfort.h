@@ -1,0 +1,7 @@
+#pragma once
+
+#include "options/OptionValue.h"
+
+/// Set at once what most people like, over what was set before; on the command line only. The key for pictures is taken
+/// only where none is set, and nothing else has it.
+OptionValue comfort();
