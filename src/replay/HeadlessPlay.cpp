@@ -44,25 +44,6 @@ StartOptions withoutPeople(StartOptions start)
     return start;
 }
 
-void tell(Source& source, Comparison& comparison)
-{
-    source.begin();
-    NoPresentation nobody;
-    BareMatch match(nobody);
-    const StartOptions start = startOf(source.getRecording().getHeader());
-    PlayerRegistration registration(match.getMatch(), source.makeDevices(), start.names);
-    registration.admit(start);
-    while (source.nextPass()) {
-        FrameTimer::getInstance()->tick();
-        if (isPassTooLong()) continue;
-        updateMatch(source.getPass().state(), match.getMatch(), registration);
-        match.step();
-        if (source.getPass().has_sample())
-            comparison.check(source.getPassNumber(), source.getPass().sample(), match.getMatch());
-    }
-    printRanking(match.getMatch());
-}
-
 /// Print what came of the comparison. Return the exit status.
 int judge(const Comparison& comparison, const RecordingReader& recording)
 {
@@ -105,6 +86,26 @@ int playHeadless(const StartOptions& asked, unsigned seed, int passes, const std
 int replayHeadless(Source& source)
 {
     Comparison comparison;
-    tell(source, comparison);
+    tellHeadless(source, [&](const Match& match) {
+        if (source.getPass().has_sample()) comparison.check(source.getPassNumber(), source.getPass().sample(), match);
+    });
     return judge(comparison, source.getRecording());
+}
+
+void tellHeadless(Source& source, const std::function<void(const Match&)>& passDone)
+{
+    source.begin();
+    NoPresentation nobody;
+    BareMatch match(nobody);
+    const StartOptions start = startOf(source.getRecording().getHeader());
+    PlayerRegistration registration(match.getMatch(), source.makeDevices(), start.names);
+    registration.admit(start);
+    while (source.nextPass()) {
+        FrameTimer::getInstance()->tick();
+        if (isPassTooLong()) continue;
+        updateMatch(source.getPass().state(), match.getMatch(), registration);
+        match.step();
+        passDone(match.getMatch());
+    }
+    printRanking(match.getMatch());
 }

@@ -3,7 +3,9 @@
 #include "match/StartOptions.h"
 
 #include <filesystem>
+#include <functional>
 
+class Match;
 class Source;
 
 // Matches without a window, as fast as they go. Both need the data folder as the working directory, print what came of
@@ -15,3 +17,6 @@ int playHeadless(const StartOptions& start, unsigned seed, int passes, const std
 /// Tell an opened recording again and compare. Status 0 when nothing differs, or when another program made it, which
 /// can't be held to that; 1 when something does.
 int replayHeadless(Source& source);
+
+/// Tell an opened recording again, and show the match after each pass that was computed.
+void tellHeadless(Source& source, const std::function<void(const Match&)>& passDone);

@@ -22,6 +22,9 @@ public:
     /// Return what is wrong with the recording, in a few words; empty when it can be told.
     [[nodiscard]] std::string open();
 
+    /// Likewise, whatever version made it and with what data.
+    [[nodiscard]] std::string openFromAnywhere() { return reader.open(); }
+
     void begin();
 
     /// Set everything to what it was in the next pass. Return false at the end.
