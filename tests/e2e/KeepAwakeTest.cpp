@@ -1,4 +1,4 @@
-#include "GameSession.h"
+#include "testing/GameSession.h"
 
 #include <gtest/gtest.h>
 #include <sys/socket.h>

@@ -1,4 +1,4 @@
-#include "GameSession.h"
+#include "testing/GameSession.h"
 #include "testing/Occurrences.h"
 #include "testing/PngFile.h"
 
