@@ -27,6 +27,8 @@ using Seconds = std::chrono::duration<double>;
 
 constexpr Seconds kHandRest(0.05); // between two looks at what the hands should do
 
+constexpr char kScreen[] = "940x300x24"; // the pointer, in its middle, is over a window of 320 x 240
+
 struct Plan {
     const char* name;
     bool keys, pads; // who plays
@@ -210,7 +212,7 @@ void playOn(GameSession& game, const Plan& plan, const fs::path& file, std::vect
 
 void play(const Plan& plan, const fs::path& file)
 {
-    GameSession game;
+    GameSession game(kScreen);
     SharedPads pads(fs::absolute("pads"));
     GameSession::Environment environment;
     if (plan.pads)
