@@ -19,7 +19,9 @@ check_metadata() {
     local metainfo entry said summary image
     metainfo=$(echo "$project_root"/packaging/*.metainfo.xml) entry=$project_root/packaging/quackdash.desktop
     said=$(desktop-file-validate "$entry") && [[ -z $said ]] || die "$said"
-    said=$(LC_ALL=C.UTF-8 appstreamcli validate --pedantic --no-net "$metainfo") && [[ $said == *successful. ]] ||
+    # Newer validators would like a tag for the developers that older ones do not know.
+    said=$(LC_ALL=C.UTF-8 appstreamcli validate --pedantic --no-net "$metainfo") &&
+        ! grep -v 'developer-name-tag-deprecated$\|developer-info-missing$' <<<"$said" | grep '^[EWIP]: ' >&2 ||
         die "$said"
     while read -r summary; do
         [[ ${#summary} -le $longest_summary ]] || die "More than $longest_summary characters: $summary"

@@ -52,7 +52,12 @@ for command in "${commands[@]}"; do
             DESTDIR=$scratch/root bash -c "${command#sudo }" && [[ -x $scratch/root/usr/local/games/quackdash ]]
             ;;
         './test.sh -L unit' | 'cmake --preset '* | 'cmake --build '*) bash -c "$command" ;;
-        *) die 'Nothing runs this command of the README' ;;
+        *' = '*) # a line of the settings file
+            echo "$command" >"$scratch/settings"
+            ! build/release/quackdash --config "$scratch/settings" 2>&1 | grep "$scratch/settings:1: " >&2 ||
+                die 'This is no setting'
+            ;;
+        *) die "Nothing runs this command of the README: $command" ;;
     esac
 done >"$scratch/output" || {
     tail -n 40 "$scratch/output"

@@ -1,18 +1,5 @@
 #include "options/Comfort.h"
 
-namespace {
-
-constexpr const char* kPictureKey = "f10";
-
-bool isTaken(const Options& options, const std::string& key)
-{
-    if (options.keys.fullscreen == key) return true;
-    return std::any_of(options.controls.halves.begin(), options.controls.halves.end(),
-        [&](const auto& half) { return std::find(half.begin(), half.end(), key) != half.end(); });
-}
-
-} // namespace
-
 OptionValue comfort()
 {
     const auto read = [](Options& options, const std::string&) {
@@ -24,7 +11,7 @@ OptionValue comfort()
         options.text.ownLabels = true;
         options.text.hint = true;
         options.text.culledText = false;
-        if (options.keys.screenshot.empty() && !isTaken(options, kPictureKey)) options.keys.screenshot = kPictureKey;
+        if (options.keys.screenshot.empty()) options.keys.screenshot = "f10"; // unless something else is to have it
         return true;
     };
     return {.read = read, .write = {}, .expected = "no value", .inFile = false};

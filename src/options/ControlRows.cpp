@@ -68,8 +68,8 @@ void addDevice(std::vector<Option>& rows, const std::string& name, const std::st
     const OptionFamily& family, WordsIn wordsIn, const std::function<OptionValue(Place<std::string>)>& kind)
 {
     for (std::size_t button = 0; button < InputDevice::kButtonCount; ++button) {
-        const auto get = [=](const Options& options) -> const std::string& { return wordsIn(options)[button]; };
-        const auto set = [=](Options& options, std::string value) { wordsIn(options)[button] = std::move(value); };
+        const auto get = [=](const Options& options) -> const std::string& { return (*wordsIn(options))[button]; };
+        const auto set = [=](Options& options, std::string value) { (*wordsIn(options))[button] = std::move(value); };
         const Function& function = kFunctions[button];
         rows.push_back({kGroup, name + "." + function.name, 0, kind(Place<std::string>(get, set)),
             std::string(function.help) + " with " + people, &family});
@@ -96,10 +96,7 @@ void addHalves(std::vector<Option>& rows)
         {"--wasd.FUNCTION KEY", "likewise" + listed(ControlOptions().halves[1])},
     };
     for (std::size_t half = 0; half < ControlOptions().halves.size(); ++half) {
-        const auto wordsIn = [=](auto& options) -> auto&
-        {
-            return options.controls.halves[half];
-        };
+        const auto wordsIn = [=](auto& options) { return &options.controls.halves[half]; };
         const auto kind = [](const Place<std::string>& place) { return key(place); };
         addDevice(rows, half == 0 ? "arrows" : "wasd", kPeople[half], families[half], wordsIn, kind);
     }
@@ -111,10 +108,7 @@ void addPads(std::vector<Option>& rows)
         "--padN.FUNCTION BUTTON", "likewise, N: 1 to 4" + listed(ControlOptions::kUsualButtons)};
     for (std::size_t pad = 0; pad < ControlOptions().pads.size(); ++pad) {
         const std::string number = std::to_string(pad + 1), name = "pad" + number;
-        const auto wordsIn = [=](auto& options) -> auto&
-        {
-            return options.controls.pads[pad];
-        };
+        const auto wordsIn = [=](auto& options) { return &options.controls.pads[pad]; };
         const auto kind = [=](const Place<std::string>& place) {
             return word(place, "BUTTON", kPadExample, padWords(), name);
         };

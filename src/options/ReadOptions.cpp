@@ -47,10 +47,11 @@ ReadOptions readOptions(const std::vector<std::string>& arguments)
     while (read.fault.empty()) {
         const auto rivalry = findRivalry(read.options, where, read.settingsFile);
         if (!rivalry) break;
-        if (where.at(rivalry->loser) == kOnCommandLine) {
+        const auto place = where.find(rivalry->loser);
+        if (place != where.end() && place->second == kOnCommandLine) {
             read.fault = rivalry->fault;
         } else {
-            read.complaints.push_back(rivalry->fault);
+            if (!rivalry->fault.empty()) read.complaints.push_back(rivalry->fault);
             resetOption(rivalry->loser, read.options, where);
         }
     }

@@ -14,6 +14,12 @@ int placeOf(const Option& option, const SetWhere& where)
     return found == where.end() ? kNowhere : found->second;
 }
 
+/// Return whether an option has its value by --comfort alone, which takes what is free.
+bool isSuggested(const Option& option, const Options& options, const SetWhere& where)
+{
+    return placeOf(option, where) == kNowhere && option.value.write(options) != option.value.write(Options());
+}
+
 Rivalry describe(const Option& loser, const Option& other, const std::string& value, const SetWhere& where,
     const fs::path& file)
 {
@@ -37,6 +43,8 @@ std::optional<Rivalry> findRivalry(const Options& options, const SetWhere& where
         if (value.empty()) continue;
         const auto [owner, isFree] = owners.try_emplace({option.value.rivals, value}, &option);
         if (isFree) continue;
+        for (const Option* const either : {&option, owner->second})
+            if (isSuggested(*either, options, where)) return Rivalry{either->name, ""};
         const bool isLast = placeOf(option, where) >= placeOf(*owner->second, where);
         const Option &loser = isLast ? option : *owner->second, &other = isLast ? *owner->second : option;
         return describe(loser, other, value, where, file);

@@ -16,8 +16,8 @@ constexpr int kOnCommandLine = std::numeric_limits<int>::max(); // after every l
 
 /// Two options that are set to the same.
 struct Rivalry {
-    std::string loser; ///< the one of them that was set last
-    std::string fault; ///< names both, and where they were set
+    std::string loser; ///< the one of them that was set last, or by --comfort
+    std::string fault; ///< names both, and where they were set; empty where --comfort's gives way
 };
 
 /// Return the first two options that are set to the same and may not be; nothing when there are none.

@@ -13,6 +13,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// A locale that is everywhere, and changes nothing. The C library's own C.UTF-8, by its path: from version 2.39 of the
+/// library on it knows no catalogues by its name, as C never has.
+constexpr const char* kLocale = "/C.utf8";
+
 /// Return the first of these variables of the environment that says something, or nothing.
 std::string firstOf(std::initializer_list<const char*> variables)
 {
@@ -61,8 +65,7 @@ void chooseLanguage(Language language)
     if (catalogues.empty()) return;
 
     const fs::path folder = findCatalogues();
-    // The C locale knows no catalogues; this one is everywhere, and changes nothing else.
-    if (folder.empty() || !std::setlocale(LC_MESSAGES, "C.UTF-8")) {
+    if (folder.empty() || !(std::setlocale(LC_MESSAGES, kLocale) || std::setlocale(LC_MESSAGES, "C.UTF-8"))) {
         logLine(1) << "No translations found: the screen is in German" << std::endl;
         return;
     }

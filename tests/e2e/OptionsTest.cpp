@@ -197,8 +197,8 @@ TEST(Options, ChangeTheKeysThatPeopleJoinStartAndTakePicturesWith)
     const Picture first = readPng(files[0].string()), second = readPng(files[1].string());
     EXPECT_EQ(std::pair(second.width, second.height), std::pair(1024, 768));
     EXPECT_GT(changedShare(first, second), 0.5);
-    game.program().waitFor(
-        "it in the window", [&] { return changedShare(second, game.screen().look()) < 0.2; }, 5);
+    const auto isInWindow = [&] { return changedShare(second, game.screen().look()) < 0.2; };
+    game.program().waitFor("it in the window", isInWindow, 5);
     EXPECT_EQ(game.quit(), 0);
 
     fs::remove_all("my pictures");

@@ -98,6 +98,11 @@ TEST_F(OptionsTest, GiveComfortOverWhatWasSetBeforeAndLeaveTheRest)
         EXPECT_TRUE(read.options.text.ownLabels);
         EXPECT_FALSE(read.options.text.hint || read.options.window.fullscreen);
     }
+
+    const ReadOptions later = readWith("", {"--comfort", "--arrows.shoot", "f10"});
+    EXPECT_EQ(later.fault, "");
+    EXPECT_EQ(later.options.controls.halves[0][InputDevice::kShoot], "f10");
+    EXPECT_EQ(later.options.keys.screenshot, "");
 }
 
 TEST_F(OptionsTest, ThatAreWrongInTheFileAreNamedByItsLineAndChangeNothing)
