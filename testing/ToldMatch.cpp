@@ -21,8 +21,10 @@ namespace {
 
 constexpr int kSamplesToAHash = 10;
 constexpr int kFullHealth = 100;
+constexpr float kOffTheField = -10;                // world y
 constexpr int kLeastBonus = 5, kGreatestBonus = 8; // points for a kill
 
+/// Every hit costs health and brings points, and nothing else does, but falling off the field's edge.
 class Books {
 public:
     explicit Books(ToldMatch& ownTold) : told(ownTold) {}
@@ -33,23 +35,41 @@ public:
         told.points = told.deaths = 0;
         told.participants = match.getActorCount();
         told.people = match.getHumanPlayerCount();
-        for (const Player* player : match.getActors()) {
-            told.points += player->getScore();
-            told.deaths += player->getDeaths();
-            damage += kFullHealth * player->getDeaths() + kFullHealth - player->getHealth();
-            if (!isInWorld(player->getPosition())) complain(player->getName() + " has left the world");
+        before.resize(match.getActors().size());
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            const Player& player = *match.getActors()[i];
+            noteFall(before[i], player);
+            told.points += player.getScore();
+            told.deaths += player.getDeaths();
+            damage += kFullHealth * player.getDeaths() + kFullHealth - player.getHealth();
+            if (!isInWorld(player.getPosition())) complain(player.getName() + " has left the world");
+            before[i] = {player.getDeaths(), player.getHealth(), player.getHeight()};
         }
+        damage -= lostInFalls;
         told.hits = damage / Ball::kDamage;
-        if (damage % Ball::kDamage != 0 || told.points < told.hits + kLeastBonus * told.deaths ||
-            told.points > told.hits + kGreatestBonus * told.deaths)
+        const int kills = told.deaths - told.falls;
+        if (damage % Ball::kDamage != 0 || told.points < told.hits + kLeastBonus * kills ||
+            told.points > told.hits + kGreatestBonus * kills)
             complain("the books do not balance");
         ++told.passes;
     }
 
 private:
+    struct Entry {
+        int deaths = 0, health = kFullHealth;
+        float height = 0;
+    };
+
+    void noteFall(const Entry& last, const Player& player)
+    {
+        if (player.getDeaths() == last.deaths || last.height > kOffTheField) return;
+        ++told.falls;
+        lostInFalls += last.health;
+    }
+
     static bool isInWorld(const glm::vec3& place)
     {
-        constexpr float kEdge = 276, kBottom = 0, kTop = 100; // world units
+        constexpr float kEdge = 300, kBottom = -40, kTop = 100; // world units: a fall ends at -30
         return std::abs(place.x) < kEdge && std::abs(place.z) < kEdge && place.y > kBottom && place.y < kTop;
     }
 
@@ -59,6 +79,8 @@ private:
     }
 
     ToldMatch& told;
+    std::vector<Entry> before;
+    int lostInFalls = 0; // health
 };
 
 /// A hash of all samples, written down now and then.

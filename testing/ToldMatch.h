@@ -12,6 +12,7 @@ struct ToldMatch {
     int people = 0, participants = 0;
     int passes = 0; ///< that were computed
     int hits = 0, deaths = 0, points = 0;
+    int falls = 0;       ///< deaths off the field's edge
     double distance = 0; ///< world units, at most, of a participant from where it was when it was recorded
 };
 

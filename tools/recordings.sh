@@ -10,7 +10,6 @@ folder=$root/tests/recordings
 cd "$root/build/${PRESET:-release}"
 if [[ ${1:-} != --hashes ]]; then
     ALSOFT_DRIVERS=null ./play_recordings "$folder" "$@"
-    rm -f "$folder/${1:-*}".hashes 2>/dev/null || true
-    [[ $# -gt 0 ]] || rm -f "$folder"/*.hashes
+    if [[ $# -gt 0 ]]; then rm -f "$folder/$1.hashes"; else rm -f "$folder"/*.hashes; fi
 fi
 ./hash_recordings "$folder"

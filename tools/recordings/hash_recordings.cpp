@@ -15,8 +15,9 @@ int renew(const std::filesystem::path& recording)
 {
     const ToldMatch told = tellAgain(recording);
     std::cout << recording.filename().string() << ": " << told.passes << " passes, " << told.participants
-              << " participants, " << told.hits << " hits, " << told.deaths << " deaths, " << told.points
-              << " points, at most " << told.distance << " m from where they were " << told.fault << std::endl;
+              << " participants, " << told.hits << " hits, " << told.deaths << " deaths, " << told.falls
+              << " of them falls, " << told.points << " points, at most " << told.distance << " m from where they were "
+              << told.fault << std::endl;
     return told.fault.empty() && renewHashes(recording, told.line) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 

@@ -15,6 +15,7 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <numbers>
 #include <random>
 #include <thread>
 
@@ -25,7 +26,20 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Seconds = std::chrono::duration<double>;
 
-constexpr Seconds kHandRest(0.05); // between two looks at what the hands should do
+constexpr Seconds kHandRest(0.03);     // between two looks at what the hands should do
+constexpr Seconds kBetweenLooks(0.25); // at the field
+constexpr Seconds kDrive(1.5);         // of who goes straight on, up to the next look
+constexpr double kForesight = 4;       // seconds of game time that one thinks ahead near the edge
+constexpr double kSafeGround = 170;    // world units from the middle; the field ends at 276
+constexpr double kShootingRange = 40;  // units
+constexpr double kAim = 0.06;          // radians that need no turn
+constexpr double kTurning = 3;         // radians a second of a car that is steered
+constexpr int kLooksToAMark = 80;
+
+Clock::duration inTicks(Seconds time)
+{
+    return std::chrono::duration_cast<Clock::duration>(time);
+}
 
 constexpr char kScreen[] = "940x300x24"; // the pointer, in its middle, is over a window of 320 x 240
 
@@ -96,68 +110,100 @@ struct Hands {
     }
 };
 
-/// Where a car was when the recording was last sampled.
+/// Where a car is, and where it goes.
 struct Place {
     double x = 0, z = 0, ahead = 0; // world units; radians from +z towards +x
+    double alongX = 0, alongZ = 0;  // units per second of game time
 };
 
-std::vector<Place> lastPlaces(const fs::path& file)
+Place placeOf(const recording::Participant& one)
 {
-    RecordingReader reader(file);
-    std::vector<Place> places;
-    recording::Pass pass;
-    if (!reader.open().empty()) return places;
-    while (reader.next(pass)) {
-        if (!pass.has_sample()) continue;
-        places.clear();
-        for (const recording::Participant& one : pass.sample().participants()) {
-            const auto q = [&one](int i) { return double{one.figures(3 + i)}; };
-            const double x = 2 * (q(0) * q(2) + q(3) * q(1)), z = 1 - 2 * (q(0) * q(0) + q(1) * q(1));
-            places.push_back({one.figures(0), one.figures(2), std::atan2(x, z)});
-        }
-    }
-    return places;
+    const auto figure = [&one](int i) { return double{one.figures(i)}; };
+    const auto q = [&figure](int i) { return figure(3 + i); };
+    const double x = 2 * (q(0) * q(2) + q(3) * q(1)), z = 1 - 2 * (q(0) * q(0) + q(1) * q(1));
+    return {figure(0), figure(2), std::atan2(x, z), figure(7), figure(9)};
 }
 
-/// Somebody who plays: looks up now and then, turns towards the nearest other, shoots, backs off when stuck.
+/// What the recording's last sample shows, and when it was taken.
+struct Field {
+    std::vector<Place> places; // in order of joining
+    Clock::time_point time;
+};
+
+Field lookAround(const fs::path& file)
+{
+    RecordingReader reader(file);
+    Field field;
+    recording::Pass pass;
+    Seconds age(0);
+    if (!reader.open().empty()) return field;
+    while (reader.next(pass)) {
+        age += std::chrono::milliseconds(pass.length_ms());
+        if (!pass.has_sample()) continue;
+        field.places.clear();
+        for (const recording::Participant& one : pass.sample().participants()) field.places.push_back(placeOf(one));
+        age = Seconds(0);
+    }
+    age += fs::file_time_type::clock::now() - fs::last_write_time(file);
+    field.time = Clock::now() - inTicks(age);
+    return field;
+}
+
+/// Somebody who plays: drives up to the nearest other, stops there, takes aim and shoots. Looks up when the last turn
+/// has come to its end, backs off when stuck, and keeps away from the field's edge.
 class Person {
 public:
     Person(Hands ownHands, std::size_t ownSeat) : hands(std::move(ownHands)), seat(ownSeat), random(ownSeat + 1) {}
 
     Hands& getHands() { return hands; }
 
-    void look(const std::vector<Place>& places)
+    void look(const Field& field)
     {
-        if (seat >= places.size()) return;
-        const Place& own = places[seat];
-        const Place* nearest = nullptr;
-        const auto away = [&own](const Place& other) { return std::hypot(other.x - own.x, other.z - own.z); };
-        for (const Place& other : places)
-            if (&other != &own && (!nearest || away(other) < away(*nearest))) nearest = &other;
-        const bool isStuck = away(before) < 2;
-        before = own;
-        wish = {.gas = !isStuck, .brake = isStuck, .shoots = random() % 8 != 0};
-        if (!nearest) return;
+        if (seat >= field.places.size() || field.time < straightFrom) return;
+        const Place& own = field.places[seat];
+        const Place goal = goalOf(own, field.places);
         const double turn =
-            std::remainder(std::atan2(nearest->x - own.x, nearest->z - own.z) - own.ahead, 2 * std::acos(-1));
+            std::remainder(std::atan2(goal.x - own.x, goal.z - own.z) - own.ahead, 2 * std::numbers::pi);
+        const bool isNear = away(own, goal) < kShootingRange, isStuck = drives && away(own, before) < 1;
+        before = own;
+        drives = !isNear || std::abs(turn) > kAim;
         const double strength = std::uniform_real_distribution(0.5, 1.0)(random);
-        wish.steering = static_cast<float>(std::copysign(strength, isStuck ? -turn : turn));
-        straightFrom = Clock::now() + std::chrono::duration_cast<Clock::duration>(Seconds(std::abs(turn) / 1.5));
+        wish = {.steering = static_cast<float>(std::copysign(strength, isStuck ? -turn : turn)),
+            .gas = drives && !isStuck,
+            .brake = isStuck,
+            .shoots = random() % 8 != 0};
+        straightFrom = Clock::now() + inTicks(Seconds(std::abs(turn) / kTurning));
+        restFrom = isNear ? straightFrom : straightFrom + inTicks(kDrive);
     }
 
     void act()
     {
         if (Clock::now() > straightFrom) wish.steering = 0;
+        if (Clock::now() > restFrom) wish.gas = wish.brake = false;
         hands.act(wish);
     }
 
 private:
+    static double away(const Place& one, const Place& other) { return std::hypot(other.x - one.x, other.z - one.z); }
+
+    /// The nearest other; the field's middle near its edge.
+    static Place goalOf(const Place& own, const std::vector<Place>& places)
+    {
+        const double soonX = own.x + own.alongX * kForesight, soonZ = own.z + own.alongZ * kForesight;
+        if (std::max(std::abs(soonX), std::abs(soonZ)) > kSafeGround) return {};
+        const Place* nearest = nullptr;
+        for (const Place& other : places)
+            if (&other != &own && (!nearest || away(own, other) < away(own, *nearest))) nearest = &other;
+        return nearest ? *nearest : Place();
+    }
+
     Hands hands;
     std::size_t seat; // order of joining
     std::mt19937 random;
     Place before;
+    bool drives = false;
     Wish wish;
-    Clock::time_point straightFrom;
+    Clock::time_point straightFrom, restFrom;
 };
 
 void rest(Seconds time)
@@ -197,15 +243,15 @@ void playOn(GameSession& game, const Plan& plan, const fs::path& file, std::vect
 {
     const Clock::time_point begun = Clock::now();
     const auto played = [begun] { return Seconds(Clock::now() - begun).count(); };
-    for (int second = 0; second < plan.seconds; ++second) {
-        const std::vector<Place> places = lastPlaces(file);
-        for (Person& person : people) person.look(places);
-        while (played() < second + 1) {
+    for (int looks = 1; played() < plan.seconds; ++looks) {
+        const Field field = lookAround(file);
+        for (Person& person : people) person.look(field);
+        while (played() < looks * kBetweenLooks.count()) {
             for (Person& person : people) person.act();
             rest(kHandRest);
         }
-        if (second % 20 == 19) game.screen().press({"F10"}); // a mark
-        else if (second % 20 == 0) game.screen().release({"F10"});
+        if (looks % kLooksToAMark == 0) game.screen().press({"F10"});
+        else if (looks % kLooksToAMark == 1) game.screen().release({"F10"});
     }
     for (Person& person : people) person.getHands().act({});
 }
