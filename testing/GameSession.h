@@ -28,7 +28,8 @@ public:
             environment.insert({folder, data.path()});
         arguments.insert(arguments.begin(), QUACKDASH_PROGRAM);
         const std::filesystem::path log = data.path() / "log.txt";
-        process.reset(new ChildProcess({.command = arguments, .output = log, .environment = environment}));
+        process = std::make_unique<ChildProcess>(ChildProcess::Settings{
+            .command = arguments, .output = log, .environment = environment});
     }
 
     /// Start the program with these arguments, away from any display, and return its exit status.

@@ -69,7 +69,8 @@ private:
 
     static bool isInWorld(const glm::vec3& place)
     {
-        constexpr float kEdge = 300, kBottom = -40, kTop = 100; // world units: a fall ends at -30
+        // World units: the field ends at 276, and who drives off it flies on until the fall ends at -30.
+        constexpr float kEdge = 450, kBottom = -40, kTop = 100;
         return std::abs(place.x) < kEdge && std::abs(place.z) < kEdge && place.y > kBottom && place.y < kTop;
     }
 

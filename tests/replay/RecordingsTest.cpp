@@ -21,7 +21,7 @@ struct Row {
 class Recordings : public testing::TestWithParam<Row> {};
 
 INSTANTIATE_TEST_SUITE_P(OfPeople, Recordings,
-    testing::Values(Row{"duel", 2, 2, 1, 0}, Row{"four-pads", 4, 4, 1, 0}, Row{"sixteen", 6, 16, 100, 20}),
+    testing::Values(Row{"duel", 2, 2, 3, 0}, Row{"four-pads", 4, 4, 7, 1}, Row{"sixteen", 6, 16, 100, 20}),
     [](const auto& row) { return std::string(row.param.name).substr(0, 4); });
 
 TEST_P(Recordings, GoAsTheyDidInAKnownBuildAndKeepTheirBooksInAny)

@@ -233,6 +233,7 @@ void join(GameSession& game, const Plan& plan, SharedPads& pads, std::vector<Per
 
 void begin(GameSession& game, const Plan& plan, SharedPads& pads)
 {
+    if (plan.keys && plan.pads) return game.program().waitForOutput("Enter PlayGamestate", 1); // as all have joined
     if (plan.keys) return game.holdUntil("Return", "Enter PlayGamestate");
     pads[0].starts = true;
     game.program().waitForOutput("Enter PlayGamestate");

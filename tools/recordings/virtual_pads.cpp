@@ -10,7 +10,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <optional>
+#include <vector>
 
 namespace {
 
@@ -43,7 +43,7 @@ void apply(const PadState& state, VirtualPad& pad)
 extern "C" __attribute__((visibility("default"))) void SDL_GameControllerUpdate()
 {
     static const PadStates& states = *mapStates();
-    static auto* const pads = new std::array<VirtualPad, 4>{}; // stay plugged in to the end
+    static auto* const pads = new std::vector<VirtualPad>(states.size()); // stay plugged in to the end
     static auto* const update = reinterpret_cast<void (*)()>(dlsym(RTLD_NEXT, "SDL_GameControllerUpdate"));
     for (std::size_t i = 0; i < states.size(); ++i) apply(states[i], (*pads)[i]);
     update();
