@@ -6,7 +6,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     static Input input("quackdash.conf");
     Options options;
-    static_cast<void>(parseSettings(input.set(bytes, size), options));
+    SetWhere where;
+    static_cast<void>(parseSettings(input.set(bytes, size), options, where));
     static_cast<void>(settingsText(options));
     return 0;
 }
