@@ -93,9 +93,8 @@ void ReplayGame::frame()
 {
     const Clock::time_point now = Clock::now();
     const double elapsed = millisecondsIn(now - std::exchange(lastFrame, now));
-    for (auto wish = keys.next(flight->isFlying()); wish != ViewerKeys::Wish::Nothing;
-         wish = keys.next(flight->isFlying()))
-        obey(wish);
+    const auto nextWish = [this] { return keys.next(flight->isFlying()); };
+    for (ViewerKeys::Wish wish = nextWish(); wish != ViewerKeys::Wish::Nothing; wish = nextWish()) obey(wish);
     advance(elapsed);
     if (!isDrawn || flight->isFlying()) {
         draw(static_cast<float>(elapsed / 1000));
